@@ -1,0 +1,30 @@
+# What every target of this project has in common.
+
+function(skerrymoor_compile_settings TARGET)
+  target_compile_features(${TARGET} PUBLIC cxx_std_17)
+  target_compile_definitions(${TARGET} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
+                                               QT_USE_QSTRINGBUILDER)
+  target_compile_options(${TARGET} PRIVATE -Wall -Wextra -Wshadow -Wconversion -Wno-sign-conversion)
+  if(SKERRYMOOR_DEVELOPER)
+    target_compile_options(${TARGET} PRIVATE -Werror)
+  endif()
+  set_target_properties(${TARGET} PROPERTIES AUTOMOC ON CXX_EXTENSIONS OFF)
+endfunction()
+
+# One static library per layer, made of all files in the folders of that layer.
+function(skerrymoor_add_layer LAYER)
+  set(target skerrymoor_${LAYER})
+  set(sources)
+  set(includes)
+  foreach(folder IN LISTS SKERRYMOOR_FOLDERS_${LAYER})
+    set(path ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
+    file(GLOB files CONFIGURE_DEPENDS ${path}/*.cpp ${path}/*.h)
+    if(files)
+      list(APPEND sources ${files})
+      list(APPEND includes ${path})
+    endif()
+  endforeach()
+  add_library(${target} STATIC ${sources})
+  target_include_directories(${target} PUBLIC ${includes})
+  skerrymoor_compile_settings(${target})
+endfunction()

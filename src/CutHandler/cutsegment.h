@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QColor>
+#include <QObject>
+
+/// A span of rows, from a first row up to an end row that it shares with its right neighbour.
+class CutSegment : public QObject
+{
+    Q_OBJECT
+public:
+    enum SEGMENT_STATE {
+        SEGMENT_LABELED = 0, ///< belongs to a BehaviorLabel, drawn in its colour
+        SEGMENT_CUT = 1,     ///< plain cut
+        SEGMENT_RESULT = 2   ///< candidate of a search that awaits a decision, drawn gray
+    };
+
+    CutSegment(int from, int to) : m_OriginalFrom(from), m_OriginalTo(to), m_From(from), m_To(to) {}
+
+    int GetFrom() const { return m_From; }
+    int GetTo() const { return m_To; }
+    int GetLength() const { return m_To - m_From; }
+    /// The ends as of creation or the last Move, to which merged labels return.
+    int GetOriginalFrom() const { return m_OriginalFrom; }
+    int GetOriginalTo() const { return m_OriginalTo; }
+
+    /// Set changes the present end only, Move the stored one too.
+    void SetFrom(int from) { m_From = from; }
+    void SetTo(int to) { m_To = to; }
+    void MoveFrom(int from) { m_From = m_OriginalFrom = from; }
+    void MoveTo(int to) { m_To = m_OriginalTo = to; }
+
+    SEGMENT_STATE GetState() const { return m_State; }
+    void SetState(SEGMENT_STATE state) { m_State = state; }
+    QColor GetColor() const { return m_Color; }
+    void SetColor(const QColor& color) { m_Color = color; }
+
+private:
+    SEGMENT_STATE m_State = SEGMENT_CUT;
+    int m_OriginalFrom;
+    int m_OriginalTo;
+    int m_From;
+    int m_To;
+    QColor m_Color = Qt::black;
+};

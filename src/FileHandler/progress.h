@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+/// What a long computation reports to. Core knows only this; the dialog that shows it is an
+/// adapter in ui, which also keeps the window alive and throttles itself: report freely.
+class Progress
+{
+public:
+    virtual ~Progress() = default;
+    virtual void SetLabelText(const QString& text) = 0;
+    virtual void SetRange(int minimum, int maximum) = 0;
+    virtual void SetValue(int value) = 0;
+};
+
+/// Progress nobody looks at.
+class NoProgress : public Progress
+{
+public:
+    void SetLabelText(const QString&) override {}
+    void SetRange(int, int) override {}
+    void SetValue(int) override {}
+};

@@ -1,0 +1,5 @@
+#pragma once
+
+/// A span of pixels that the user drags with the mouse.
+struct SelectionRange {
+};

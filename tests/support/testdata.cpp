@@ -1,0 +1,20 @@
+#include "testdata.h"
+
+std::unique_ptr<DataSet> MakeDataSet(const char* rows, const QStringList& names)
+{
+    auto data = std::make_unique<DataSet>();
+    const QStringList lines = QString::fromUtf8(rows).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const int width =
+        lines.isEmpty() ? names.size() : lines.first().simplified().split(QLatin1Char(' ')).size();
+    for (int i = 0; i < width; ++i)
+        data->AddAttribute(names.value(i, QString(QLatin1Char(char('A' + i % 26)))),
+                           ATTRIBUTE_OTHER);
+    for (const QString& line : lines) {
+        auto* row = new DataRow;
+        row->SetValues(line.simplified().split(QLatin1Char(' ')));
+        row->SetNumberLabel(data->GetRowCount() + 1);
+        data->AddRow(row);
+    }
+    data->ComputeRanges();
+    return data;
+}
