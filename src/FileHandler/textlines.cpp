@@ -41,6 +41,20 @@ const char* findByte(const char* begin, const char* end, char byte)
     return found ? static_cast<const char*>(found) : end;
 }
 
+// Where a text ends when a UTF-8 character that lacks its last bytes is left out.
+const char* completeEnd(const char* begin, const char* end)
+{
+    const char* lead = end;
+    const auto isContinuation = [](char c) { return (c & 0xC0) == 0x80; };
+    while (lead != begin && end - lead < 3 && isContinuation(lead[-1]))
+        --lead;
+    if (lead == begin)
+        return end;
+    const auto first = static_cast<unsigned char>(*--lead);
+    const int length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : first >= 0xC2 ? 2 : 1;
+    return first <= 0xF4 && end - lead < length ? lead : end;
+}
+
 } // namespace
 
 TextLines::TextLines(QIODevice& device)
@@ -68,7 +82,8 @@ bool TextLines::Next(std::string_view& line)
         if (!fill()) {
             if (m_Begin == m_End || !m_Error.isEmpty())
                 return false;
-            lineEnd = m_Buffer.data() + m_End;
+            lineEnd = completeEnd(m_Buffer.data() + m_Begin, m_Buffer.data() + m_End);
+            m_End = size_t(lineEnd - m_Buffer.data());
             break;
         }
         scanned = m_Begin + length;
