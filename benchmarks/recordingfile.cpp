@@ -1,0 +1,62 @@
+#include "recordingfile.h"
+
+#include <cmath>
+#include <random>
+
+namespace
+{
+
+// A slow swing with noise on it, another one in each column; six digits, some of them negative.
+class Samples
+{
+public:
+    double Next(int row, int column)
+    {
+        return (column + 1) * (std::sin(row * 0.001 * (column + 1)) + m_Noise(m_Random));
+    }
+
+private:
+    std::mt19937 m_Random{1};
+    std::uniform_real_distribution<double> m_Noise{-0.5, 0.5};
+};
+
+} // namespace
+
+RecordingFile::RecordingFile(int rows, int columns)
+{
+    if (!m_File.open())
+        qFatal("no temporary file");
+    Samples samples;
+    QByteArray block;
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column) {
+            if (column > 0)
+                block += '\t';
+            block += QByteArray::number(samples.Next(row, column), 'g', 6);
+        }
+        block += '\n';
+        if (block.size() > 1'000'000 || row == rows - 1) {
+            if (m_File.write(block) != block.size())
+                qFatal("no room for the recording");
+            block.clear();
+        }
+    }
+    m_File.close();
+}
+
+std::unique_ptr<DataSet> MakeRecording(int rows, int columns)
+{
+    auto data = std::make_unique<DataSet>();
+    data->SetAttributeCount(columns);
+    data->ReserveRows(rows);
+    Samples samples;
+    std::vector<double> values(static_cast<size_t>(columns));
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column)
+            values[size_t(column)] = samples.Next(row, column);
+        auto* dataRow = new DataRow;
+        dataRow->SetValues(values.data(), columns);
+        data->AddRow(dataRow);
+    }
+    return data;
+}
