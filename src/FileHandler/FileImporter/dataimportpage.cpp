@@ -25,7 +25,6 @@ DataImportPage::DataImportPage(DataSet** dataSet, const QString& filter, int pre
 
     connect(m_Form, &ImportFileForm::LocateRequested, this, &DataImportPage::locateFile);
     connect(m_Form, &ImportFileForm::ImportRequested, this, &DataImportPage::readFile);
-    connect(m_Form, &ImportFileForm::Changed, this, [this] { m_IsImportPending = true; });
     connect(m_Table->horizontalHeader(), &QHeaderView::sectionClicked, this,
             &DataImportPage::headerClicked);
 }
@@ -45,7 +44,6 @@ void DataImportPage::readFile()
     DataSet* dataSet = m_Form->Read();
     delete *m_DataSet;
     *m_DataSet = dataSet;
-    m_IsImportPending = !dataSet;
     m_Table->ShowDataSet(dataSet, m_PreviewRows);
     nameColumns();
 }
@@ -88,7 +86,7 @@ void DataImportPage::showHeaders(const QStringList& names)
 void DataImportPage::keyPressEvent(QKeyEvent* event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && m_IsImportPending)
+    if (isEnter && m_Form->IsChangedSinceRead())
         readFile();
     else
         QWizardPage::keyPressEvent(event);

@@ -42,5 +42,4 @@ private:
     PreviewTable* m_Table;
     QString m_Filter;
     int m_PreviewRows;
-    bool m_IsImportPending = true;
 };

@@ -41,12 +41,6 @@ void ImportFileForm::makeFields()
     m_Delimiter->setToolTip(tr("What stands between two columns"));
     m_SamplingRate->setValue(40);
     m_SamplingRate->setToolTip(tr("Rows per second"));
-
-    connect(m_FileName, &QLineEdit::textChanged, this, &ImportFileForm::Changed);
-    connect(m_StartRow, QOverload<int>::of(&QSpinBox::valueChanged), this,
-            &ImportFileForm::Changed);
-    connect(m_Delimiter, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-            &ImportFileForm::Changed);
 }
 
 QWidget* ImportFileForm::makeFileRow()
@@ -78,8 +72,14 @@ bool ImportFileForm::HasFileName() const
     return !m_FileName->text().isEmpty();
 }
 
+QStringList ImportFileForm::getFields() const
+{
+    return {m_FileName->text(), m_StartRow->text(), m_Delimiter->currentText()};
+}
+
 DataSet* ImportFileForm::Read()
 {
+    m_FieldsRead = getFields();
     FileImporter importer(this, m_FileName->text());
     importer.SetStartRow(m_StartRow->value());
     importer.SetStartColumn(m_StartColumn->value());

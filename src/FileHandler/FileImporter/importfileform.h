@@ -21,21 +21,24 @@ public:
     /// Reads the file into a new data set that the caller owns. A failure is shown to the user;
     /// what was read up to then is returned all the same, null when there is nothing.
     DataSet* Read();
+    /// Whether Read would now read something else than it did the last time.
+    bool IsChangedSinceRead() const { return getFields() != m_FieldsRead; }
     int GetSamplingRate() const;
 
 signals:
     void LocateRequested();
     void ImportRequested();
-    /// A field that Read looks at has changed.
-    void Changed();
 
 private:
     void makeFields();
     QWidget* makeFileRow();
+    QStringList getFields() const;
 
     QLineEdit* m_FileName;
     QSpinBox* m_StartRow;
     QSpinBox* m_StartColumn;
     QComboBox* m_Delimiter;
     QSpinBox* m_SamplingRate;
+    // What stood in the fields at the last Read.
+    QStringList m_FieldsRead;
 };
