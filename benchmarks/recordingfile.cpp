@@ -24,8 +24,13 @@ private:
 
 RecordingFile::RecordingFile(int rows, int columns)
 {
-    if (!m_File.open())
-        qFatal("no temporary file");
+    const QString path = qEnvironmentVariable("SKERRYMOOR_RECORDING");
+    const bool isNew = path.isEmpty() || !QFile::exists(path);
+    m_File.reset(path.isEmpty() ? new QTemporaryFile : new QFile(path));
+    if (!isNew)
+        return;
+    if (!m_File->open(QIODevice::ReadWrite))
+        qFatal("no file for the recording");
     Samples samples;
     QByteArray block;
     for (int row = 0; row < rows; ++row) {
@@ -36,12 +41,12 @@ RecordingFile::RecordingFile(int rows, int columns)
         }
         block += '\n';
         if (block.size() > 1'000'000 || row == rows - 1) {
-            if (m_File.write(block) != block.size())
+            if (m_File->write(block) != block.size())
                 qFatal("no room for the recording");
             block.clear();
         }
     }
-    m_File.close();
+    m_File->close();
 }
 
 std::unique_ptr<DataSet> MakeRecording(int rows, int columns)

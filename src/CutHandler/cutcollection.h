@@ -2,8 +2,12 @@
 
 #include "cutsegment.h"
 #include <QList>
+#include <QPair>
 #include <memory>
 #include <vector>
+
+class DataSet;
+class PatternsDataObject;
 
 /// The ordered partition of a recording's rows into segments.
 ///
@@ -33,8 +37,38 @@ public:
     /// Splits the segment that holds row at; the new segment is the right part. Null when there
     /// is none.
     CutSegment* InsertCut(int at, CutSegment::SEGMENT_STATE state);
+    /// Makes search hits into segments that await a decision. hits[t][i] tells that template t
+    /// of the pattern matched with its centre on row i, for templates templates and length rows;
+    /// rows that are the second member of an excluded pair are left out, and so are hits across
+    /// a boundary. The fifth argument is not used.
+    void InsertCuts(bool** hits, int templates, int length, PatternsDataObject* pattern, int,
+                    const QList<QPair<int, int>>& excluded);
+
+    /// Returns all segments to their stored ends, a segment not beyond the stored start of the
+    /// next one, and then lets labelled segments that are less than gap rows apart meet halfway.
+    /// Stored ends stay, so a smaller gap takes it back.
+    void MergeLabels(int gap);
+    /// Removes cuts between rows from and to. One pass leaves out the neighbour of what it
+    /// removed, so a second call may find more. False with fewer than two segments.
+    bool MergeCuts(int from, int to);
+
+    /// Gives a segment's span to a neighbour. False, and nothing changed, when both neighbours
+    /// are labelled or otherwise can't take it, or there is none on the left and a labelled one
+    /// on the right.
+    bool RemoveSegment(CutSegment* cut);
+    /// RemoveSegment on all of that state, from the last to the first.
+    void RemoveSegments(CutSegment::SEGMENT_STATE state);
+    /// Moves both ends of a segment and those of its neighbours with them. A first segment that
+    /// leaves row 0 gets a new segment in front, a last one that leaves the data set's end a new
+    /// tail. Does nothing for a segment not in the list or alone in it.
+    void MoveSegment(DataSet* dataSet, CutSegment* segment, int from, int to);
+    /// By first row; segments with the same one keep their order.
+    void Sort();
 
 private:
+    void restoreStoredEnds();
+    CutSegment* findNeighbour(const CutSegment* cut, int (CutSegment::*end)() const, int row,
+                              const char* message) const;
     CutSegment* newSegment(int from, int to);
 
     QList<CutSegment*> m_Segments;

@@ -27,6 +27,8 @@ bool isBlankLine(std::string_view line)
     return QString::fromUtf8(line.data(), int(line.size())).trimmed().isEmpty();
 }
 
+static_assert(TextLines::Padding >= ShortDecimalPadding, "lines are scanned in place");
+
 // The fast way through a line: the number itself shows where its field ends. For delimiters of
 // one byte that is no part of a short number.
 class NumberScanner

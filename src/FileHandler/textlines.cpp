@@ -21,10 +21,38 @@ bool isAscii(const char* begin, const char* end)
     return all < 0x80;
 }
 
+// In runs short enough for sums of one byte, which the compiler adds up side by side.
+qint64 countLineFeeds(const char* begin, const char* end)
+{
+    qint64 count = 0;
+    while (begin != end) {
+        const char* stop = begin + std::min<qptrdiff>(end - begin, 255);
+        unsigned char run = 0;
+        for (; begin != stop; ++begin)
+            run = static_cast<unsigned char>(run + (*begin == '\n'));
+        count += run;
+    }
+    return count;
+}
+
 const char* findByte(const char* begin, const char* end, char byte)
 {
     const void* found = begin == end ? nullptr : std::memchr(begin, byte, size_t(end - begin));
     return found ? static_cast<const char*>(found) : end;
+}
+
+// Where a text ends when a UTF-8 character that lacks its last bytes is left out.
+const char* completeEnd(const char* begin, const char* end)
+{
+    const char* lead = end;
+    const auto isContinuation = [](char c) { return (c & 0xC0) == 0x80; };
+    while (lead != begin && end - lead < 3 && isContinuation(lead[-1]))
+        --lead;
+    if (lead == begin)
+        return end;
+    const auto first = static_cast<unsigned char>(*--lead);
+    const int length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : first >= 0xC2 ? 2 : 1;
+    return first <= 0xF4 && end - lead < length ? lead : end;
 }
 
 } // namespace
@@ -54,7 +82,8 @@ bool TextLines::Next(std::string_view& line)
         if (!fill()) {
             if (m_Begin == m_End || !m_Error.isEmpty())
                 return false;
-            lineEnd = m_Buffer.data() + m_End;
+            lineEnd = completeEnd(m_Buffer.data() + m_Begin, m_Buffer.data() + m_End);
+            m_End = size_t(lineEnd - m_Buffer.data());
             break;
         }
         scanned = m_Begin + length;
@@ -76,7 +105,7 @@ qint64 TextLines::CountLines()
     while (m_Begin != m_End || fill()) {
         const char* begin = m_Buffer.data() + m_Begin;
         const char* end = m_Buffer.data() + m_End;
-        lines += std::count(begin, end, '\n');
+        lines += countLineFeeds(begin, end);
         isInsideLine = end[-1] != '\n';
         m_Begin = m_End;
     }
@@ -97,7 +126,7 @@ bool TextLines::fill()
     m_Begin = 0;
     const size_t start = m_End;
     while (m_End == start) {
-        if (m_Buffer.size() < m_End + blockSize)
+        if (m_Buffer.size() < m_End + blockSize + Padding)
             m_Buffer.resize(2 * m_Buffer.size());
         if (readBlock() <= 0)
             return false;
@@ -151,7 +180,7 @@ void TextLines::decodeBlock(size_t start)
         return;
     m_EndsInsideCharacter = static_cast<unsigned char>(end[-1]) >= 0x80;
     const QByteArray text = m_Decoder->toUnicode(begin, int(end - begin)).toUtf8();
-    m_Buffer.resize(std::max(m_Buffer.size(), start + size_t(text.size())));
+    m_Buffer.resize(std::max(m_Buffer.size(), start + size_t(text.size()) + Padding));
     std::copy(text.begin(), text.end(), m_Buffer.begin() + qptrdiff(start));
     m_End = start + size_t(text.size());
 }

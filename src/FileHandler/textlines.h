@@ -16,6 +16,9 @@ class QTextDecoder;
 class TextLines
 {
 public:
+    /// Memory that can be read behind each line.
+    static constexpr int Padding = 8;
+
     /// Reads device from its present position on; it stays open and is not owned.
     explicit TextLines(QIODevice& device);
     ~TextLines();

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+/// Helpers for the rows of the template database, on the default connection. Failures go to the
+/// log.
+
+/// A query ready for its values; without a valid statement it fails when it is run.
+QSqlQuery PrepareQuery(const char* statement);
+bool RunQuery(QSqlQuery& query);
+/// Runs an insert; the new row's id, or -1.
+int RunInsert(QSqlQuery& query);
+/// Runs a statement whose only value is an id.
+bool RunForId(const char* statement, int id);
+
+/// Takes back what was written since its construction unless committed. Inside another
+/// transaction it does nothing: the outer one decides.
+class DatabaseTransaction
+{
+public:
+    DatabaseTransaction();
+    ~DatabaseTransaction();
+    DatabaseTransaction(const DatabaseTransaction&) = delete;
+    DatabaseTransaction& operator=(const DatabaseTransaction&) = delete;
+
+    bool Commit();
+
+private:
+    QSqlDatabase m_Database;
+    bool m_IsOpen;
+};

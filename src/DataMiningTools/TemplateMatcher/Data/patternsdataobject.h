@@ -1,0 +1,49 @@
+#pragma once
+
+#include "signaltemplatecollectiondataobject.h"
+#include <QList>
+#include <QString>
+
+/// A template: a row of "pattern". Owns its signal collections, one per frequency factor.
+class PatternsDataObject
+{
+public:
+    explicit PatternsDataObject(int collectionId = -1, const QString& name = QString(),
+                                const QString& desc = QString())
+        : m_CollectionId(collectionId), m_Name(name), m_Desc(desc)
+    {
+    }
+    ~PatternsDataObject() { qDeleteAll(m_SignalCollections); }
+    PatternsDataObject(const PatternsDataObject&) = delete;
+    PatternsDataObject& operator=(const PatternsDataObject&) = delete;
+
+    /// Stores this as a new row, with addSignals all signal collections under it too. The new
+    /// id, or -1 with nothing stored.
+    int InsertPattern(bool addSignals);
+
+    /// -1 until stored.
+    int GetId() const { return m_Id; }
+    void SetId(int id) { m_Id = id; }
+    int GetCollectionId() const { return m_CollectionId; }
+    void SetCollectionId(int id) { m_CollectionId = id; }
+    QString GetName() const { return m_Name; }
+    void SetName(const QString& name) { m_Name = name; }
+    QString GetDesc() const { return m_Desc; }
+    void SetDesc(const QString& desc) { m_Desc = desc; }
+    const QList<SignalTemplateCollectionDataObject*>& GetSignalCollections() const
+    {
+        return m_SignalCollections;
+    }
+    /// Takes ownership.
+    void AddSignalCollection(SignalTemplateCollectionDataObject* collection)
+    {
+        m_SignalCollections.append(collection);
+    }
+
+private:
+    int m_Id = -1;
+    int m_CollectionId;
+    QString m_Name;
+    QString m_Desc;
+    QList<SignalTemplateCollectionDataObject*> m_SignalCollections;
+};
