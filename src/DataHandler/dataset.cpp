@@ -1,5 +1,6 @@
 #include "dataset.h"
 
+#include "columnsummary.h"
 #include <algorithm>
 
 DataSet::DataSet()
@@ -159,6 +160,14 @@ std::vector<double> DataSet::CopyColumn(int attribute) const
     std::transform(m_Rows.begin(), m_Rows.end(), column.begin(),
                    [=](const auto& row) { return row->GetValue(attribute); });
     return column;
+}
+
+const ColumnSummary& DataSet::GetColumnSummary(int attribute) const
+{
+    auto& summary = m_Summaries[attribute];
+    if (!summary || summary->GetRevision() != m_Revision)
+        summary = std::make_unique<const ColumnSummary>(*this, attribute);
+    return *summary;
 }
 
 void DataSet::makeRoomInRows(int attributes)

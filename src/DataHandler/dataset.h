@@ -5,7 +5,10 @@
 #include <QHash>
 #include <QPair>
 #include <memory>
+#include <unordered_map>
 #include <vector>
+
+class ColumnSummary;
 
 /// The one table of a recording: rows are time steps, columns are attributes.
 ///
@@ -90,6 +93,11 @@ public:
     /// One column as an array, for algorithms that walk it more than once.
     std::vector<double> CopyColumn(int attribute) const;
 
+    /// The extremes of a column's blocks, for views that look at millions of rows at once. Made
+    /// when first asked for and anew when the revision has changed; the reference holds until
+    /// then.
+    const ColumnSummary& GetColumnSummary(int attribute) const;
+
     /// Grows by every change that the data set itself can see: rows, columns, ranges. Caches
     /// over the values compare it. Values written through a row count from ComputeRanges on.
     quint64 GetRevision() const { return m_Revision; }
@@ -109,6 +117,7 @@ private:
     std::unique_ptr<QList<AttributeType>> m_AttributeTypes;
     QHash<int, bool> m_ZeroLines;
     quint64 m_Revision = 0;
+    mutable std::unordered_map<int, std::unique_ptr<const ColumnSummary>> m_Summaries;
     // Every row can be read up to this many values.
     int m_RowCapacity = 0;
 };

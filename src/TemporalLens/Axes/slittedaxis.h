@@ -1,0 +1,13 @@
+#pragma once
+
+#include "timeaxis.h"
+
+/// Compressed at both ends and stretched around the middle, with a steep step at the centre.
+///
+/// ToIndex stays that of the linear axis, so the pair is not inverse: kept, clicks on such an axis
+/// are read as if it were linear.
+class SlittedAxis : public TimeAxis
+{
+public:
+    float ToPixel(int index) const override;
+};

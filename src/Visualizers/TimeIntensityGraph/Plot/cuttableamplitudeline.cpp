@@ -1,0 +1,53 @@
+#include "cuttableamplitudeline.h"
+
+#include "collapsedwidth.h"
+#include "cutcollection.h"
+#include "dataset.h"
+#include "heatrows.h"
+#include "timeaxis.h"
+#include "verticalaxis.h"
+#include <QPainter>
+#include <algorithm>
+
+void CuttableAmplitudeLine::PaintDataSet(QPainter& painter)
+{
+    const int rows = m_DataSet->GetRowCount();
+    m_TimeAxis->SetNumberOfPoints(rows);
+    int from = 0;
+    int to = 0;
+    GetRange(from, to);
+    painter.setPen(QPen(Qt::black, 0.5));
+    paintRows(painter, from, std::min(to + 1, rows - 1), 0);
+}
+
+void CuttableAmplitudeLine::PaintCollapsed(QPainter& painter)
+{
+    if (!m_DataSet || !m_CutCollection || !m_TimeAxis || !m_VerticalAxis)
+        return;
+    const auto isBlock = [](const CutSegment& segment) {
+        return segment.GetState() == CutSegment::SEGMENT_LABELED;
+    };
+    int points = 0;
+    for (int i = 0; i < m_CutCollection->GetSegmentCount(); ++i) {
+        const CutSegment& segment = *m_CutCollection->GetSegment(i);
+        points += isBlock(segment) ? CollapsedWidth(segment) : segment.GetLength();
+    }
+    m_TimeAxis->SetNumberOfPoints(points);
+
+    const double bottom = m_VerticalAxis->GetBottom().y();
+    const double top = m_VerticalAxis->GetTop().y();
+    const HeatRows rows{*m_DataSet, m_AttributeId, *m_TimeAxis, *m_VerticalAxis, bottom, -1};
+    int point = 0;
+    for (int i = 0; i < m_CutCollection->GetSegmentCount(); ++i) {
+        const CutSegment& segment = *m_CutCollection->GetSegment(i);
+        if (!isBlock(segment)) {
+            rows.Paint(painter, segment, point - segment.GetFrom());
+            point += segment.GetLength();
+            continue;
+        }
+        const double left = m_TimeAxis->GetStart().x() + double(m_TimeAxis->ToPixel(point));
+        point += CollapsedWidth(segment);
+        const double right = m_TimeAxis->GetStart().x() + double(m_TimeAxis->ToPixel(point));
+        painter.fillRect(QRectF(left, top, right - left, bottom - top), segment.GetColor());
+    }
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "amplitudeline.h"
+
+class CutCollection;
+
+/// The line of the main graph: rows stand at their absolute place in the recording.
+class CuttableAmplitudeLine : public AmplitudeLine
+{
+public:
+    CuttableAmplitudeLine(int attribute, CutCollection* cuts)
+        : AmplitudeLine(attribute), m_CutCollection(cuts)
+    {
+    }
+
+    /// The last row of the recording is never drawn: kept, the row is only the end mark of the
+    /// last segment.
+    void PaintDataSet(QPainter& painter) override;
+    /// Labelled segments as blocks in their colours, the others in heat colours.
+    ///
+    /// Nothing calls this: kept for the collapsed display that the selection already reckons with.
+    void PaintCollapsed(QPainter& painter);
+
+    void SetCutCollection(CutCollection* cuts) { m_CutCollection = cuts; }
+    void SetShowLabeled(bool show) { m_ShowLabeled = show; }
+    bool GetShowLabeled() const { return m_ShowLabeled; }
+
+private:
+    CutCollection* m_CutCollection;
+    bool m_ShowLabeled = true;
+};

@@ -1,0 +1,25 @@
+#include "heatcolor.h"
+
+#include "dataset.h"
+#include <algorithm>
+#include <cmath>
+
+QColor HeatRgb::ToColor() const
+{
+    const auto component = [](float value) { return qreal(qBound(0.0F, value, 1.0F)); };
+    return QColor::fromRgbF(component(m_Red), component(m_Green), component(m_Blue));
+}
+
+HeatRgb HeatColor(const DataSet& data, int row, int attribute)
+{
+    const double value = std::abs(data.GetRow(row)->GetValue(attribute));
+    const double low = std::max(0.0F, data.GetRawMin(attribute));
+    const double high = std::abs(data.GetRawMax(attribute));
+    const double span = high == low ? 1 : high - low;
+    const double place = (value - low) / span;
+    const double x = 4 * (std::isnan(place) ? 0 : qBound(0.0, place, 1.0)) + 1;
+    const auto ramp = [](double level) { return float(std::max(0.0, level / 2)); };
+    return {ramp(3 - std::abs(x - 4) - std::abs(x - 5)),
+            ramp(4 - std::abs(x - 2) - std::abs(x - 4)),
+            ramp(3 - std::abs(x - 1) - std::abs(x - 2))};
+}

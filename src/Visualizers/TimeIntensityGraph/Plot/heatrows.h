@@ -1,0 +1,22 @@
+#pragma once
+
+class CutSegment;
+class DataSet;
+class QPainter;
+class TimeAxis;
+class VerticalAxis;
+
+/// What rows painted in heat colours are painted from and to.
+struct HeatRows {
+    const DataSet& m_Data;
+    const int m_AttributeId;
+    const TimeAxis& m_TimeAxis;
+    const VerticalAxis& m_VerticalAxis;
+    /// The screen's y of a value is m_BaseY plus m_Direction times its pixel.
+    const double m_BaseY;
+    const int m_Direction;
+
+    /// One line piece per row of the segment; row r stands at point r + shift of the time axis.
+    /// Missing values leave a gap.
+    void Paint(QPainter& painter, const CutSegment& segment, int shift) const;
+};

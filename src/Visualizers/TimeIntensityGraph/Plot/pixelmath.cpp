@@ -1,0 +1,39 @@
+#include "pixelmath.h"
+
+#include <QPaintDevice>
+#include <QPainter>
+#include <cmath>
+#include <limits>
+
+int TruncateToInt(double value)
+{
+    constexpr double lowest = std::numeric_limits<int>::min();
+    constexpr double highest = std::numeric_limits<int>::max();
+    return std::isnan(value) ? 0 : int(qBound(lowest, value, highest));
+}
+
+double SafeCoordinate(double value)
+{
+    constexpr double limit = 1e6;
+    return std::isnan(value) ? 0 : qBound(-limit, value, limit);
+}
+
+QRectF VisibleRect(const QPainter& painter)
+{
+    constexpr double unlimited = 1e9;
+    QRectF visible(-unlimited, -unlimited, 2 * unlimited, 2 * unlimited);
+    const QPaintDevice* device = painter.device();
+    if (!device)
+        return visible;
+    const qreal ratio = device->devicePixelRatioF();
+    const QRectF area(0, 0, device->width() * ratio, device->height() * ratio);
+    if (!area.isEmpty())
+        visible = painter.deviceTransform().inverted().mapRect(area);
+    return painter.hasClipping() ? visible & painter.clipBoundingRect() : visible;
+}
+
+double HorizontalScale(const QPainter& painter)
+{
+    const QTransform transform = painter.deviceTransform();
+    return std::hypot(transform.m11(), transform.m12());
+}

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "plotareawidget.h"
+#include "selectionrange.h"
+
+class CutSegment;
+class LabelCollection;
+class QDrag;
+
+/// The main graph: the recording's attributes with its segments, in which the user selects.
+///
+/// The widget only emits requests; null data set, cuts and labels are fine at any time.
+class CuttableLinePlotWidget : public PlotAreaWidget
+{
+    Q_OBJECT
+public:
+    explicit CuttableLinePlotWidget(QWidget* parent = nullptr);
+    ~CuttableLinePlotWidget() override;
+
+    void SetDataSet(DataSet* dataSet) override;
+    void SetLabelCollection(LabelCollection* labels) { m_LabelCollection = labels; }
+
+    /// The rows of the dragged range, from above to for a drag to the left; false without one.
+    bool GetSelectedRange(int& from, int& to) const;
+    /// The row of the last click; false without one.
+    bool GetSelectedRow(int& row) const;
+    /// The row behind a row's place when labelled segments are collapsed to blocks.
+    int computeAdjustedTimePosition(int index) const;
+
+signals:
+    void ZoomOnRegion(int startIndex, int endIndex);
+    void CutRequested();
+    void ShowInClassificationRequest();
+    void DeleteActionRequested();
+    void MoveActionRequested();
+    void SaveActionRequested();
+    void SearchActionRequested();
+    /// A window was opened that shows the present data set until it is closed.
+    void WindowOpened(QWidget* window);
+
+public slots:
+    void AddPlot(int attributeID) override;
+    void ClearSelection();
+    void ShowLabeledData(bool show);
+    void UpdateCutViz();
+    /// Reads the limits of all plots anew.
+    void ResetVerticalAxes();
+    void SetEnableOverlay(bool enable);
+    bool GetEnableOverlay() const { return m_Overlay; }
+    /// Reads the number of rows anew.
+    void updateTimeAxis();
+    void showContextMenu(QPoint point);
+
+public:
+    using PlotAreaWidget::AddPlot;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+    /// Runs the drag of a segment to another view.
+    virtual void runDrag(QDrag& drag);
+
+private:
+    struct MenuEntry;
+    static const std::vector<MenuEntry>& menuEntries();
+    bool canZoom(const CutSegment& segment) const;
+    bool canOpenPlot(const CutSegment& segment) const;
+    void zoomOnSelection(const CutSegment& segment);
+    void openPlot(const CutSegment& segment);
+
+    CutSegment* segmentAt(double x, int& index) const;
+    QPixmap dragPicture(const CutSegment& segment) const;
+    void paintTimeAxis(QPainter& painter) const;
+    void paintSelection(QPainter& painter) const;
+    void paintOverlay(QPainter& painter) const;
+
+    LabelCollection* m_LabelCollection = nullptr;
+    // A pixel after a click, a row after the context menu: kept, the keys move it by 5 of either.
+    int m_SelectedIndex = -1;
+    int m_MouseX = 0;
+    SelectionRange m_Selection;
+    int m_DragX = -1;
+    bool m_ShowLabeled = true;
+    bool m_Overlay = true;
+};

@@ -1,0 +1,356 @@
+#include "plotareawidget.h"
+
+#include "cuttablelineplot.h"
+#include "pixelmath.h"
+#include "pixmapcache.h"
+#include "plotgrid.h"
+#include "timeaxis.h"
+#include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+constexpr int tileWidth = PixmapCache::Width;
+constexpr int cuttablePlots = 1;
+constexpr int plotGap = 5;
+} // namespace
+
+PlotAreaWidget::PlotAreaWidget(QWidget* parent) : QWidget(parent) {}
+
+PlotAreaWidget::~PlotAreaWidget() = default;
+
+void PlotAreaWidget::SetDataSet(DataSet* dataSet)
+{
+    m_DataSet = dataSet;
+    m_Plots.clear();
+    repaintAll();
+}
+
+void PlotAreaWidget::SetCutCollection(CutCollection* cuts)
+{
+    m_CutCollection = cuts;
+    for (const auto& plot : m_Plots) {
+        if (auto* cuttable = dynamic_cast<CuttableLinePlot*>(plot.get()))
+            cuttable->SetCutCollection(cuts);
+    }
+    update();
+}
+
+void PlotAreaWidget::SetLeftMargin(int margin)
+{
+    m_LeftMargin = margin;
+    repaintAll();
+}
+
+void PlotAreaWidget::SetRightMargin(int margin)
+{
+    m_RightMargin = margin;
+    repaintAll();
+}
+
+void PlotAreaWidget::SetVisibleRange(int from, int to)
+{
+    constexpr int surroundings = 100;
+    const bool known = from != -1 && to != -1;
+    m_VisibleFrom = known ? from - surroundings : from;
+    m_VisibleTo = known ? to + surroundings : to;
+    RepaintCache();
+    update();
+}
+
+int PlotAreaWidget::PlotHeight() const
+{
+    const int count = GetPlotCount();
+    return (height() - 1 - plotGap * count - 4) / count;
+}
+
+bool PlotAreaWidget::GetRange(int& from, int& to) const
+{
+    from = m_From;
+    to = m_To;
+    return from != -1 && to != -1 && from != to;
+}
+
+std::unique_ptr<LinePlot> PlotAreaWidget::makePlot(int attribute)
+{
+    if (m_PlotType == cuttablePlots)
+        return std::make_unique<CuttableLinePlot>(attribute, m_CutCollection);
+    return std::make_unique<LinePlot>(attribute);
+}
+
+void PlotAreaWidget::AddPlot(int attribute)
+{
+    auto plot = makePlot(attribute);
+    plot->SetDataSet(m_DataSet);
+    appendPlot(std::move(plot));
+}
+
+void PlotAreaWidget::AddPlot(double* values, int size, QString name)
+{
+    auto plot = makePlot(-1);
+    plot->SetData(values, size, name);
+    appendPlot(std::move(plot));
+}
+
+void PlotAreaWidget::appendPlot(std::unique_ptr<LinePlot> plot)
+{
+    m_Plots.push_back(std::move(plot));
+    int from = 0;
+    int to = 0;
+    if (GetRange(from, to))
+        m_Plots.back()->SetRange(from, to);
+    repaintAll();
+}
+
+void PlotAreaWidget::RemovePlot(int attribute)
+{
+    const auto shows = [=](const auto& plot) { return plot->GetAttribute() == attribute; };
+    const auto found = std::find_if(m_Plots.begin(), m_Plots.end(), shows);
+    if (found == m_Plots.end())
+        return;
+    m_Plots.erase(found);
+    repaintAll();
+}
+
+void PlotAreaWidget::TogglePlot(int attribute)
+{
+    const auto shows = [=](const auto& plot) { return plot->GetAttribute() == attribute; };
+    if (std::any_of(m_Plots.begin(), m_Plots.end(), shows))
+        RemovePlot(attribute);
+    else
+        AddPlot(attribute);
+}
+
+void PlotAreaWidget::PlotDataRange(int from, int to)
+{
+    m_From = from;
+    m_To = to;
+    for (const auto& plot : m_Plots)
+        plot->SetRange(from, to);
+    repaintAll();
+}
+
+void PlotAreaWidget::ClearAndAddPlot(int attribute)
+{
+    m_Plots.clear();
+    AddPlot(attribute);
+}
+
+void PlotAreaWidget::ClearPlotRange()
+{
+    m_From = -1;
+    m_To = -1;
+    for (const auto& plot : m_Plots)
+        plot->SetDataSet(plot->GetDataSet());
+}
+
+TimeAxis* PlotAreaWidget::GetTimeAxis() const
+{
+    return m_Plots.empty() ? nullptr : m_Plots.front()->GetTimeAxis();
+}
+
+void PlotAreaWidget::ClearPlot()
+{
+    m_Plots.clear();
+}
+
+void PlotAreaWidget::ResizePlots(int width, int height)
+{
+    // Marks the new size as taken care of, so that resizeEvent does not repaint on its own.
+    m_TileSize = QSize(width, height);
+    resize(width, height);
+    rebuildTiles();
+}
+
+void PlotAreaWidget::repaintAll()
+{
+    ResizePlots(width(), height());
+    RepaintCache();
+}
+
+void PlotAreaWidget::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (size() == m_TileSize)
+        return;
+    rebuildTiles();
+    RepaintCache();
+}
+
+void PlotAreaWidget::layoutPlots()
+{
+    for (const auto& plot : m_Plots) {
+        plot->SetLeftMargin(m_LeftMargin);
+        plot->SetRightMargin(m_RightMargin);
+        plot->SetSize(float(PlotHeight()), float(width()));
+    }
+}
+
+void PlotAreaWidget::rebuildTiles()
+{
+    m_Tiles.clear();
+    m_Background = QPixmap();
+    m_TileSize = size();
+    layoutPlots();
+    const QRect contents = contentsRect();
+    if (contents.isEmpty())
+        return;
+    m_Tiles.resize(size_t(std::ceil(contents.width() / double(tileWidth))));
+    makeBackground();
+    makeTile(0);
+}
+
+void PlotAreaWidget::makeBackground()
+{
+    constexpr double gridOpacity = 0.1;
+    m_Background = PixmapCache(contentsRect().height(), devicePixelRatioF());
+    m_Background.fill(Qt::white);
+    QPainter painter(&m_Background);
+    for (int i = 0; i < GetPlotCount(); ++i) {
+        const int top = i * PlotHeight() + plotGap;
+        const int bottom = (i + 1) * PlotHeight() - 7;
+        PaintGrid(painter, 0, top, tileWidth, bottom, gridOpacity);
+    }
+}
+
+void PlotAreaWidget::makeTile(int index)
+{
+    auto& tile = m_Tiles[size_t(index)];
+    tile = std::make_unique<PixmapCache>(contentsRect().height(), devicePixelRatioF());
+    QPainter painter(tile.get());
+    painter.drawPixmap(0, 0, m_Background);
+    if (index == 0)
+        painter.fillRect(QRect(0, 0, m_LeftMargin, contentsRect().height()), Qt::white);
+}
+
+void PlotAreaWidget::tileRange(int& from, int& to) const
+{
+    from = 0;
+    to = GetTileCount();
+    if (!m_ViewportOnly)
+        return;
+    constexpr float width = tileWidth;
+    constexpr float surroundings = 10;
+    const float first = (float(m_VisibleFrom) - surroundings + width) / width - 1;
+    const float last = (float(m_VisibleTo) + surroundings + width) / width + 1;
+    from = TruncateToInt(double(std::floor(std::max(0.0F, first))));
+    to = TruncateToInt(double(std::ceil(std::min(float(to), last))));
+}
+
+bool PlotAreaWidget::isFarFromView(int tile) const
+{
+    const bool known = m_VisibleFrom != -1 && m_VisibleTo != -1;
+    if (!m_ViewportOnly || !known)
+        return false;
+    const int left = tile * tileWidth;
+    return left + tileWidth <= m_VisibleFrom - tileWidth || left >= m_VisibleTo + tileWidth;
+}
+
+void PlotAreaWidget::RepaintCache()
+{
+    paintCache();
+    update();
+}
+
+void PlotAreaWidget::paintCache()
+{
+    // The window may have moved to a screen of another pixel density.
+    if (!m_Tiles.empty() && m_Background.devicePixelRatioF() != devicePixelRatioF())
+        rebuildTiles();
+    if (m_Plots.empty())
+        return;
+    int from = 0;
+    int to = 0;
+    tileRange(from, to);
+    for (int i = from; i < to; ++i) {
+        if (!m_Tiles[size_t(i)])
+            makeTile(i);
+        if (!m_Tiles[size_t(i)]->m_Painted && !isFarFromView(i))
+            paintTile(i);
+    }
+}
+
+void PlotAreaWidget::paintTile(int index)
+{
+    // What the line needs beyond the tile's edges to run on into its neighbours.
+    constexpr int joint = 4;
+    PixmapCache& tile = *m_Tiles[size_t(index)];
+    const int left = index * tileWidth;
+    QPainter painter(&tile);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    painter.setClipRect(QRect(0, 0, tileWidth, contentsRect().height()));
+    painter.translate(-left, 0);
+    for (const auto& plot : m_Plots) {
+        if (plot != m_Plots.front())
+            painter.translate(0, plotGap);
+        // Only a plot with its rows at absolute places can paint a part of them in place.
+        if (m_ViewportOnly && plot->HasAbsoluteRows()) {
+            const TimeAxis* axis = plot->GetTimeAxis();
+            const int from = axis->ToIndex(float(left - joint)) - 1;
+            const int to = axis->ToIndex(float(left + tileWidth + joint)) + 1;
+            plot->Paint(painter, std::max(from, 0), std::max(to, 0), false);
+        } else {
+            plot->Paint(painter, false);
+        }
+        painter.translate(0, PlotHeight());
+    }
+    tile.m_Painted = true;
+}
+
+void PlotAreaWidget::paintEvent(QPaintEvent* event)
+{
+    if (m_Tiles.empty())
+        return;
+    QPainter painter(this);
+    int from = 0;
+    int to = 0;
+    tileRange(from, to);
+    for (int i = from; i < to; ++i) {
+        const QRect area(i * tileWidth, 0, tileWidth, contentsRect().height());
+        if (!event->rect().intersects(area))
+            continue;
+        if (m_Tiles[size_t(i)])
+            painter.drawPixmap(area.topLeft(), *m_Tiles[size_t(i)]);
+        else
+            painter.fillRect(area, Qt::white);
+    }
+}
+
+void PlotAreaWidget::PaintWidget(QPainter& painter)
+{
+    painter.fillRect(rect(), Qt::white);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.save();
+    for (const auto& plot : m_Plots) {
+        painter.translate(0, plotGap);
+        plot->Paint(painter, true);
+        painter.translate(0, PlotHeight());
+    }
+    painter.restore();
+}
+
+double PlotAreaWidget::rowToPixel(int row) const
+{
+    const TimeAxis* axis = GetTimeAxis();
+    const double offset = axis->IsUniform() ? axis->ToExactPixel(row) : double(axis->ToPixel(row));
+    return offset + axis->GetStart().x();
+}
+
+void PlotAreaWidget::paintRowRange(QPainter& painter, const RowRange& range, const QColor& color,
+                                   bool outline) const
+{
+    if (!GetTimeAxis() || !range.IsSet() || range.m_From > range.m_To)
+        return;
+    const int origin = std::max(m_From, 0);
+    const double left = rowToPixel(range.m_From - origin);
+    const double right = rowToPixel(range.m_To - origin);
+    const QRectF area(left, 0, right - left, height() - 1);
+    painter.fillRect(area, color);
+    if (!outline)
+        return;
+    painter.setPen(Qt::black);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(area);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QColor>
+#include <QRect>
+
+class CutCollection;
+class QPainter;
+class TimeAxis;
+
+/// Paints the segments of a recording over its plots.
+///
+/// Segments out of sight cost a comparison; those narrower than a pixel are painted together.
+class SegmentPainter
+{
+public:
+    /// visible: the pixels that are painted. height: of the widget.
+    SegmentPainter(const CutCollection& cuts, const TimeAxis& axis, const QRect& visible,
+                   int height);
+
+    /// Labelled segments in their colour, search results in gray.
+    void PaintFills(QPainter& painter) const;
+    /// A black outline around each segment. With collapsed labelled segments, these have none and
+    /// the others move up.
+    void PaintOutlines(QPainter& painter, bool collapsed) const;
+
+private:
+    bool isVisible(int from, int to) const { return to >= m_FirstRow && from <= m_LastRow; }
+    double toPixel(int row) const;
+
+    const CutCollection& m_Cuts;
+    const TimeAxis& m_Axis;
+    const int m_Height;
+    int m_FirstRow;
+    int m_LastRow;
+};
