@@ -1,0 +1,20 @@
+#include "dialogbuttons.h"
+
+#include <QDialog>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+QLayout* MakeDialogButtons(QDialog* dialog, const QString& acceptText)
+{
+    auto* accept = new QPushButton(acceptText);
+    auto* cancel = new QPushButton(QDialog::tr("Cancel"));
+    accept->setDefault(true);
+    QObject::connect(accept, &QPushButton::clicked, dialog, &QDialog::accept);
+    QObject::connect(cancel, &QPushButton::clicked, dialog, &QDialog::reject);
+
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(accept);
+    row->addWidget(cancel);
+    return row;
+}

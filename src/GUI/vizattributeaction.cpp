@@ -1,0 +1,1 @@
+#include "vizattributeaction.h"
