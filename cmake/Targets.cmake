@@ -27,4 +27,6 @@ function(skerrymoor_add_layer LAYER)
   add_library(${target} STATIC ${sources})
   target_include_directories(${target} PUBLIC ${includes})
   skerrymoor_compile_settings(${target})
+  # Ninja looks for changes only in the files that moc saw last time; this names the new ones.
+  set_target_properties(${target} PROPERTIES AUTOGEN_TARGET_DEPENDS "${sources}")
 endfunction()
