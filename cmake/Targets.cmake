@@ -9,6 +9,22 @@ function(skerrymoor_compile_settings TARGET)
     target_compile_options(${TARGET} PRIVATE -Werror)
   endif()
   set_target_properties(${TARGET} PROPERTIES AUTOMOC ON CXX_EXTENSIONS OFF)
+  skerrymoor_moc_new_files(${TARGET})
+endfunction()
+
+# With Ninja, CMake does not run moc again when a target has gained files and no old one has
+# changed, as after a pull. Without its time stamp it has to.
+function(skerrymoor_moc_new_files TARGET)
+  get_target_property(sources ${TARGET} SOURCES)
+  set(list ${CMAKE_CURRENT_BINARY_DIR}/${TARGET}_sources.txt)
+  set(known "")
+  if(EXISTS ${list})
+    file(READ ${list} known)
+  endif()
+  if(NOT "${known}" STREQUAL "${sources}")
+    file(WRITE ${list} "${sources}")
+    file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${TARGET}_autogen/timestamp)
+  endif()
 endfunction()
 
 # One static library per layer, made of all files in the folders of that layer.
