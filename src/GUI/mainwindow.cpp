@@ -1,0 +1,288 @@
+#include "mainwindow.h"
+
+#include "aboutdialog.h"
+#include "applicationinfo.h"
+#include "axessettingsdialog.h"
+#include "cuttablelineplotwidget.h"
+#include "dataset.h"
+#include "datatabledialog.h"
+#include "fileimportwizard.h"
+#include "overviewtimelinewidget.h"
+#include "plotnavigator.h"
+#include "recording.h"
+#include "resourcepath.h"
+#include "segmenteditor.h"
+#include "vizattributeaction.h"
+#include "zoomwidget.h"
+#include <QApplication>
+#include <QCheckBox>
+#include <QDesktopServices>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QToolBar>
+#include <QUrl>
+#include <QVBoxLayout>
+
+/// One entry of a menu, from left to right as users and this program see it.
+struct MainWindow::MenuRow {
+    QAction* MainWindow::*m_Action;
+    const char* m_Title;
+    const char* m_Icon;
+    void (MainWindow::*m_Slot)();
+    bool m_NeedsData;
+    QKeySequence::StandardKey m_Shortcut = QKeySequence::UnknownKey;
+};
+
+namespace
+{
+
+QIcon loadIcon(const char* name)
+{
+    return name ? QIcon(ResourcePath(QLatin1String(name))) : QIcon();
+}
+
+} // namespace
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent), m_OverviewTimeline(new OverviewTimelineWidget),
+      m_LinePlot(new CuttableLinePlotWidget), m_ZoomWidget(new ZoomWidget),
+      m_ScrollArea(new QScrollArea),
+      m_Navigator(
+          new PlotNavigator(m_ScrollArea, m_LinePlot, m_OverviewTimeline, m_ZoomWidget, this)),
+      m_SegmentEditor(std::make_unique<SegmentEditor>(this, m_LinePlot, m_OverviewTimeline))
+{
+    resize(1100, 800);
+    setWindowTitle(ApplicationTitle());
+    auto* splitter = new QSplitter(Qt::Vertical);
+    splitter->addWidget(makeGraphPane());
+    setCentralWidget(splitter);
+    connect(splitter, &QSplitter::splitterMoved, this, &MainWindow::resizeLinePlotWidget);
+    connectGraph();
+    buildMenus();
+    buildToolBar();
+    enableActions();
+}
+
+MainWindow::~MainWindow()
+{
+    // The graph outlives the recording by a little.
+    detachViews();
+}
+
+QWidget* MainWindow::makeGraphPane()
+{
+    m_ScrollArea->setMinimumHeight(180);
+    m_ScrollArea->setWidget(m_LinePlot);
+    m_OverviewTimeline->setFixedHeight(10);
+    m_OverviewTimeline->setMinimumWidth(10);
+    auto* pane = new QWidget;
+    auto* layout = new QVBoxLayout(pane);
+    layout->addWidget(m_ScrollArea);
+    layout->addWidget(m_OverviewTimeline);
+    return pane;
+}
+
+void MainWindow::connectGraph()
+{
+    const QScrollBar* bar = m_ScrollArea->horizontalScrollBar();
+    connect(bar, &QScrollBar::sliderMoved, this, &MainWindow::updateSelection);
+    connect(bar, &QScrollBar::valueChanged, this, &MainWindow::updateSelection);
+    connect(bar, &QScrollBar::rangeChanged, this, &MainWindow::sliderRange);
+    connect(m_LinePlot, &CuttableLinePlotWidget::CutRequested, this, &MainWindow::cutGraph);
+    connect(m_LinePlot, &CuttableLinePlotWidget::ZoomOnRegion, this, &MainWindow::ZoomOnRegion);
+    connect(m_LinePlot, &CuttableLinePlotWidget::WindowOpened, this, &MainWindow::keepWindow);
+}
+
+void MainWindow::buildMenus()
+{
+    m_FileMenu = menuBar()->addMenu(tr("File"));
+    addRows(m_FileMenu, {{&MainWindow::m_OpenFileAction, QT_TR_NOOP("Open Data File"),
+                          "icons/Folder3.png", &MainWindow::openFile, false, QKeySequence::Open},
+                         {&MainWindow::m_ExitAction, QT_TR_NOOP("Exit"), nullptr, nullptr, false,
+                          QKeySequence::Quit}});
+    connect(m_ExitAction, &QAction::triggered, qApp, &QApplication::quit);
+    m_VisualizationMenu = menuBar()->addMenu(tr("Visualization"));
+    m_AttributesMenu = m_VisualizationMenu->addMenu(loadIcon("icons/Stats2.png"), tr("Attributes"));
+    m_ToolsMenu = menuBar()->addMenu(tr("Tools"));
+    addRows(m_ToolsMenu, {{&MainWindow::m_DataTableAction, QT_TR_NOOP("Data Table"),
+                           "icons/Table.png", &MainWindow::showDataTable, true}});
+    m_SettingsMenu = menuBar()->addMenu(tr("Settings"));
+    addRows(m_SettingsMenu, {{&MainWindow::m_AxesSettingsAction, QT_TR_NOOP("Axes Settings"),
+                              "icons/Gear.png", &MainWindow::axesSettings, true}});
+    m_HelpMenu = menuBar()->addMenu(tr("Help"));
+    addRows(m_HelpMenu,
+            {{&MainWindow::m_AboutAction, QT_TR_NOOP("About"), "icons/Info.png",
+              &MainWindow::aboutDialog, false},
+             {&MainWindow::m_HelpAction, QT_TR_NOOP("Online Help"), "icons/Computer.png",
+              &MainWindow::openHelp, false, QKeySequence::HelpContents}});
+}
+
+void MainWindow::addRows(QMenu* menu, const std::vector<MenuRow>& rows)
+{
+    for (const MenuRow& row : rows) {
+        auto* action = new QAction(loadIcon(row.m_Icon), tr(row.m_Title), this);
+        action->setShortcut(row.m_Shortcut);
+        if (row.m_Slot)
+            connect(action, &QAction::triggered, this, row.m_Slot);
+        if (row.m_NeedsData)
+            m_DataActions.append(action);
+        menu->addAction(action);
+        this->*row.m_Action = action;
+    }
+}
+
+void MainWindow::buildToolBar()
+{
+    auto* cut = new QPushButton(loadIcon("icons/cut.png"), tr("Cut Graph"));
+    cut->setToolTip(tr("Cut the selected range out of its segment"));
+    auto* merge = new QPushButton(loadIcon("icons/merge.png"), tr("Merge Graph"));
+    merge->setToolTip(tr("Merge the segments in the selected range"));
+    m_AxisOverlay = new QCheckBox(tr("Axis Overlay"));
+    m_AxisOverlay->setToolTip(tr("Show the value axes beside the pointer"));
+    m_AxisOverlay->setChecked(m_LinePlot->GetEnableOverlay());
+    m_ZoomWidget->setMaximumWidth(400);
+    m_ZoomWidget->setMinimum(1);
+    m_ZoomWidget->setMaximum(500);
+    m_ZoomWidget->setSingleStep(1);
+    connect(cut, &QPushButton::clicked, this, &MainWindow::cutGraph);
+    connect(merge, &QPushButton::clicked, this, &MainWindow::mergeCuts);
+    connect(m_ZoomWidget, &ZoomWidget::ValueChanged, this, &MainWindow::resizeLinePlotWidget);
+    connect(m_AxisOverlay, &QCheckBox::clicked, m_LinePlot,
+            &CuttableLinePlotWidget::SetEnableOverlay);
+
+    QToolBar* toolBar = addToolBar(tr("Graph Options"));
+    for (QWidget* widget :
+         {static_cast<QWidget*>(cut), static_cast<QWidget*>(merge),
+          static_cast<QWidget*>(m_ZoomWidget), static_cast<QWidget*>(m_AxisOverlay)})
+        toolBar->addWidget(widget);
+}
+
+void MainWindow::openFile()
+{
+    setRecording(nullptr);
+    FileImportWizard wizard(this);
+    if (wizard.exec() == QDialog::Accepted && wizard.GetDataSet())
+        setRecording(std::make_shared<Recording>(wizard.GetDataSet()));
+}
+
+void MainWindow::setRecording(std::shared_ptr<Recording> recording)
+{
+    detachViews();
+    m_Recording = std::move(recording);
+    m_DataSet = m_Recording ? m_Recording->GetDataSet() : nullptr;
+    m_CutCollection = m_Recording ? m_Recording->GetCutCollection() : nullptr;
+    m_LabelCollection = m_Recording ? m_Recording->GetLabelCollection() : nullptr;
+    m_LinePlot->SetDataSet(m_DataSet);
+    m_LinePlot->SetCutCollection(m_CutCollection);
+    m_LinePlot->SetLabelCollection(m_LabelCollection);
+    m_OverviewTimeline->SetDataSet(m_DataSet);
+    m_OverviewTimeline->SetLabelCollection(m_LabelCollection);
+    rebuildAttributesMenu();
+    enableActions();
+}
+
+void MainWindow::detachViews()
+{
+    m_LinePlot->SetDataSet(nullptr);
+    m_LinePlot->SetCutCollection(nullptr);
+    m_LinePlot->SetLabelCollection(nullptr);
+    m_LinePlot->ClearPlot();
+    m_LinePlot->ClearSelection();
+    m_LinePlot->ResizePlots(m_LinePlot->width(), m_LinePlot->height());
+    m_LinePlot->repaint();
+    m_OverviewTimeline->SetDataSet(nullptr);
+    m_OverviewTimeline->SetLabelCollection(nullptr);
+}
+
+void MainWindow::rebuildAttributesMenu()
+{
+    m_AttributesMenu->clear();
+    for (int i = 0; m_DataSet && i < m_DataSet->GetAttributeCount(); ++i) {
+        auto* action = new VizAttributeAction(i, m_DataSet->GetAttributeName(i), m_AttributesMenu);
+        action->setCheckable(true);
+        connect(action, &VizAttributeAction::triggered, m_LinePlot,
+                &CuttableLinePlotWidget::TogglePlot);
+        m_AttributesMenu->addAction(action);
+    }
+}
+
+void MainWindow::enableActions()
+{
+    for (QAction* action : m_DataActions)
+        action->setEnabled(m_DataSet);
+}
+
+void MainWindow::keepWindow(QWidget* window)
+{
+    m_Windows.Add(window, m_Recording);
+}
+
+void MainWindow::showDataTable()
+{
+    if (m_DataSet)
+        DataTableDialog(m_DataSet, this).exec();
+}
+
+void MainWindow::axesSettings()
+{
+    if (!m_DataSet)
+        return;
+    AxesSettingsDialog(m_DataSet, this).exec();
+    m_LinePlot->ResetVerticalAxes();
+}
+
+void MainWindow::aboutDialog()
+{
+    AboutDialog(this).exec();
+}
+
+void MainWindow::openHelp()
+{
+    if (!QDesktopServices::openUrl(QUrl(HelpAddress())))
+        QMessageBox::warning(this, tr("Cannot open"), tr("Cannot open\r\n") + HelpAddress());
+}
+
+void MainWindow::cutGraph()
+{
+    m_SegmentEditor->Cut(m_Recording.get());
+}
+
+void MainWindow::mergeCuts()
+{
+    m_SegmentEditor->Merge(m_Recording.get());
+}
+
+void MainWindow::updateSelection()
+{
+    m_Navigator->UpdateVisiblePart();
+}
+
+void MainWindow::showRange(int from, int to)
+{
+    m_Navigator->ShowRange(from, to);
+}
+
+void MainWindow::sliderRange(int minimum, int maximum)
+{
+    m_Navigator->UpdateScrollRange(minimum, maximum);
+}
+
+void MainWindow::resizeLinePlotWidget()
+{
+    m_Navigator->ResizePlot();
+}
+
+void MainWindow::ZoomOnRegion(int from, int to)
+{
+    if (m_DataSet)
+        m_Navigator->ZoomOnRegion(from, to, m_DataSet->GetRowCount());
+}
+
+void MainWindow::hideShowLabeledData(bool show)
+{
+    m_LinePlot->ShowLabeledData(show);
+}

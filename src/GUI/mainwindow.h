@@ -1,0 +1,91 @@
+#pragma once
+
+#include "analysiswindows.h"
+#include <QMainWindow>
+#include <memory>
+
+class CutCollection;
+class CuttableLinePlotWidget;
+class DataSet;
+class LabelCollection;
+class OverviewTimelineWidget;
+class PlotNavigator;
+class QCheckBox;
+class QScrollArea;
+class Recording;
+class SegmentEditor;
+class ZoomWidget;
+
+/// The program's one main window. It has a recording or none, hands it to every view and opens
+/// all further windows.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+public:
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+public slots:
+    void showDataTable();
+    void updateSelection();
+    /// Scrolls the graph to a range of rows.
+    void showRange(int from, int to);
+    void sliderRange(int minimum, int maximum);
+    void aboutDialog();
+    void openHelp();
+    /// Drops the recording, then asks for another.
+    void openFile();
+    void mergeCuts();
+    void cutGraph();
+    void axesSettings();
+    void resizeLinePlotWidget();
+    /// Zooms the graph on a range of rows.
+    void ZoomOnRegion(int from, int to);
+    void hideShowLabeledData(bool show);
+
+private:
+    struct MenuRow;
+    QWidget* makeGraphPane();
+    void connectGraph();
+    void buildMenus();
+    void addRows(QMenu* menu, const std::vector<MenuRow>& rows);
+    void buildToolBar();
+    void rebuildAttributesMenu();
+    void setRecording(std::shared_ptr<Recording> recording);
+    void detachViews();
+    void enableActions();
+    void keepWindow(QWidget* window);
+
+    // The recording and its parts, all null without one. Others may share it: see
+    // AnalysisWindows.
+    std::shared_ptr<Recording> m_Recording;
+    DataSet* m_DataSet = nullptr;
+    CutCollection* m_CutCollection = nullptr;
+    LabelCollection* m_LabelCollection = nullptr;
+
+    OverviewTimelineWidget* m_OverviewTimeline;
+    CuttableLinePlotWidget* m_LinePlot;
+    ZoomWidget* m_ZoomWidget;
+    QScrollArea* m_ScrollArea;
+    QCheckBox* m_AxisOverlay = nullptr;
+    PlotNavigator* m_Navigator;
+    std::unique_ptr<SegmentEditor> m_SegmentEditor;
+
+    QMenu* m_FileMenu = nullptr;
+    QMenu* m_VisualizationMenu = nullptr;
+    QMenu* m_AttributesMenu = nullptr;
+    QMenu* m_ToolsMenu = nullptr;
+    QMenu* m_SettingsMenu = nullptr;
+    QMenu* m_HelpMenu = nullptr;
+    QAction* m_OpenFileAction = nullptr;
+    QAction* m_ExitAction = nullptr;
+    QAction* m_DataTableAction = nullptr;
+    QAction* m_AxesSettingsAction = nullptr;
+    QAction* m_AboutAction = nullptr;
+    QAction* m_HelpAction = nullptr;
+    // Enabled only with a recording.
+    QList<QAction*> m_DataActions;
+
+    // Last, so that the windows go before the recordings they show.
+    AnalysisWindows m_Windows;
+};

@@ -1,0 +1,85 @@
+#include "overviewtimelinewidget.h"
+
+#include "cutsegment.h"
+#include "dataset.h"
+#include "labelcollection.h"
+#include <QPainter>
+#include <algorithm>
+
+namespace
+{
+
+// Narrower marks and labels would hardly be seen on a long recording.
+constexpr int MINIMUM_MARKER = 4;
+constexpr int MINIMUM_LABEL = 1;
+
+} // namespace
+
+OverviewTimelineWidget::OverviewTimelineWidget(QWidget* parent) : QWidget(parent)
+{
+    setToolTip(tr("The whole recording: labelled segments, and the part that is on screen"));
+}
+
+void OverviewTimelineWidget::SetDataSet(DataSet* dataSet)
+{
+    m_DataSet = dataSet;
+    UpdateLabels();
+}
+
+void OverviewTimelineWidget::SetLabelCollection(LabelCollection* labels)
+{
+    m_LabelCollection = labels;
+    UpdateLabels();
+}
+
+void OverviewTimelineWidget::UpdateLabels()
+{
+    paintCache();
+    update();
+}
+
+void OverviewTimelineWidget::SetSelection(int from, int to)
+{
+    m_MarkerFrom = from;
+    m_MarkerTo = to;
+    update();
+}
+
+void OverviewTimelineWidget::paintCache()
+{
+    m_Cache = QPixmap(size() * devicePixelRatioF());
+    m_Cache.setDevicePixelRatio(devicePixelRatioF());
+    m_Cache.fill(Qt::white);
+    if (m_Cache.isNull() || !m_DataSet || !m_LabelCollection || m_DataSet->GetRowCount() == 0)
+        return;
+    QPainter painter(&m_Cache);
+    const double pixelsPerRow = double(width()) / m_DataSet->GetRowCount();
+    for (int i = 0; i < m_LabelCollection->GetLabelCount(); ++i) {
+        const BehaviorLabel* label = m_LabelCollection->GetLabel(i);
+        for (int j = 0; j < label->GetInstanceCount(); ++j) {
+            const CutSegment* segment = label->GetInstance(j)->GetSegment();
+            const int from = int(segment->GetFrom() * pixelsPerRow);
+            const int wide = int(segment->GetLength() * pixelsPerRow);
+            painter.fillRect(from, 0, std::max(wide, MINIMUM_LABEL), height(), segment->GetColor());
+        }
+    }
+}
+
+void OverviewTimelineWidget::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, m_Cache);
+    if (m_MarkerFrom == -1 && m_MarkerTo == -1)
+        return;
+    const int wide = std::max(m_MarkerTo - m_MarkerFrom, MINIMUM_MARKER);
+    QColor fill = palette().color(QPalette::Highlight);
+    painter.setPen(QPen(fill.darker(150), 2));
+    fill.setAlphaF(0.4);
+    painter.setBrush(fill);
+    painter.drawRect(m_MarkerFrom + 1, 1, wide - 2, height() - 2);
+}
+
+void OverviewTimelineWidget::resizeEvent(QResizeEvent*)
+{
+    paintCache();
+}

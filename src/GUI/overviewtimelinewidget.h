@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+
+class DataSet;
+class LabelCollection;
+
+/// The whole recording as a thin strip: its labelled segments, and a marker over the part that
+/// the main graph shows.
+class OverviewTimelineWidget : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit OverviewTimelineWidget(QWidget* parent = nullptr);
+
+    void SetDataSet(DataSet* dataSet);
+    void SetLabelCollection(LabelCollection* labels);
+
+public slots:
+    /// Paints the labels anew.
+    void UpdateLabels();
+    /// Moves the marker to pixels of this widget; (-1, -1) takes it away.
+    void SetSelection(int from, int to);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void paintCache();
+
+    DataSet* m_DataSet = nullptr;
+    LabelCollection* m_LabelCollection = nullptr;
+    QPixmap m_Cache;
+    int m_MarkerFrom = -1;
+    int m_MarkerTo = -1;
+};

@@ -1,0 +1,11 @@
+#include "recording.h"
+
+#include "dataset.h"
+
+Recording::Recording(DataSet* dataSet) : m_DataSet(dataSet)
+{
+    m_DataSet->ComputeRanges();
+    m_CutCollection.InsertCut(0, m_DataSet->GetRowCount(), CutSegment::SEGMENT_CUT);
+}
+
+Recording::~Recording() = default;
