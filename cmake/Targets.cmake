@@ -9,22 +9,6 @@ function(skerrymoor_compile_settings TARGET)
     target_compile_options(${TARGET} PRIVATE -Werror)
   endif()
   set_target_properties(${TARGET} PROPERTIES AUTOMOC ON CXX_EXTENSIONS OFF)
-  skerrymoor_moc_new_files(${TARGET})
-endfunction()
-
-# With Ninja, CMake does not run moc again when a target has gained files and no old one has
-# changed, as after a pull. Without its time stamp it has to.
-function(skerrymoor_moc_new_files TARGET)
-  get_target_property(sources ${TARGET} SOURCES)
-  set(list ${CMAKE_CURRENT_BINARY_DIR}/${TARGET}_sources.txt)
-  set(known "")
-  if(EXISTS ${list})
-    file(READ ${list} known)
-  endif()
-  if(NOT "${known}" STREQUAL "${sources}")
-    file(WRITE ${list} "${sources}")
-    file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${TARGET}_autogen/timestamp)
-  endif()
 endfunction()
 
 # One static library per layer, made of all files in the folders of that layer.
@@ -45,4 +29,23 @@ function(skerrymoor_add_layer LAYER)
   skerrymoor_compile_settings(${target})
   # Ninja looks for changes only in the files that moc saw last time; this names the new ones.
   set_target_properties(${target} PROPERTIES AUTOGEN_TARGET_DEPENDS "${sources}")
+endfunction()
+
+# Adds a test that never touches the settings and data of the user: it has a home of its own.
+# DISPLAY: offscreen, or xvfb for tests that need a window system.
+function(skerrymoor_register_test NAME DISPLAY)
+  set(home ${CMAKE_CURRENT_BINARY_DIR}/home/${NAME})
+  file(MAKE_DIRECTORY ${home}/run)
+  file(CHMOD ${home}/run PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+  set(suppressions ${PROJECT_SOURCE_DIR}/tests/lsan.supp)
+  set(environment HOME=${home} XDG_CONFIG_HOME=${home}/config XDG_DATA_HOME=${home}/data
+      XDG_RUNTIME_DIR=${home}/run LC_ALL=C.UTF-8 UBSAN_OPTIONS=print_stacktrace=1
+      LSAN_OPTIONS=suppressions=${suppressions}:print_suppressions=0)
+  if(DISPLAY STREQUAL xvfb)
+    add_test(NAME ${NAME} COMMAND xvfb-run -a -s "-screen 0 1600x1200x24" $<TARGET_FILE:${NAME}> ${ARGN})
+  else()
+    add_test(NAME ${NAME} COMMAND ${NAME} ${ARGN})
+    list(APPEND environment QT_QPA_PLATFORM=offscreen)
+  endif()
+  set_tests_properties(${NAME} PROPERTIES ENVIRONMENT "${environment}" TIMEOUT 300)
 endfunction()

@@ -1,0 +1,216 @@
+#include "guide.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QTest>
+#include <QTextStream>
+#include <QTimer>
+
+namespace
+{
+
+constexpr int pollInterval = 20; // ms
+constexpr int maxPolls = 1500;   // 30 s: a step may wait for an import
+constexpr int dragMoves = 12;
+
+QString withoutMnemonic(QString text)
+{
+    return text.remove(QLatin1Char('&'));
+}
+
+QAction* entry(const QWidget* menu, const QString& title)
+{
+    for (QAction* action : menu->actions()) {
+        if (withoutMnemonic(action->text()) == title && action->isVisible())
+            return action;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+Guide::Guide(const QString& folder) : m_Folder(folder) {}
+
+void Guide::Step(const QString& name, const std::function<bool()>& ready,
+                 const std::function<void()>& act)
+{
+    m_Steps.push_back({name, ready, act});
+}
+
+void Guide::Step(const QString& name, const std::function<void()>& act)
+{
+    Step(
+        name, [] { return true; }, act);
+}
+
+int Guide::Run()
+{
+    next();
+    const int code = QApplication::exec();
+    return m_Failed || !m_Steps.empty() ? 1 : code;
+}
+
+void Guide::next()
+{
+    QTimer::singleShot(pollInterval, this, [this] { poll(maxPolls); });
+}
+
+void Guide::poll(int attemptsLeft)
+{
+    if (m_ActingIn && *m_ActingIn == QApplication::activeModalWidget()) {
+        QTimer::singleShot(pollInterval, this, [=] { poll(attemptsLeft); });
+        return;
+    }
+    if (m_Failed)
+        return;
+    if (m_Steps.empty()) {
+        QApplication::closeAllWindows();
+        QApplication::quit();
+        return;
+    }
+    if (!m_Steps.front().ready()) {
+        Expect(attemptsLeft > 0, QStringLiteral("waited in vain for its turn"));
+        QTimer::singleShot(pollInterval, this, [=] { poll(attemptsLeft - 1); });
+        return;
+    }
+    const TourStep step = m_Steps.front();
+    QTextStream(stdout) << step.name << '\n';
+    // The act may open a modal dialog and return only when that is closed: whatever closes it is
+    // a later step, so the next one is asked for first.
+    QTimer::singleShot(0, this, [this, act = step.act] {
+        m_Current = m_Steps.front().name;
+        m_Steps.pop_front();
+        next();
+        m_ActingIn = QApplication::activeModalWidget();
+        act();
+        m_ActingIn.reset();
+    });
+}
+
+void Guide::Picture(const QString& name)
+{
+    QTest::qWait(100);
+    QRect area;
+    for (const QWidget* window : topLevels()) {
+        if (window->isVisible())
+            area |= window->frameGeometry();
+    }
+    QScreen* screen = QGuiApplication::primaryScreen();
+    area &= screen->geometry();
+    const QPixmap picture = screen->grabWindow(0, area.x(), area.y(), area.width(), area.height());
+    const QString file = m_Folder + QLatin1Char('/') + name + QStringLiteral(".png");
+    Expect(picture.save(file), QStringLiteral("cannot write ") + file);
+}
+
+void Guide::Expect(bool condition, const QString& message)
+{
+    if (condition || m_Failed)
+        return;
+    m_Failed = true;
+    QTextStream(stderr) << "The tour failed at or after \"" << m_Current << "\": " << message
+                        << '\n';
+    // A modal dialog may be open: leaving through the event loop could wait for it for ever.
+    std::exit(1);
+}
+
+void Guide::ChooseFromMenu(QWidget* window, const QStringList& titles,
+                           const std::function<void()>& beforeEntry)
+{
+    auto* bar = window->findChild<QMenuBar*>();
+    Expect(bar, QStringLiteral("the window has no menu bar"));
+    QAction* top = entry(bar, titles.first());
+    Expect(top, QStringLiteral("no menu ") + titles.first());
+    ClickAt(bar, bar->actionGeometry(top).center());
+    QMenu* menu = top->menu();
+    for (int i = 1; i < titles.size(); ++i) {
+        QAction* action = entry(menu, titles[i]);
+        Expect(action && action->isEnabled(), QStringLiteral("no entry ") + titles[i]);
+        if (i + 1 == titles.size())
+            beforeEntry();
+        ClickAt(menu, menu->actionGeometry(action).center());
+        QTest::qWait(50);
+        menu = action->menu();
+    }
+}
+
+void Guide::Click(QAbstractButton* button)
+{
+    Expect(button && button->isEnabled() && button->isVisible(),
+           QStringLiteral("a button cannot be clicked"));
+    ClickAt(button, QPoint(10, button->height() / 2));
+}
+
+void Guide::Choose(QComboBox* box, const QString& text)
+{
+    const int index = box->findText(text);
+    Expect(index >= 0, QStringLiteral("no entry ") + text);
+    ClickAt(box, box->rect().center());
+    QAbstractItemView* list = box->view();
+    // Until then the box takes a click in its list for the end of the one that opened it.
+    QTest::qWait(QApplication::doubleClickInterval() + 50);
+    const QModelIndex item = list->model()->index(index, box->modelColumn());
+    list->scrollTo(item);
+    ClickAt(list->viewport(), list->visualRect(item).center());
+    QTest::qWait(50);
+    Expect(box->currentText() == text, QStringLiteral("cannot choose ") + text);
+}
+
+void Guide::ClickAt(QWidget* widget, const QPoint& position)
+{
+    QTest::mouseMove(widget, position);
+    QTest::mouseClick(widget, Qt::LeftButton, {}, position);
+}
+
+void Guide::Drag(QWidget* widget, const QPoint& from, const QPoint& to)
+{
+    QTest::mouseMove(widget, from);
+    QTest::mousePress(widget, Qt::LeftButton, {}, from);
+    for (int i = 1; i <= dragMoves; ++i) {
+        const QPoint position = from + (to - from) * i / dragMoves;
+        // QTest::mouseMove tells no buttons; a drag needs the left one held.
+        QMouseEvent move(QEvent::MouseMove, position, widget->mapToGlobal(position), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(widget, &move);
+        QTest::qWait(5);
+    }
+    QTest::mouseRelease(widget, Qt::LeftButton, {}, to);
+}
+
+void Guide::TypeInto(QWidget* field, const QString& text)
+{
+    Expect(field && field->isEnabled() && field->isVisible(),
+           QStringLiteral("no field for ") + text);
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(field, text);
+}
+
+QAbstractButton* Guide::Button(QWidget* parent, const QString& text)
+{
+    for (QAbstractButton* button : parent->findChildren<QAbstractButton*>()) {
+        if (button->isVisible() &&
+            (withoutMnemonic(button->text()) == text || button->accessibleName() == text))
+            return button;
+    }
+    Expect(false, QStringLiteral("no button ") + text);
+    return nullptr;
+}
+
+QWidget* Guide::fieldBeside(QWidget* parent, const QString& label)
+{
+    for (const QLabel* text : parent->findChildren<QLabel*>()) {
+        if (text->isVisible() && withoutMnemonic(text->text()) == label && text->buddy())
+            return text->buddy();
+    }
+    return nullptr;
+}
+
+QWidgetList Guide::topLevels()
+{
+    return QApplication::topLevelWidgets();
+}
