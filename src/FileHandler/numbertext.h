@@ -27,13 +27,13 @@ struct DigitRun {
         bytes <<= 64 - 8 * length;
         bytes = bytes * 10 + (bytes >> 8);
         constexpr quint64 evenPairs = 0x000000FF000000FFULL;
-        value = (((bytes & evenPairs) * (100 + (1000000ULL << 32))) +
-                 (((bytes >> 16) & evenPairs) * (1 + (10000ULL << 32)))) >>
-                32;
+        value = qint64((((bytes & evenPairs) * (100 + (1000000ULL << 32))) +
+                        (((bytes >> 16) & evenPairs) * (1 + (10000ULL << 32)))) >>
+                       32);
     }
 
     qptrdiff length;
-    quint64 value = 0;
+    qint64 value = 0;
 };
 
 /// Takes a short decimal number ("-12.3456") from the front of a text: up to seven digits before
@@ -42,7 +42,8 @@ struct DigitRun {
 inline bool TakeShortDecimal(const char*& at, const char* end, double& value)
 {
     // Numbers of up to 15 digits and these powers are exact, so one division rounds correctly.
-    constexpr quint64 powers[] = {1, 10, 100, 1000, 10000, 100000, 1000000, 10000000};
+    static constexpr qint64 powers[] = {1, 10, 100, 1000, 10000, 100000, 1000000, 10000000};
+    static constexpr double exactPowers[] = {1.0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7};
     constexpr qptrdiff mostDigits = 7;
     const bool isNegative = at != end && *at == '-';
     const char* next = at + isNegative;
@@ -54,9 +55,11 @@ inline bool TakeShortDecimal(const char*& at, const char* end, double& value)
     if (whole.length > mostDigits || fraction.length > mostDigits ||
         whole.length + fraction.length == 0)
         return false;
-    const quint64 power = powers[fraction.length];
-    const double magnitude = double(whole.value * power + fraction.value) / double(power);
-    value = isNegative ? -magnitude : magnitude;
+    const qint64 digits = whole.value * powers[fraction.length] + fraction.value;
+    const double magnitude = double(digits) / exactPowers[fraction.length];
+    // Signs come and go at random: a factor costs less than a jump that is guessed wrongly.
+    static constexpr double signs[] = {1.0, -1.0};
+    value = signs[isNegative] * magnitude;
     at = next + fraction.length;
     return true;
 }

@@ -8,7 +8,7 @@
 namespace
 {
 
-constexpr size_t blockSize = size_t(256) * 1024;
+constexpr size_t blockSize = size_t(64) * 1024;
 // No recording has such lines; a file of that kind is something else.
 constexpr size_t longestLine = size_t(64) * 1024 * 1024;
 constexpr int utf8Mib = 106;

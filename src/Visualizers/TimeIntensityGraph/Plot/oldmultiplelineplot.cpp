@@ -1,0 +1,28 @@
+#include "oldmultiplelineplot.h"
+
+#include "amplitudeline.h"
+#include "dataset.h"
+#include "verticalaxis.h"
+
+void OldMultipleLinePlot::AddLine(DataSet* data, int attribute, int from, int to,
+                                  const QColor& color)
+{
+    const Entry& line = appendLine(attribute, from, to - from, color);
+    line.m_Line->SetDataSet(data);
+    line.m_Line->SetRange(from, to);
+    GetVerticalAxis()->SetTitle(data->GetAttributeName(attribute));
+    setLimits(data->GetMinValue(attribute), data->GetMaxValue(attribute));
+}
+
+void OldMultipleLinePlot::AddLine(double* values, int size, const QColor& color)
+{
+    appendLine(-1, 0, size, color).m_Line->SetData(values, size);
+}
+
+RowRange OldMultipleLinePlot::GetRows(int index) const
+{
+    const Entry& line = entry(index);
+    if (!line.m_Line->GetDataSet())
+        return {};
+    return {line.m_From, line.m_From + line.m_Count};
+}

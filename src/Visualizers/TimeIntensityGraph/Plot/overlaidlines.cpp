@@ -1,0 +1,132 @@
+#include "overlaidlines.h"
+
+#include "amplitudeline.h"
+#include "dataset.h"
+#include "pixelmath.h"
+#include "plotgrid.h"
+#include "timeaxis.h"
+#include "verticalaxis.h"
+#include <QPainter>
+#include <algorithm>
+
+namespace
+{
+constexpr int leftMargin = 40;
+constexpr int topMargin = 9;
+} // namespace
+
+OverlaidLines::OverlaidLines() : m_VerticalAxis(std::make_unique<VerticalAxis>()) {}
+
+OverlaidLines::~OverlaidLines() = default;
+
+OverlaidLines::Entry& OverlaidLines::appendLine(int attribute, int from, int count,
+                                                const QColor& color)
+{
+    Entry entry{std::make_unique<AmplitudeLine>(attribute), std::make_unique<TimeAxis>(), from,
+                count};
+    entry.m_TimeAxis->SetNumberOfPoints(count);
+    entry.m_Line->SetColor(color);
+    entry.m_Line->SetTimeAxis(entry.m_TimeAxis.get());
+    entry.m_Line->SetVerticalAxis(m_VerticalAxis.get());
+    layOut(entry);
+    m_Entries.push_back(std::move(entry));
+    return m_Entries.back();
+}
+
+void OverlaidLines::setLimits(double minimum, double maximum)
+{
+    m_VerticalAxis->SetMinimum(minimum);
+    m_VerticalAxis->SetMaximum(maximum);
+}
+
+void OverlaidLines::layOut(const Entry& entry) const
+{
+    const double bottom = double(m_Height) - topMargin;
+    entry.m_TimeAxis->SetStart(QPointF(leftMargin, bottom));
+    entry.m_TimeAxis->SetEnd(QPointF(double(m_Width), bottom));
+}
+
+void OverlaidLines::SetSize(float height, float width)
+{
+    m_Height = height;
+    m_Width = width;
+    m_VerticalAxis->SetTop(QPointF(leftMargin, topMargin));
+    m_VerticalAxis->SetBottom(QPointF(leftMargin, double(height) - topMargin));
+    for (const Entry& entry : m_Entries)
+        layOut(entry);
+}
+
+void OverlaidLines::SetAlpha(double alpha)
+{
+    for (const Entry& entry : m_Entries)
+        entry.m_Line->SetAlpha(alpha);
+}
+
+void OverlaidLines::ChangeAttributeID(int attribute)
+{
+    m_VerticalAxis->SetAttribute(attribute);
+    for (const Entry& entry : m_Entries) {
+        const DataSet* data = entry.m_Line->GetDataSet();
+        if (!data || attribute < 0 || attribute >= data->GetAttributeCount())
+            continue;
+        entry.m_Line->SetAttribute(attribute);
+        m_VerticalAxis->SetTitle(data->GetAttributeName(attribute));
+        setLimits(data->GetMinValue(attribute), data->GetMaxValue(attribute));
+    }
+}
+
+void OverlaidLines::Paint(QPainter& painter) const
+{
+    constexpr double gridOpacity = 0.2;
+    PaintGrid(painter, leftMargin, topMargin, double(m_Width), double(m_Height) - topMargin,
+              gridOpacity);
+    if (m_Entries.empty())
+        return;
+    m_Entries.front().m_TimeAxis->Paint(painter);
+    m_VerticalAxis->Paint(painter);
+    for (const Entry& entry : m_Entries)
+        entry.m_Line->Paint(painter);
+}
+
+std::vector<int> OverlaidLines::FindLines(const QRectF& box) const
+{
+    const float low = m_VerticalAxis->ToValue(float(box.bottom()));
+    const float high = m_VerticalAxis->ToValue(float(box.top()));
+    std::vector<int> found;
+    for (int i = 0; i < GetLineCount(); ++i) {
+        if (hasValueInside(entry(i), box, low, high))
+            found.push_back(i);
+    }
+    return found;
+}
+
+bool OverlaidLines::hasValueInside(const Entry& entry, const QRectF& box, float low, float high)
+{
+    const DataSet* data = entry.m_Line->GetDataSet();
+    const double* array = entry.m_Line->GetData();
+    if (!data && !array)
+        return false;
+    const int first = std::max(entry.m_TimeAxis->ToIndex(float(box.left())), 0);
+    const int last = std::min(entry.m_TimeAxis->ToIndex(float(box.right())), entry.m_Count - 1);
+    const int attribute = entry.m_Line->GetAttribute();
+    for (int i = first; i <= last; ++i) {
+        const int row = entry.m_From + i;
+        if (data && (row < 0 || row >= data->GetRowCount()))
+            continue;
+        const double value = data ? data->GetRow(row)->GetValue(attribute) : array[i];
+        if (double(low) <= value && value <= double(high))
+            return true;
+    }
+    return false;
+}
+
+void OverlaidLines::RemoveLine(int index)
+{
+    m_Entries.erase(m_Entries.begin() + index);
+}
+
+void OverlaidLines::Clear()
+{
+    while (GetLineCount() > 0)
+        RemoveLine(GetLineCount() - 1);
+}

@@ -1,0 +1,43 @@
+#include "multiplelineplotwidget.h"
+
+#include "multiplelineplot.h"
+#include <QColor>
+
+MultipleLinePlotWidget::MultipleLinePlotWidget(QWidget* parent)
+    : OverlaidLinesWidget(std::make_unique<MultipleLinePlot>(), true, parent)
+{
+}
+
+MultipleLinePlot& MultipleLinePlotWidget::plot() const
+{
+    return static_cast<MultipleLinePlot&>(lines());
+}
+
+void MultipleLinePlotWidget::AddLine(DataSet* dataSet, CutSegment* segment, int attribute, int from,
+                                     int to, const QColor& color)
+{
+    plot().AddLine(dataSet, segment, attribute, from, to, color);
+}
+
+void MultipleLinePlotWidget::AddLine(DataSet* dataSet, CutSegment* segment, int attribute,
+                                     const QColor& color)
+{
+    plot().AddLine(dataSet, segment, attribute, color);
+}
+
+void MultipleLinePlotWidget::RemoveCutSegment(CutSegment* segment)
+{
+    if (plot().RemoveCutSegment(segment))
+        markStale();
+}
+
+void MultipleLinePlotWidget::rejectLines(const std::vector<int>& lines)
+{
+    std::vector<CutSegment*> rejected;
+    for (const int line : lines)
+        rejected.push_back(plot().GetCutSegment(line));
+    for (CutSegment* segment : rejected) {
+        RemoveCutSegment(segment);
+        emit SegmentRejected(segment);
+    }
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "plotareawidget.h"
+
+/// A plot area with a highlighted range of rows.
+class SelectionPlotAreaWidget : public PlotAreaWidget
+{
+    Q_OBJECT
+public:
+    using PlotAreaWidget::PlotAreaWidget;
+
+    void SetSelection(int from, int to);
+    void ClearSelection();
+    /// False when nothing is highlighted.
+    bool GetSelection(int& from, int& to) const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    RowRange m_Selection;
+};

@@ -1,0 +1,113 @@
+#include "segmenttext.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+class TestLabelCollection : public QObject
+{
+    Q_OBJECT
+private slots:
+    void tellsWhatItAddsAndRemoves();
+    void keepsQuietWhereAsked();
+    void findsBehaviours();
+    void removesACutFromTheFirstBehaviour();
+    void keepsWhatLeftItsLists();
+};
+
+void TestLabelCollection::tellsWhatItAddsAndRemoves()
+{
+    qRegisterMetaType<QList<CutSegment*>>("QList<CutSegment*>");
+    CutSegment first(0, 10);
+    CutSegment second(10, 20);
+    BehaviorLabel label(QStringLiteral("Dive"), Qt::red);
+    QSignalSpy added(&label, &BehaviorLabel::CutAdded);
+    QSignalSpy allAdded(&label, &BehaviorLabel::CutsAdded);
+    QSignalSpy removed(&label, &BehaviorLabel::CutRemoved);
+    LabelSegment(label, &first);
+    QCOMPARE(added.takeFirst().first().value<CutSegment*>(), &first);
+    label.AddLabels({new LabelInstance(&second), new LabelInstance(&first)});
+    QCOMPARE(allAdded.size(), 1);
+    QCOMPARE(allAdded.first().first().value<QList<CutSegment*>>(),
+             QList<CutSegment*>({&second, &first}));
+    QCOMPARE(added.size(), 0);
+    // Only the first instance of a segment goes, and listeners hear of it while it is there.
+    int countWhenTold = 0;
+    connect(&label, &BehaviorLabel::CutRemoved, this,
+            [&] { countWhenTold = label.GetInstanceCount(); });
+    QVERIFY(label.RemoveLabel(&first));
+    QCOMPARE(countWhenTold, 3);
+    QCOMPARE(label.GetInstanceCount(), 2);
+    QCOMPARE(label.GetInstance(0)->GetSegment(), &second);
+    QVERIFY(label.Contains(&first));
+    QVERIFY(label.RemoveLabel(&first));
+    QVERIFY(!label.RemoveLabel(&first));
+    QCOMPARE(removed.size(), 2);
+}
+
+void TestLabelCollection::keepsQuietWhereAsked()
+{
+    CutSegment segment(0, 10);
+    BehaviorLabel label;
+    QSignalSpy added(&label, &BehaviorLabel::CutAdded);
+    QSignalSpy removed(&label, &BehaviorLabel::CutRemoved);
+    auto* instance = new LabelInstance(&segment);
+    label.AddLabelQuietly(instance);
+    QVERIFY(label.RemoveInstance(instance));
+    QVERIFY(!label.RemoveInstance(instance));
+    label.AddLabelQuietly(instance);
+    QVERIFY(label.RemoveLabelQuietly(&segment));
+    QVERIFY(!label.RemoveLabelQuietly(&segment));
+    QCOMPARE(added.size() + removed.size(), 0);
+}
+
+void TestLabelCollection::findsBehaviours()
+{
+    LabelCollection labels;
+    auto* dive = new BehaviorLabel(QStringLiteral("Dive"));
+    labels.AddLabel(dive);
+    labels.AddLabel(new BehaviorLabel(QStringLiteral("Dive")));
+    QCOMPARE(labels.FindLabel(QStringLiteral("Dive")), dive);
+    QCOMPARE(labels.FindLabel(QStringLiteral("dive")), nullptr);
+    QVERIFY(labels.RemoveLabel(dive));
+    QVERIFY(!labels.RemoveLabel(dive));
+    QCOMPARE(labels.FindLabel(QStringLiteral("Dive")), labels.GetLabel(0));
+    QCOMPARE(labels.GetLabelCount(), 1);
+}
+
+void TestLabelCollection::removesACutFromTheFirstBehaviour()
+{
+    CutSegment segment(0, 10);
+    LabelCollection labels;
+    for (const char* name : {"Rest", "Dive", "Fly"})
+        labels.AddLabel(new BehaviorLabel(QLatin1String(name)));
+    LabelSegment(*labels.GetLabel(1), &segment);
+    LabelSegment(*labels.GetLabel(2), &segment);
+    QSignalSpy removed(labels.GetLabel(1), &BehaviorLabel::CutRemoved);
+    QVERIFY(labels.RemoveCut(&segment));
+    QCOMPARE(removed.size(), 1);
+    QVERIFY(labels.GetLabel(2)->Contains(&segment));
+    QVERIFY(labels.RemoveCut(&segment));
+    QVERIFY(!labels.RemoveCut(&segment));
+}
+
+// Whoever still holds them may use them; the leak check sees that they go in the end.
+void TestLabelCollection::keepsWhatLeftItsLists()
+{
+    CutSegment segment(0, 10);
+    QPointer<BehaviorLabel> label = new BehaviorLabel(QStringLiteral("Dive"));
+    auto* instance = new LabelInstance(&segment);
+    {
+        LabelCollection labels;
+        labels.AddLabel(label);
+        labels.AddLabel(label);
+        label->AddLabel(instance);
+        label->RemoveLabel(&segment);
+        labels.RemoveLabel(label);
+        QCOMPARE(instance->GetSegment(), &segment);
+        QCOMPARE(label->GetName(), QStringLiteral("Dive"));
+    }
+    QVERIFY(!label);
+}
+
+QTEST_GUILESS_MAIN(TestLabelCollection)
+#include "tst_labelcollection.moc"
