@@ -155,6 +155,9 @@ void TestDialogs::axesSavedUntouched()
     const double minimum = data->GetMinValue(1);
     AxesSettingsDialog dialog(data.get());
     QCOMPARE(dialog.findChildren<AxisRangeBox*>().at(0)->value(), 100000.0);
+    // Walking through a box reads its text again.
+    for (auto* box : dialog.findChildren<AxisRangeBox*>())
+        QTest::keyClick(box, Qt::Key_Return);
     ClickButton(&dialog, QStringLiteral("Save"));
     QCOMPARE(data->GetAxisRange(0), qMakePair(250000.0, 300000.0));
     QCOMPARE(data->GetMinValue(1), minimum);

@@ -220,15 +220,13 @@ void TestMainWindow::zoomOnRegion()
 
 QWidget* TestMainWindow::openSegmentWindow()
 {
-    QTimer::singleShot(50, this, [] {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        for (QAction* entry : menu->actions()) {
-            if (entry->text() == QStringLiteral("Open Plot"))
-                menu->setActiveAction(entry);
-        }
-        QTest::keyClick(menu, Qt::Key_Return);
-    });
     m_Plot->showContextMenu(QPoint(200, 50));
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    for (QAction* entry : menu->actions()) {
+        if (entry->text() == QStringLiteral("Open Plot"))
+            menu->setActiveAction(entry);
+    }
+    QTest::keyClick(menu, Qt::Key_Return);
     for (QWidget* widget : QApplication::topLevelWidgets()) {
         if (qobject_cast<LinePlotWidget*>(widget))
             return widget;
