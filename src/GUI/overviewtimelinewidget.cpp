@@ -69,7 +69,7 @@ void OverviewTimelineWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.drawPixmap(0, 0, m_Cache);
-    if (m_MarkerFrom == -1 && m_MarkerTo == -1)
+    if (!m_DataSet || (m_MarkerFrom == -1 && m_MarkerTo == -1))
         return;
     const int wide = std::max(m_MarkerTo - m_MarkerFrom, MINIMUM_MARKER);
     QColor fill = palette().color(QPalette::Highlight);

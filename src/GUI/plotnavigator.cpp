@@ -24,6 +24,7 @@ PlotNavigator::PlotNavigator(QScrollArea* scrollArea, CuttableLinePlotWidget* pl
     : QObject(parent), m_ScrollArea(scrollArea), m_Plot(plot), m_Overview(overview), m_Zoom(zoom)
 {
     m_ScrollArea->installEventFilter(this);
+    m_Overview->installEventFilter(this);
 }
 
 void PlotNavigator::ResizePlot()
@@ -92,6 +93,6 @@ void PlotNavigator::ZoomOnRegion(int from, int to, int rowCount)
 bool PlotNavigator::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Resize)
-        ResizePlot();
+        watched == m_ScrollArea ? ResizePlot() : UpdateVisiblePart();
     return QObject::eventFilter(watched, event);
 }

@@ -28,7 +28,7 @@ public:
     void ZoomOnRegion(int from, int to, int rowCount);
 
 protected:
-    /// The graph follows the scroll area also when the window is resized.
+    /// Graph and marker follow also when the window is resized.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

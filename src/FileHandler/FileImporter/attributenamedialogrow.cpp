@@ -16,7 +16,12 @@ AttributeNameDialogRow::AttributeNameDialogRow(const QString& caption, QWidget* 
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new QLabel(caption));
+    auto* label = new QLabel(caption);
+    label->setBuddy(m_Type);
+    // The same for all rows of a long list, so that the fields line up.
+    label->setMinimumWidth(
+        fontMetrics().horizontalAdvance(tr("Attribute ") + QStringLiteral("000")));
+    layout->addWidget(label);
     layout->addWidget(m_Type);
     layout->addWidget(m_Name, 1);
 }

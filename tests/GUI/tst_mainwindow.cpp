@@ -1,0 +1,296 @@
+#include "cuttablelineplotwidget.h"
+#include "fileimportwizard.h"
+#include "lineplotwidget.h"
+#include "mainwindow.h"
+#include "modalscript.h"
+#include "overviewtimelinewidget.h"
+#include "timeaxis.h"
+#include "zoomwidget.h"
+#include <QLineEdit>
+#include <QMenu>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace
+{
+
+// The first and last column of an overview that differ from its white ground; (-1, -1) without.
+QPair<int, int> markedColumns(QWidget* overview)
+{
+    const QImage image = overview->grab().toImage();
+    QPair<int, int> columns(-1, -1);
+    for (int x = 0; x < image.width(); ++x) {
+        if (image.pixelColor(x, 5) == Qt::white)
+            continue;
+        if (columns.first == -1)
+            columns.first = x;
+        columns.second = x;
+    }
+    return columns;
+}
+
+} // namespace
+
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void actionsNeedData();
+    void attributesMenuTogglesPlots();
+    void zoomAndScroll();
+    void plotFollowsWindow();
+    void zoomOnRegion();
+    void windowOutlivesItsImport();
+    void cutNeedsDataAndSelection();
+    void dialogsOpen();
+
+private:
+    // Imports a file of that many rows, in columns 3 and 4, through the wizard.
+    void import(int rows);
+    QAction* action(const char* text) const;
+    QAction* attribute(int index) const;
+    QWidget* openSegmentWindow();
+    int scrollBarValue() const { return m_Scroll->horizontalScrollBar()->value(); }
+
+    QTemporaryDir m_Folder;
+    std::unique_ptr<MainWindow> m_Window;
+    CuttableLinePlotWidget* m_Plot = nullptr;
+    OverviewTimelineWidget* m_Overview = nullptr;
+    ZoomWidget* m_Zoom = nullptr;
+    QScrollArea* m_Scroll = nullptr;
+};
+
+void TestMainWindow::init()
+{
+    m_Window = std::make_unique<MainWindow>();
+    m_Window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_Window.get()));
+    m_Plot = m_Window->findChild<CuttableLinePlotWidget*>();
+    m_Overview = m_Window->findChild<OverviewTimelineWidget*>();
+    m_Zoom = m_Window->findChild<ZoomWidget*>();
+    m_Scroll = m_Window->findChild<QScrollArea*>();
+}
+
+void TestMainWindow::cleanup()
+{
+    m_Window.reset();
+    QCOMPARE(TakeUserErrors(), QStringList());
+}
+
+void TestMainWindow::import(int rows)
+{
+    QFile file(m_Folder.filePath(QStringLiteral("data.txt")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    for (int row = 0; row < rows; ++row)
+        file.write(QByteArray::number(row % 7) + '\t' + QByteArray::number(-row) + '\n');
+    file.close();
+    ModalScript user;
+    user.On<FileImportWizard>([&](FileImportWizard* wizard) {
+        ClickButton(wizard, QStringLiteral("..."));
+        ClickButton(wizard, QStringLiteral("Import"));
+        ClickButton(wizard, QStringLiteral("Finish"));
+    });
+    user.PickFile(file.fileName());
+    action("Open Data File")->trigger();
+}
+
+QAction* TestMainWindow::action(const char* text) const
+{
+    for (QAction* candidate : m_Window->findChildren<QAction*>()) {
+        if (candidate->text() == QLatin1String(text))
+            return candidate;
+    }
+    qFatal("no action \"%s\"", text);
+    return nullptr;
+}
+
+QAction* TestMainWindow::attribute(int index) const
+{
+    return action("Attributes")->menu()->actions().at(index);
+}
+
+void TestMainWindow::actionsNeedData()
+{
+    const auto check = [this](bool hasData) {
+        for (const char* text : {"Data Table", "Axes Settings"})
+            QCOMPARE(action(text)->isEnabled(), hasData);
+        for (const char* text : {"Open Data File", "Exit", "Attributes", "About", "Online Help"})
+            QVERIFY(action(text)->isEnabled());
+        QCOMPARE(action("Attributes")->menu()->actions().size(), hasData ? 2 : 0);
+        QVERIFY(m_Plot->GetPlotCount() == 0);
+    };
+    check(false);
+    import(20);
+    check(true);
+    attribute(0)->trigger();
+    {
+        ModalScript user;
+        user.On<FileImportWizard>([&](FileImportWizard* wizard) {
+            // Dropped before the user chooses.
+            QCOMPARE(m_Plot->GetPlotCount(), 0);
+            ClickButton(wizard, QStringLiteral("Cancel"));
+        });
+        action("Open Data File")->trigger();
+    }
+    check(false);
+    import(30);
+    check(true);
+}
+
+void TestMainWindow::attributesMenuTogglesPlots()
+{
+    import(50);
+    QCOMPARE(attribute(0)->text(), QStringLiteral("Col_1"));
+    QVERIFY(attribute(0)->isCheckable() && !attribute(0)->isChecked());
+    const QImage empty = m_Plot->grab().toImage();
+    attribute(1)->trigger();
+    attribute(0)->trigger();
+    QCOMPARE(m_Plot->GetPlotCount(), 2);
+    QVERIFY(m_Plot->grab().toImage() != empty);
+    attribute(1)->trigger();
+    QCOMPARE(m_Plot->GetPlotCount(), 1);
+    QVERIFY(attribute(0)->isChecked() && !attribute(1)->isChecked());
+}
+
+void TestMainWindow::zoomAndScroll()
+{
+    import(1000);
+    attribute(0)->trigger();
+    const int width = m_Scroll->width();
+    QCOMPARE(m_Plot->size(), QSize(width - 5, m_Scroll->height() - 20));
+    QCOMPARE(markedColumns(m_Overview).first, 0);
+    QVERIFY(markedColumns(m_Overview).second >= m_Overview->width() - 3);
+
+    m_Zoom->setValue(10);
+    QCOMPARE(m_Plot->size(), QSize(10 * (width - 5), m_Scroll->height() - 20));
+    QScrollBar* bar = m_Scroll->horizontalScrollBar();
+    QTRY_VERIFY(bar->isVisible());
+    bar->setValue(5 * (width - 5));
+    // A tenth of the recording shows, from its middle on; the frame adds a pixel on each side.
+    const auto marked = markedColumns(m_Overview);
+    const int overview = m_Overview->width();
+    QVERIFY2(qAbs(marked.first - overview / 2) <= 1, qPrintable(QString::number(marked.first)));
+    QVERIFY2(qAbs(marked.second - overview * 6 / 10) <= 2,
+             qPrintable(QString::number(marked.second)));
+
+    const TimeAxis* axis = m_Plot->GetTimeAxis();
+    m_Window->showRange(300, 320);
+    QCOMPARE(scrollBarValue(), int((double(axis->ToPixel(300)) + double(axis->ToPixel(320))) / 2 -
+                                   axis->GetStart().x()));
+    m_Window->sliderRange(0, 0);
+    QCOMPARE(markedColumns(m_Overview), qMakePair(-1, -1));
+}
+
+void TestMainWindow::plotFollowsWindow()
+{
+    import(100);
+    m_Zoom->setValue(3);
+    m_Window->resize(700, 500);
+    QTRY_COMPARE(m_Plot->size(), QSize(3 * (m_Scroll->width() - 5), m_Scroll->height() - 20));
+    QVERIFY(m_Scroll->width() < 700);
+}
+
+void TestMainWindow::zoomOnRegion()
+{
+    m_Window->ZoomOnRegion(1, 2);
+    import(1000);
+    m_Window->ZoomOnRegion(100, 200);
+    QCOMPARE(m_Plot->width(), m_Scroll->width() - 5);
+    attribute(0)->trigger();
+    m_Window->ZoomOnRegion(200, 200);
+    QCOMPARE(m_Plot->width(), m_Scroll->width() - 5);
+
+    m_Window->ZoomOnRegion(600, 650);
+    // 1000 rows at a view's width per 50 rows.
+    QCOMPARE(m_Plot->width(), int(1000 * (m_Scroll->width() / 50.0)));
+    QCOMPARE(m_Zoom->value(), 20);
+    const TimeAxis* axis = m_Plot->GetTimeAxis();
+    const double middle = double(axis->ToPixel(625)) + axis->GetStart().x();
+    QVERIFY(middle > scrollBarValue() && middle < scrollBarValue() + m_Scroll->width());
+
+    // Narrower than any widget can show: as far as it goes.
+    m_Window->ZoomOnRegion(0, 1);
+    QVERIFY(m_Plot->width() > 500 * 1000);
+    QCOMPARE(m_Zoom->value(), 500);
+}
+
+QWidget* TestMainWindow::openSegmentWindow()
+{
+    m_Plot->showContextMenu(QPoint(200, 50));
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    for (QAction* entry : menu->actions()) {
+        if (entry->text() == QStringLiteral("Open Plot"))
+            menu->setActiveAction(entry);
+    }
+    QTest::keyClick(menu, Qt::Key_Return);
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (qobject_cast<LinePlotWidget*>(widget))
+            return widget;
+    }
+    return nullptr;
+}
+
+void TestMainWindow::windowOutlivesItsImport()
+{
+    import(100);
+    attribute(0)->trigger();
+    QPointer<QWidget> first = openSegmentWindow();
+    QVERIFY(first);
+    const QImage before = first->grab().toImage();
+    import(10);
+    QCOMPARE(first->grab().toImage(), before);
+    first->close();
+    QTRY_VERIFY(!first);
+
+    attribute(1)->trigger();
+    QPointer<QWidget> second = openSegmentWindow();
+    QVERIFY(second);
+    import(20);
+    m_Window.reset();
+    QVERIFY(!second);
+}
+
+void TestMainWindow::cutNeedsDataAndSelection()
+{
+    const QString noData =
+        QStringLiteral("Error - No Data Set: Invalid Data Set. Please load a valid data set into "
+                       "the application.");
+    const QString noSelection = QStringLiteral("Error - Invalid Selection: Invalid Selection. "
+                                               "Please make a valid selection on the graph.");
+    for (const QString& expected : {noData, noSelection}) {
+        for (const char* button : {"Cut Graph", "Merge Graph"}) {
+            ClickButton(m_Window.get(), QLatin1String(button));
+            QCOMPARE(TakeUserErrors(), QStringList(expected));
+        }
+        import(100);
+        attribute(0)->trigger();
+    }
+    const QImage uncut = m_Plot->grab().toImage();
+    QTest::mousePress(m_Plot, Qt::LeftButton, {}, QPoint(200, 50));
+    QTest::mouseMove(m_Plot, QPoint(400, 60));
+    QMouseEvent drag(QEvent::MouseMove, QPointF(400, 60), Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(m_Plot, &drag);
+    QTest::mouseRelease(m_Plot, Qt::LeftButton, {}, QPoint(400, 60));
+    QTest::keyClick(m_Plot, Qt::Key_C);
+    QVERIFY(m_Plot->grab().toImage() != uncut);
+    int from = 0;
+    int to = 0;
+    QVERIFY(!m_Plot->GetSelectedRange(from, to));
+}
+
+void TestMainWindow::dialogsOpen()
+{
+    import(5);
+    for (const char* text : {"Data Table", "Axes Settings", "About"}) {
+        ModalScript user;
+        user.Then([](QDialog* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
+        action(text)->trigger();
+    }
+}
+
+QTEST_MAIN(TestMainWindow)
+#include "tst_mainwindow.moc"
