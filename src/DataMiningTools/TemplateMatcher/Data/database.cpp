@@ -89,7 +89,7 @@ QSqlError prepare(QSqlDatabase& database)
 QSqlError InitializeDatabase()
 {
     const QString folder = settingsFolder();
-    if (!QDir(folder).exists() && !QDir().mkdir(folder)) {
+    if (!QDir(folder).exists() && !QDir().mkpath(folder)) {
         const QString reason = qt_error_string(errno);
         return QSqlError(QStringLiteral("(settings folder ") + folder +
                              QStringLiteral(" can't be made)"),

@@ -40,6 +40,7 @@ private slots:
     void refusesAReadOnlyDatabase();
     void refusesAFolderThatCannotBeMade_data();
     void refusesAFolderThatCannotBeMade();
+    void makesTheFoldersAboveToo();
     void storesAndReadsCollections();
     void storesAWholeCollectionOrNothing();
     void takesSignalsFromTheData();
@@ -187,7 +188,6 @@ void TestDatabase::refusesAFolderThatCannotBeMade_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("no parent") << QStringLiteral("missing/config") << qt_error_string(ENOENT);
     QTest::newRow("below a file") << QStringLiteral("file") << qt_error_string(ENOTDIR);
     QTest::newRow("a file of that name") << QStringLiteral("taken") << qt_error_string(EEXIST);
 }
@@ -205,6 +205,15 @@ void TestDatabase::refusesAFolderThatCannotBeMade()
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, home.filePath(path));
     const QString text = refusal();
     QVERIFY2(text.contains(home.filePath(path)) && text.contains(reason), qPrintable(text));
+}
+
+void TestDatabase::makesTheFoldersAboveToo()
+{
+    const QDir home(m_Home->path());
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
+                       home.filePath(QStringLiteral("new/config")));
+    QCOMPARE(refusal(), QString());
+    QVERIFY(home.exists(QStringLiteral("new/config/Skerrymoor/pattern_db.sqlite")));
 }
 
 void TestDatabase::storesAndReadsCollections()
