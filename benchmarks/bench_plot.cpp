@@ -1,5 +1,7 @@
+#include "cutcollection.h"
 #include "cuttableamplitudeline.h"
 #include "dataset.h"
+#include "segmentpainter.h"
 #include "timeaxis.h"
 #include "verticalaxis.h"
 
@@ -108,6 +110,31 @@ void BM_LaterTile(benchmark::State& state)
     for (auto unused : state)
         tile.Paint(place);
 }
+void BM_Segments(benchmark::State& state)
+{
+    constexpr int rowsPerSegment = 10;
+    const int count = int(state.range(0));
+    CutCollection cuts;
+    cuts.InsertCut(0, count * rowsPerSegment, CutSegment::SEGMENT_CUT);
+    // From the end, so that the segment to split is always found first.
+    for (int i = count - 1; i > 0; --i) {
+        const auto kind = CutSegment::SEGMENT_STATE(i % 3);
+        cuts.InsertCut(i * rowsPerSegment, kind);
+    }
+    const double width = double(state.range(1)) * tileWidth;
+    TimeAxis axis;
+    axis.SetEnd({width, 0});
+    axis.SetNumberOfPoints(count * rowsPerSegment);
+    QImage image(tileWidth, tileHeight, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    for (auto unused : state) {
+        QPainter painter(&image);
+        painter.setOpacity(0.4);
+        const SegmentPainter segments(cuts, axis, image.rect(), tileHeight);
+        segments.PaintFills(painter);
+        segments.PaintOutlines(painter, false);
+    }
+}
 } // namespace
 
 BENCHMARK(BM_FirstTile)
@@ -117,4 +144,8 @@ BENCHMARK(BM_FirstTile)
 BENCHMARK(BM_LaterTile)
     ->ArgNames({"rows", "cuttable", "screens", "place"})
     ->ArgsProduct({{10'000'000}, {0, 1}, {1, 2, 10, 40, 100, 500}, {0, 100}})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_Segments)
+    ->ArgNames({"segments", "screens"})
+    ->ArgsProduct({{100'000}, {1, 10, 500}})
     ->Unit(benchmark::kMillisecond);

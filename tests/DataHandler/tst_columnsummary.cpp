@@ -42,7 +42,7 @@ void TestColumnSummary::findsExtremesOfAnySpan()
     QFETCH(int, rows);
     std::vector<double> values;
     for (int i = 0; i < rows; ++i)
-        values.push_back(i % 23 == 5 ? missing : std::sin(i * i * 0.37) * (i % 11));
+        values.push_back(i % 23 == 5 ? missing : std::sin(0.37 * i * i) * (i % 11));
     const auto data = makeColumn(values);
     const ColumnSummary summary(*data, 0);
     const int step = std::max(rows / 9 / 16, 1) * 16;
