@@ -1,6 +1,7 @@
 #include "plotareawidget.h"
 
 #include "cuttablelineplot.h"
+#include "dataset.h"
 #include "pixelmath.h"
 #include "pixmapcache.h"
 #include "plotgrid.h"
@@ -142,8 +143,10 @@ void PlotAreaWidget::ClearPlotRange()
 {
     m_From = -1;
     m_To = -1;
-    for (const auto& plot : m_Plots)
-        plot->SetDataSet(plot->GetDataSet());
+    for (const auto& plot : m_Plots) {
+        if (const DataSet* shown = plot->GetDataSet())
+            plot->SetRange(0, shown->GetRowCount());
+    }
 }
 
 TimeAxis* PlotAreaWidget::GetTimeAxis() const

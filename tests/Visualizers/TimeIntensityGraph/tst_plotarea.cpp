@@ -267,8 +267,11 @@ void TestPlotArea::plotsARange()
     QCOMPARE(widget.GetTimeAxis()->GetLastIndex(), 10);
     widget.PlotDataRange(5, 5);
     QVERIFY(!widget.GetRange(from, to));
+    double values[] = {1, 2, 3};
+    widget.AddPlot(values, 3, QStringLiteral("array"));
     widget.ClearPlotRange();
     QCOMPARE(widget.GetTimeAxis()->GetLastIndex(), 99);
+    QCOMPARE(widget.GetPlot(1)->GetTimeAxis()->GetLastIndex(), 2);
 }
 
 void TestPlotArea::highlightsRanges()
