@@ -6,6 +6,7 @@
 #include "dataset.h"
 #include "lineplotwidget.h"
 #include "pixelmath.h"
+#include "plotfont.h"
 #include "segmentpainter.h"
 #include "timeaxis.h"
 #include "verticalaxis.h"
@@ -297,7 +298,7 @@ void CuttableLinePlotWidget::paintEvent(QPaintEvent* event)
     if (!axis)
         return;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::TextAntialiasing);
+    painter.setFont(PlotFont());
     paintTimeAxis(painter);
     painter.setOpacity(marksOpacity);
     paintSelection(painter);

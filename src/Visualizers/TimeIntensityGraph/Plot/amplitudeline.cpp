@@ -93,7 +93,7 @@ void AmplitudeLine::paintRows(QPainter& painter, int from, int to, int origin) c
     if (m_AttributeId < 0 || m_AttributeId >= m_DataSet->GetAttributeCount())
         return;
     cutToVisible(painter, origin, from, to);
-    const LineReduction reduction(*m_DataSet, m_AttributeId, origin, columnRows(painter));
+    const LineReduction reduction(*m_DataSet, m_AttributeId, columnRows(painter));
     const std::vector<LinePoint> points = reduction.Reduce(from, to);
     QPolygonF piece;
     piece.reserve(int(points.size()));
@@ -131,9 +131,9 @@ void AmplitudeLine::cutToVisible(const QPainter& painter, int origin, int& from,
     to = std::min(to, TruncateToInt(std::ceil(right)));
 }
 
-int AmplitudeLine::columnRows(const QPainter& painter) const
+double AmplitudeLine::columnRows(const QPainter& painter) const
 {
-    constexpr int everyRow = 1;
+    constexpr double everyRow = 1;
     if (!m_TimeAxis->IsUniform())
         return everyRow;
     return LineReduction::ColumnRows(m_TimeAxis->ToExactPixel(1) * HorizontalScale(painter));

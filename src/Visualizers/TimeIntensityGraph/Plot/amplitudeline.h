@@ -62,5 +62,5 @@ protected:
 private:
     QPointF toPoint(int index, double value) const;
     void cutToVisible(const QPainter& painter, int origin, int& from, int& to) const;
-    int columnRows(const QPainter& painter) const;
+    double columnRows(const QPainter& painter) const;
 };

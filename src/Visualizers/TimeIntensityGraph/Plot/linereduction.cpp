@@ -1,14 +1,16 @@
 #include "linereduction.h"
 
-#include "columnsummary.h"
 #include "dataset.h"
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <limits>
 
 namespace
 {
 // Lines overlap and darken inside a pixel; with fewer columns the shade of dense signals changes.
 constexpr double columnsPerPixel = 8;
+constexpr int pointsPerColumn = 4;
 // Below this, reading the rows is as quick as having a summary made.
 constexpr int longRecording = 1 << 17;
 
@@ -25,35 +27,39 @@ void appendLater(std::vector<LinePoint>& points, int row, double value)
 }
 } // namespace
 
-LineReduction::LineReduction(const DataSet& data, int attribute, int origin, int columnRows)
-    : m_Data(data), m_Attribute(attribute), m_Origin(origin), m_ColumnRows(columnRows),
-      m_UsesSummary(columnRows % ColumnSummary::BlockRows == 0 &&
-                    origin % ColumnSummary::BlockRows == 0 && data.GetRowCount() > longRecording)
+LineReduction::LineReduction(const DataSet& data, int attribute, double columnRows)
+    : m_Data(data), m_Attribute(attribute), m_ColumnRows(columnRows),
+      m_Unit(columnRows < ColumnSummary::BlockRows ? 1 : ColumnSummary::BlockRows)
 {
 }
 
-int LineReduction::ColumnRows(double rowWidth)
+double LineReduction::ColumnRows(double rowWidth)
 {
-    constexpr double most = 1 << 24;
+    constexpr double most = 1 << 30;
+    const double rows = 1 / (columnsPerPixel * rowWidth);
     // Also false for a width that is no number.
-    if (!(rowWidth * columnsPerPixel * most > 1))
-        return int(most);
-    const int rows = int(1 / (columnsPerPixel * rowWidth));
-    constexpr int block = ColumnSummary::BlockRows;
-    return rows < block ? rows : rows / block * block;
+    return rows > 0 && rows < most ? rows : most;
+}
+
+int LineReduction::columnStart(qint64 column) const
+{
+    const double units = std::floor(double(column) * m_ColumnRows / m_Unit);
+    return int(std::min(units * m_Unit, double(std::numeric_limits<int>::max())));
 }
 
 std::vector<LinePoint> LineReduction::Reduce(int from, int to) const
 {
     std::vector<LinePoint> points;
-    if (m_ColumnRows < 2) {
+    if (m_ColumnRows < pointsPerColumn) {
         appendRows(points, from, to);
         return points;
     }
-    points.reserve(size_t((to - from) / m_ColumnRows + 2) * 4);
-    for (int row = from; row < to;) {
-        const int columnEnd = row - (row - m_Origin) % m_ColumnRows + m_ColumnRows;
-        const int end = std::min(columnEnd, to);
+    points.reserve(size_t(std::max(to - from, 0) / m_ColumnRows + 2) * pointsPerColumn);
+    auto column = qint64(from / m_ColumnRows);
+    for (int row = from; row < to; ++column) {
+        const int end = std::min(columnStart(column + 1), to);
+        if (end <= row)
+            continue;
         appendColumn(points, row, end);
         row = end;
     }
@@ -79,7 +85,7 @@ void LineReduction::appendRows(std::vector<LinePoint>& points, int from, int to)
 
 void LineReduction::appendColumn(std::vector<LinePoint>& points, int from, int to) const
 {
-    const ColumnExtremes found = extremes(from, to);
+    const auto [found, jump] = readColumn(from, to);
     if (found.m_LowRow < 0) {
         appendBreak(points);
         return;
@@ -90,11 +96,10 @@ void LineReduction::appendColumn(std::vector<LinePoint>& points, int from, int t
     else
         appendBreak(points);
 
-    const LinePoint low{found.m_LowRow, found.m_Low};
-    const LinePoint high{found.m_HighRow, found.m_High};
-    const bool lowFirst = low.m_Row < high.m_Row;
-    appendLater(points, lowFirst ? low.m_Row : high.m_Row, lowFirst ? low.m_Value : high.m_Value);
-    appendLater(points, lowFirst ? high.m_Row : low.m_Row, lowFirst ? high.m_Value : low.m_Value);
+    std::array<int, 4> rows{found.m_LowRow, found.m_HighRow, jump, jump + 1};
+    const auto end = rows.begin() + (jump < 0 ? 2 : 4);
+    std::sort(rows.begin(), end);
+    std::for_each(rows.begin(), end, [&](int row) { appendLater(points, row, value(row)); });
 
     const double last = value(to - 1);
     if (found.m_HasGap)
@@ -103,13 +108,29 @@ void LineReduction::appendColumn(std::vector<LinePoint>& points, int from, int t
         appendLater(points, to - 1, last);
 }
 
-ColumnExtremes LineReduction::extremes(int from, int to) const
+LineReduction::Column LineReduction::readColumn(int from, int to) const
 {
     constexpr int block = ColumnSummary::BlockRows;
-    if (m_UsesSummary && from % block == 0 && to % block == 0)
-        return m_Data.GetColumnSummary(m_Attribute).GetExtremes(from, to);
-    ColumnExtremes found;
-    for (int row = from; row < to; ++row)
-        found.Add(row, value(row));
-    return found;
+    const bool wholeBlocks = m_Unit == block && from % block == 0 && to % block == 0;
+    if (wholeBlocks && m_Data.GetRowCount() > longRecording)
+        return {m_Data.GetColumnSummary(m_Attribute).GetExtremes(from, to), -1};
+
+    // A jump that is most of the column would lean, were it drawn between the extremes.
+    constexpr double most = 0.8;
+    Column column;
+    double widest = 0;
+    double before = std::numeric_limits<double>::quiet_NaN();
+    for (int row = from; row < to; ++row) {
+        const double rowValue = value(row);
+        column.m_Extremes.Add(row, rowValue);
+        if (std::abs(rowValue - before) > widest) {
+            widest = std::abs(rowValue - before);
+            column.m_JumpRow = row - 1;
+        }
+        before = rowValue;
+    }
+    const ColumnExtremes& found = column.m_Extremes;
+    if (found.m_HasGap || widest < most * (found.m_High - found.m_Low))
+        column.m_JumpRow = -1;
+    return column;
 }

@@ -1,6 +1,7 @@
 #include "timeaxis.h"
 
 #include "pixelmath.h"
+#include "plotfont.h"
 #include <QPainter>
 #include <algorithm>
 #include <typeinfo>
@@ -28,6 +29,7 @@ void TimeAxis::Paint(QPainter& painter) const
         painter.drawLine(QPointF(left, m_Start.y()), QPointF(right, m_End.y()));
     if (m_Title.isEmpty())
         return;
+    painter.setFont(PlotFont());
     const int titleWidth = painter.fontMetrics().horizontalAdvance(m_Title);
     const double middle = (m_Start.x() + m_End.x()) / 2;
     painter.drawText(QPointF(middle - titleWidth / 2.0, m_Start.y() + 10), m_Title);

@@ -1,6 +1,7 @@
 #include "verticalaxis.h"
 
 #include "pixelmath.h"
+#include "plotfont.h"
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -44,6 +45,7 @@ void VerticalAxis::Paint(QPainter& painter) const
 void VerticalAxis::PaintAxis(QPainter& painter, int xOffset) const
 {
     painter.setPen(m_Color);
+    painter.setFont(PlotFont());
     const double x = m_Bottom.x() + xOffset;
     painter.drawLine(QPointF(x, m_Bottom.y()), QPointF(x, m_Top.y()));
     if (m_Max < m_Min)
@@ -70,8 +72,9 @@ void VerticalAxis::paintTick(QPainter& painter, double x, float value) const
 
 void VerticalAxis::PaintTitle(QPainter& painter) const
 {
-    const int textWidth = painter.fontMetrics().horizontalAdvance(m_Title);
     painter.save();
+    painter.setFont(PlotFont());
+    const int textWidth = painter.fontMetrics().horizontalAdvance(m_Title);
     painter.setPen(m_Color);
     painter.translate(m_Bottom.x() - 30, (m_Top.y() + m_Bottom.y()) / 2 + textWidth / 2.0);
     painter.rotate(270);

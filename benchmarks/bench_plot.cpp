@@ -1,0 +1,120 @@
+#include "cuttableamplitudeline.h"
+#include "dataset.h"
+#include "timeaxis.h"
+#include "verticalaxis.h"
+
+#include <QImage>
+#include <QPainter>
+#include <benchmark/benchmark.h>
+#include <cmath>
+#include <memory>
+
+namespace
+{
+constexpr int tileWidth = 1200;
+constexpr int tileHeight = 400;
+
+/// A recording whose first attribute swings slowly, with noise.
+const DataSet& recording(int rows)
+{
+    static std::unique_ptr<DataSet> data;
+    if (data && data->GetRowCount() == rows)
+        return *data;
+    data.reset();
+    data = std::make_unique<DataSet>();
+    constexpr int attributes = 6;
+    for (int i = 0; i < attributes; ++i)
+        data->AddAttribute(QString::number(i), ATTRIBUTE_OTHER);
+    data->ReserveRows(rows);
+    quint32 random = 1;
+    for (int i = 0; i < rows; ++i) {
+        random = random * 1664525U + 1013904223U;
+        const double value = std::sin(i * 1e-4) + double(random >> 8) / (1U << 24);
+        const double values[attributes] = {value, -value, 0, 1, value, value};
+        auto* row = new DataRow;
+        row->SetValues(values, attributes);
+        data->AddRow(row);
+    }
+    data->ComputeRanges();
+    return *data;
+}
+
+/// Paints tiles as the plot area does: the line over a recording that is some tiles wide, seen
+/// from a place in it.
+class TilePainter
+{
+public:
+    TilePainter(AmplitudeLine& line, const DataSet& data, double screens)
+        : m_Line(line), m_Image(tileWidth, tileHeight, QImage::Format_ARGB32_Premultiplied),
+          m_Width(screens * tileWidth)
+    {
+        m_Vertical.SetTop({0, 9});
+        m_Vertical.SetBottom({0, tileHeight - 9});
+        m_Vertical.SetMinimum(data.GetMinValue(0));
+        m_Vertical.SetMaximum(data.GetMaxValue(0));
+        m_Time.SetEnd({m_Width, 0});
+        m_Time.SetNumberOfPoints(data.GetRowCount());
+        line.SetDataSet(const_cast<DataSet*>(&data));
+        line.SetTimeAxis(&m_Time);
+        line.SetVerticalAxis(&m_Vertical);
+    }
+
+    /// place: 0 at the start of the recording, 1 at its end.
+    void Paint(double place)
+    {
+        m_Image.fill(Qt::white);
+        QPainter painter(&m_Image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(-(m_Width - tileWidth) * place, 0);
+        m_Line.Paint(painter);
+    }
+
+private:
+    AmplitudeLine& m_Line;
+    QImage m_Image;
+    VerticalAxis m_Vertical;
+    TimeAxis m_Time;
+    double m_Width;
+};
+
+std::unique_ptr<AmplitudeLine> makeLine(bool cuttable)
+{
+    if (cuttable)
+        return std::make_unique<CuttableAmplitudeLine>(0, nullptr);
+    return std::make_unique<AmplitudeLine>(0);
+}
+
+void BM_FirstTile(benchmark::State& state)
+{
+    auto& data = const_cast<DataSet&>(recording(int(state.range(0))));
+    const auto line = makeLine(state.range(1));
+    TilePainter tile(*line, data, 1);
+    for (auto unused : state) {
+        // A new revision: what is known about the columns is worth nothing.
+        state.PauseTiming();
+        data.ComputeRanges();
+        state.ResumeTiming();
+        tile.Paint(0);
+    }
+}
+
+void BM_LaterTile(benchmark::State& state)
+{
+    const DataSet& data = recording(int(state.range(0)));
+    const auto line = makeLine(state.range(1));
+    TilePainter tile(*line, data, double(state.range(2)));
+    const double place = double(state.range(3)) / 100;
+    tile.Paint(place);
+    for (auto unused : state)
+        tile.Paint(place);
+}
+} // namespace
+
+BENCHMARK(BM_FirstTile)
+    ->ArgNames({"rows", "cuttable"})
+    ->ArgsProduct({{1'000'000, 10'000'000}, {0, 1}})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_LaterTile)
+    ->ArgNames({"rows", "cuttable", "screens", "place"})
+    ->ArgsProduct({{10'000'000}, {0, 1}, {1, 2, 10, 40, 100, 500}, {0, 100}})
+    ->Unit(benchmark::kMillisecond);
