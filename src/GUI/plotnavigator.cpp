@@ -90,9 +90,26 @@ void PlotNavigator::ZoomOnRegion(int from, int to, int rowCount)
     bar->setValue(int(center * double(scale)));
 }
 
+void PlotNavigator::followScrollArea()
+{
+    // The bar knows its new range only after the scroll area has seen the event, too.
+    if (m_PlaceToKeep < 0) {
+        m_PlaceToKeep =
+            double(m_ScrollArea->horizontalScrollBar()->value()) / std::max(m_Plot->width(), 1);
+        QMetaObject::invokeMethod(this, &PlotNavigator::restorePlace, Qt::QueuedConnection);
+    }
+    ResizePlot();
+}
+
+void PlotNavigator::restorePlace()
+{
+    m_ScrollArea->horizontalScrollBar()->setValue(qRound(m_PlaceToKeep * m_Plot->width()));
+    m_PlaceToKeep = -1;
+}
+
 bool PlotNavigator::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Resize)
-        watched == m_ScrollArea ? ResizePlot() : UpdateVisiblePart();
+        watched == m_ScrollArea ? followScrollArea() : UpdateVisiblePart();
     return QObject::eventFilter(watched, event);
 }

@@ -33,9 +33,14 @@ protected:
 
 private:
     double pixelOf(int row) const;
+    // Resizes the graph and keeps its left end in place.
+    void followScrollArea();
+    void restorePlace();
 
     QScrollArea* m_ScrollArea;
     CuttableLinePlotWidget* m_Plot;
     OverviewTimelineWidget* m_Overview;
     ZoomWidget* m_Zoom;
+    // The graph's left end as a part of its width while the window is resized, else negative.
+    double m_PlaceToKeep = -1;
 };

@@ -189,9 +189,12 @@ void TestMainWindow::plotFollowsWindow()
 {
     import(100);
     m_Zoom->setValue(3);
+    QScrollBar* bar = m_Scroll->horizontalScrollBar();
+    bar->setValue(m_Plot->width() / 2);
     m_Window->resize(700, 500);
     QTRY_COMPARE(m_Plot->size(), QSize(3 * (m_Scroll->width() - 5), m_Scroll->height() - 20));
     QVERIFY(m_Scroll->width() < 700);
+    QTRY_VERIFY(qAbs(bar->value() - m_Plot->width() / 2) <= 2);
 }
 
 void TestMainWindow::zoomOnRegion()
