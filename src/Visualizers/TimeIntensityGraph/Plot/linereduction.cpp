@@ -11,6 +11,11 @@ namespace
 // Lines overlap and darken inside a pixel; with fewer columns the shade of dense signals changes.
 constexpr double columnsPerPixel = 8;
 constexpr int pointsPerColumn = 4;
+// Up to here all rows of a column are kept that holds one value but for a step or a spike, which
+// costs little: the strokes of equal rows are too short to be drawn at full strength, and one
+// stroke in their place would be darker.
+constexpr double mostFlatRows = 48;
+constexpr int mostChanges = 2;
 // Below this, reading the rows is as quick as having a summary made.
 constexpr int longRecording = 1 << 17;
 
@@ -51,6 +56,7 @@ std::vector<LinePoint> LineReduction::Reduce(int from, int to) const
 {
     std::vector<LinePoint> points;
     if (m_ColumnRows < pointsPerColumn) {
+        points.reserve(size_t(std::max(to - from, 0)));
         appendRows(points, from, to);
         return points;
     }
@@ -73,7 +79,6 @@ double LineReduction::value(int row) const
 
 void LineReduction::appendRows(std::vector<LinePoint>& points, int from, int to) const
 {
-    points.reserve(size_t(std::max(to - from, 0)));
     for (int row = from; row < to; ++row) {
         const double rowValue = value(row);
         if (std::isfinite(rowValue))
@@ -85,9 +90,13 @@ void LineReduction::appendRows(std::vector<LinePoint>& points, int from, int to)
 
 void LineReduction::appendColumn(std::vector<LinePoint>& points, int from, int to) const
 {
-    const auto [found, jump] = readColumn(from, to);
+    const auto [found, jump, isFlat] = readColumn(from, to);
     if (found.m_LowRow < 0) {
         appendBreak(points);
+        return;
+    }
+    if (isFlat) {
+        appendRows(points, from, to);
         return;
     }
     const double first = value(from);
@@ -112,13 +121,14 @@ LineReduction::Column LineReduction::readColumn(int from, int to) const
 {
     constexpr int block = ColumnSummary::BlockRows;
     const bool wholeBlocks = m_Unit == block && from % block == 0 && to % block == 0;
-    if (wholeBlocks && m_Data.GetRowCount() > longRecording)
-        return {m_Data.GetColumnSummary(m_Attribute).GetExtremes(from, to), -1};
+    if (wholeBlocks && m_ColumnRows > mostFlatRows && m_Data.GetRowCount() > longRecording)
+        return {m_Data.GetColumnSummary(m_Attribute).GetExtremes(from, to), -1, false};
 
     // A jump that is most of the column would lean, were it drawn between the extremes.
     constexpr double most = 0.8;
     Column column;
     double widest = 0;
+    int changes = 0;
     double before = std::numeric_limits<double>::quiet_NaN();
     for (int row = from; row < to; ++row) {
         const double rowValue = value(row);
@@ -127,8 +137,10 @@ LineReduction::Column LineReduction::readColumn(int from, int to) const
             widest = std::abs(rowValue - before);
             column.m_JumpRow = row - 1;
         }
+        changes += row > from && rowValue != before;
         before = rowValue;
     }
+    column.m_IsFlat = changes <= mostChanges && m_ColumnRows <= mostFlatRows;
     const ColumnExtremes& found = column.m_Extremes;
     if (found.m_HasGap || widest < most * (found.m_High - found.m_Low))
         column.m_JumpRow = -1;

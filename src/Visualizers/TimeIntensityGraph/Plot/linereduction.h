@@ -40,6 +40,8 @@ private:
         ColumnExtremes m_Extremes;
         /// The row before the jump, -1 without one.
         int m_JumpRow = -1;
+        /// One value but for a step or a spike.
+        bool m_IsFlat = false;
     };
 
     /// The first row of a column.
