@@ -9,6 +9,8 @@ AttributeNameDialogRow::AttributeNameDialogRow(const QString& caption, QWidget* 
     : QWidget(parent), m_Type(new QComboBox), m_Name(new QLineEdit(caption))
 {
     m_Type->addItems(AttributeTypeNames());
+    // Not the first entry: a column left at "Date" would be dropped at the end of the import.
+    m_Type->setCurrentIndex(ATTRIBUTE_OTHER);
     m_Type->setToolTip(tr("What this column holds"));
     m_Name->setToolTip(tr("The name of this column"));
     connect(m_Type, QOverload<int>::of(&QComboBox::activated), this,

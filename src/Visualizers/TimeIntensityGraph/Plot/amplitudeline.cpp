@@ -67,7 +67,7 @@ void AmplitudeLine::PaintDataSet(QPainter& painter)
     int from = 0;
     int to = 0;
     GetRange(from, to);
-    painter.setPen(QPen(m_Color, qreal(m_PenWidth)));
+    painter.setPen(FastPen(painter, m_Color, double(m_PenWidth)));
     paintRows(painter, from, to, from);
 }
 
@@ -75,7 +75,7 @@ void AmplitudeLine::PaintArray(QPainter& painter)
 {
     if (m_Color.isValid())
         m_Color.setAlphaF(m_Alpha);
-    painter.setPen(QPen(m_Color, qreal(m_PenWidth)));
+    painter.setPen(FastPen(painter, m_Color, double(m_PenWidth)));
     int from = 0;
     int to = m_ArraySize;
     cutToVisible(painter, 0, from, to);

@@ -4,6 +4,7 @@
 #include "cutcollection.h"
 #include "dataset.h"
 #include "heatrows.h"
+#include "pixelmath.h"
 #include "timeaxis.h"
 #include "verticalaxis.h"
 #include <QPainter>
@@ -16,7 +17,7 @@ void CuttableAmplitudeLine::PaintDataSet(QPainter& painter)
     int from = 0;
     int to = 0;
     GetRange(from, to);
-    painter.setPen(QPen(Qt::black, 0.5));
+    painter.setPen(FastPen(painter, Qt::black, 0.5));
     paintRows(painter, from, std::min(to + 1, rows - 1), 0);
 }
 

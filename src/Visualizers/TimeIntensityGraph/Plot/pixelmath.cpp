@@ -37,3 +37,11 @@ double HorizontalScale(const QPainter& painter)
     const QTransform transform = painter.deviceTransform();
     return std::hypot(transform.m11(), transform.m12());
 }
+
+QPen FastPen(const QPainter& painter, const QColor& color, double width)
+{
+    // A little below a whole pixel, which rounding must not exceed.
+    constexpr double widest = 0.999;
+    const double scale = HorizontalScale(painter);
+    return {color, width * scale <= 1 ? width : widest / scale};
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPen>
 #include <QRectF>
 #include <QtGlobal>
 
@@ -17,3 +18,7 @@ QRectF VisibleRect(const QPainter& painter);
 
 /// Device pixels per horizontal unit of the painter's coordinates.
 double HorizontalScale(const QPainter& painter);
+
+/// The pen of a line through many points: not wider than a device pixel, since wider ones are a
+/// hundred times slower to paint.
+QPen FastPen(const QPainter& painter, const QColor& color, double width);
