@@ -8,7 +8,8 @@ function(skerrymoor_compile_settings TARGET)
   if(SKERRYMOOR_DEVELOPER)
     target_compile_options(${TARGET} PRIVATE -Werror)
   endif()
-  set_target_properties(${TARGET} PROPERTIES AUTOMOC ON CXX_EXTENSIONS OFF)
+  set_target_properties(${TARGET} PROPERTIES AUTOMOC ON CXX_STANDARD 17 CXX_STANDARD_REQUIRED ON
+                                             CXX_EXTENSIONS OFF)
 endfunction()
 
 # One static library per layer, made of all files in the folders of that layer.

@@ -21,6 +21,7 @@ public:
 
 private:
     bool isNumber() const { return m_Tagged & 1U; }
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the tagged number is the point of this class.
     const QString* text() const { return reinterpret_cast<const QString*>(m_Tagged); }
     void Clear();
 

@@ -96,7 +96,7 @@ void FileReader::constructDataSet(const QStringList& names, const QStringList& t
 
 DataSet* FileReader::GetDataSet()
 {
-    m_OwnedDataSet.release();
+    static_cast<void>(m_OwnedDataSet.release());
     return m_DataSet;
 }
 

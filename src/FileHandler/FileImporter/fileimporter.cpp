@@ -44,7 +44,7 @@ QStringList* FileImporter::ReadColumn(int column)
 
 DataSet* FileImporter::GetDataSet()
 {
-    m_OwnedDataSet.release();
+    static_cast<void>(m_OwnedDataSet.release());
     return m_DataSet;
 }
 

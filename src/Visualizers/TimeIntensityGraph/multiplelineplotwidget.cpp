@@ -34,6 +34,7 @@ void MultipleLinePlotWidget::RemoveCutSegment(CutSegment* segment)
 void MultipleLinePlotWidget::rejectLines(const std::vector<int>& lines)
 {
     std::vector<CutSegment*> rejected;
+    rejected.reserve(lines.size());
     for (const int line : lines)
         rejected.push_back(plot().GetCutSegment(line));
     for (CutSegment* segment : rejected) {

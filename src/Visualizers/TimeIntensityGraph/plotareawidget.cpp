@@ -88,7 +88,7 @@ void PlotAreaWidget::AddPlot(int attribute)
     appendPlot(std::move(plot));
 }
 
-void PlotAreaWidget::AddPlot(double* values, int size, QString name)
+void PlotAreaWidget::AddPlot(double* values, int size, const QString& name)
 {
     auto plot = makePlot(-1);
     plot->SetData(values, size, name);

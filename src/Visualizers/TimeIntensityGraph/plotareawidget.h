@@ -49,7 +49,7 @@ public:
 
 public slots:
     virtual void AddPlot(int attribute);
-    void AddPlot(double* values, int size, QString name);
+    void AddPlot(double* values, int size, const QString& name);
     void RemovePlot(int attribute);
     /// Adds a plot of the attribute, or removes the one there is.
     void TogglePlot(int attribute);

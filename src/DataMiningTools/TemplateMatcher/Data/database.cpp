@@ -53,7 +53,7 @@ QSqlError createTables()
 {
     DatabaseTransaction transaction;
     for (const char* statement : createStatements) {
-        const QSqlError error = run(statement);
+        QSqlError error = run(statement);
         if (error.isValid())
             return error;
     }
@@ -70,11 +70,11 @@ QSqlError prepare(QSqlDatabase& database)
 {
     if (!database.open())
         return database.lastError();
-    const QSqlError pragmaError = run("PRAGMA foreign_keys = ON;");
+    QSqlError pragmaError = run("PRAGMA foreign_keys = ON;");
     if (pragmaError.isValid())
         return pragmaError;
     // The list of tables is empty for a file that can't be read, without a reason; this has one.
-    const QSqlError readError = run("SELECT count(*) FROM sqlite_master");
+    QSqlError readError = run("SELECT count(*) FROM sqlite_master");
     if (readError.isValid())
         return readError;
     const QStringList tables = database.tables();

@@ -34,7 +34,7 @@ QRectF VisibleRect(const QPainter& painter)
 
 double HorizontalScale(const QPainter& painter)
 {
-    const QTransform transform = painter.deviceTransform();
+    const QTransform& transform = painter.deviceTransform();
     return std::hypot(transform.m11(), transform.m12());
 }
 
