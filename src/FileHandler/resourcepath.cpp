@@ -10,7 +10,7 @@ QString ResourcePath(const QString& name)
     const QString program = QCoreApplication::applicationDirPath();
     for (const QString& folder :
          {program, QString(program + QStringLiteral("/../share/skerrymoor"))}) {
-        const QString path = folder + QLatin1Char('/') + name;
+        QString path = folder + QLatin1Char('/') + name;
         if (QFileInfo::exists(path))
             return path;
     }
