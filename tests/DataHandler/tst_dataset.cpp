@@ -1,10 +1,8 @@
 #include "testdata.h"
 
 #include <QTest>
-#include <cfloat>
 #include <cmath>
 #include <limits>
-#include <random>
 
 namespace
 {
@@ -27,16 +25,12 @@ class TestDataSet : public QObject
 private slots:
     void rangesHaveOddStarts_data();
     void rangesHaveOddStarts();
-    void rangesAreThoseOfSinglePrecisionStepByStep();
     void axisRangesOverride();
     void looksUp();
     void removesAttributes();
     void raggedRowsReadAsMissing();
-    void rowsEditTheirValues();
     void labels();
-    void findsRows_data();
     void findsRows();
-    void namesTypes();
 };
 
 void TestDataSet::rangesHaveOddStarts_data()
@@ -60,31 +54,6 @@ void TestDataSet::rangesHaveOddStarts()
     QTEST(data->GetRawMax(0), "high");
     QCOMPARE(data->GetMinValue(0), double(data->GetRawMin(0)));
     QCOMPARE(data->GetMaxValue(0), double(data->GetRawMax(0)));
-}
-
-// Value by value against a range that is narrowed at every step.
-void TestDataSet::rangesAreThoseOfSinglePrecisionStepByStep()
-{
-    std::mt19937_64 random(3);
-    for (int run = 0; run < 200; ++run) {
-        DataSet data;
-        data.SetAttributeCount(1);
-        float low = FLT_MAX;
-        float high = FLT_MIN;
-        // Neighbouring doubles, which narrowing takes together.
-        std::uniform_real_distribution<double> values(-1.0 - 1e-7, -1.0 + 1e-7);
-        for (int i = 0; i < 20; ++i) {
-            const double value = run % 2 ? values(random) : -values(random);
-            low = double(low) > value ? float(value) : low;
-            high = value > double(high) ? float(value) : high;
-            auto* row = new DataRow;
-            row->AddValue(value);
-            data.AddRow(row);
-        }
-        data.UpdateRanges();
-        QCOMPARE(data.GetRawMin(0), low);
-        QCOMPARE(data.GetRawMax(0), high);
-    }
 }
 
 void TestDataSet::axisRangesOverride()
@@ -159,23 +128,6 @@ void TestDataSet::raggedRowsReadAsMissing()
     QCOMPARE(data->GetRow(1)->GetValueCount(), 2);
 }
 
-void TestDataSet::rowsEditTheirValues()
-{
-    DataRow row;
-    row.SetValues(QStringList{QStringLiteral("1"), QStringLiteral("x"), QStringLiteral(" 3e1")});
-    QCOMPARE(row.GetValue(1), 0.0);
-    QCOMPARE(row.GetLastValue(), 30.0);
-    row.SetValue(1, 7.0);
-    row.SetValue(3, 8.0);
-    row.SetValue(-1, 8.0);
-    row.RemoveValue(3);
-    QCOMPARE(row.GetValueCount(), 3);
-    QCOMPARE(row.GetValue(1), 7.0);
-    row.SetValues(QStringList{QStringLiteral("4")});
-    QCOMPARE(row.GetValueCount(), 1);
-    QVERIFY(std::isnan(row.GetValue(2)));
-}
-
 void TestDataSet::labels()
 {
     DataRow row;
@@ -192,52 +144,22 @@ void TestDataSet::labels()
     QCOMPARE(row.GetLabel(), QString());
 }
 
-void TestDataSet::findsRows_data()
-{
-    QTest::addColumn<double>("d");
-    QTest::addColumn<bool>("useD");
-    QTest::addColumn<double>("e");
-    QTest::addColumn<bool>("useE");
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("found");
-    QTest::newRow("first") << 0.0 << false << 0.0 << false << 0 << 1;
-    QTest::newRow("from there") << 0.0 << false << 0.0 << false << 1 << 1;
-    QTest::newRow("behind it") << 0.0 << false << 0.0 << false << 2 << 2;
-    QTest::newRow("negative start") << 0.0 << false << 0.0 << false << -5 << 1;
-    QTest::newRow("with d") << 5.0 << true << 0.0 << false << 0 << 2;
-    QTest::newRow("with e") << 0.0 << false << 8.0 << true << 0 << 3;
-    QTest::newRow("with both") << 5.0 << true << 8.0 << true << 0 << 3;
-    QTest::newRow("no match") << 9.0 << true << 0.0 << false << 0 << -1;
-    QTest::newRow("past the end") << 0.0 << false << 0.0 << false << 4 << -1;
-}
-
 void TestDataSet::findsRows()
 {
-    QFETCH(double, d);
-    QFETCH(bool, useD);
-    QFETCH(double, e);
-    QFETCH(bool, useE);
-    QFETCH(int, start);
     const auto data = MakeDataSet("1 2 4 4 7\n1 2 3 4 7\n1 2 3 5 7\n1 2 3 5 8");
-    const DataRow* row = data->FindRow(0, 1, 2, 1.0, 2.0, 3.0, 3, d, useD, 4, e, useE, start);
-    QTEST(data->GetRowIndex(row), "found");
-}
-
-void TestDataSet::namesTypes()
-{
-    QCOMPARE(AttributeTypeName(2), AttributeTypeName(8));
-    QCOMPARE(AttributeTypeName(11), QStringLiteral("Mag X"));
-    QCOMPARE(AttributeTypeName(15), QStringLiteral("Other"));
-    QCOMPARE(AttributeTypeName(16), QStringLiteral("N/A"));
-    QCOMPARE(AttributeTypeName(-1), QStringLiteral("N/A"));
-    QCOMPARE(AttributeTypeFromName(QStringLiteral("Com Y")), 12);
-    QCOMPARE(AttributeTypeFromName(QStringLiteral("Com Z")), 15);
-    QCOMPARE(AttributeTypeFromName(QStringLiteral("Com_Z")), 13);
-    QCOMPARE(AttributeTypeFromName(QStringLiteral("Date")), 15);
-    QCOMPARE(StandardAttributeName(15), QStringLiteral("TG_Presure"));
-    QCOMPARE(StandardAttributeName(29), QStringLiteral("DR_Latitude"));
-    QCOMPARE(StandardAttributeName(42), QStringLiteral("Speed Coefficent"));
-    QCOMPARE(StandardAttributeName(43), QStringLiteral("Error"));
+    const auto find = [&](double d, double e, int start) {
+        // Below 0 stands for a value that is not asked for.
+        return data->GetRowIndex(
+            data->FindRow(0, 1, 2, 1.0, 2.0, 3.0, 3, d, d >= 0.0, 4, e, e >= 0.0, start));
+    };
+    QCOMPARE(find(-1.0, -1.0, -5), 1);
+    QCOMPARE(find(-1.0, -1.0, 1), 1);
+    QCOMPARE(find(-1.0, -1.0, 2), 2);
+    QCOMPARE(find(5.0, -1.0, 0), 2);
+    QCOMPARE(find(-1.0, 8.0, 0), 3);
+    QCOMPARE(find(5.0, 8.0, 0), 3);
+    QCOMPARE(find(9.0, -1.0, 0), -1);
+    QCOMPARE(find(-1.0, -1.0, 4), -1);
 }
 
 QTEST_GUILESS_MAIN(TestDataSet)

@@ -22,8 +22,6 @@ class TestHeaderPresets : public QObject
 private slots:
     void presets_data();
     void presets();
-    void loggerNames_data();
-    void loggerNames();
     void finish_data();
     void finish();
 };
@@ -40,18 +38,14 @@ void TestHeaderPresets::presets_data()
     };
     row("1 one short", 0, 8,
         QStringLiteral("Col_1:15 Col_2:15 Col_3:15 Col_4:15 Col_5:15 Col_6:15 Col_7:15 Col_8:15"));
-    row("1 exact", 0, 9, QStringLiteral("Date:0 Time:1 %1 TG_Presure:14").arg(sensors));
     row("1 wider", 0, 11,
         QStringLiteral("Date:0 Time:1 %1 TG_Presure:14 Col_9:15 Col_10:15").arg(sensors));
     row("2 wider", 1, 9, QStringLiteral("Time:1 %1 TG_Presure:14 Col_8:15").arg(sensors));
-    row("2 short", 1, 2, QStringLiteral("Col_1:15 Col_2:15"));
-    row("3 sensors only", 2, 6, sensors);
     row("3 some clock columns", 2, 9,
         sensors + QStringLiteral(" TG_Presure:14 TG_Unknown:15 TG_Sec:15"));
     row("3 wider", 2, 13,
         QStringLiteral("%1 TG_Presure:14 %2 Col_11:15 Col_12:15").arg(sensors, clock));
     row("4 wider", 3, 5, QStringLiteral("Acc_X:2 Acc_Y:3 Acc_Z:4 Col_3:15 Col_4:15"));
-    row("5", 4, 2, QStringLiteral("Col_1:15 Col_2:15"));
     row("no columns", 0, 0, QString());
 }
 
@@ -62,23 +56,6 @@ void TestHeaderPresets::presets()
     QTEST(toText(PresetHeaders(preset, columns)), "expected");
 }
 
-void TestHeaderPresets::loggerNames_data()
-{
-    QTest::addColumn<int>("columns");
-    QTest::addColumn<QString>("lastTwo");
-    QTest::newRow("11") << 11 << "Col_10 Col_11";
-    QTest::newRow("12") << 12 << "TG_Hour TG_Unknown";
-    QTest::newRow("14") << 14 << "TG_Unknown13 TG_Unknown14";
-}
-
-void TestHeaderPresets::loggerNames()
-{
-    QFETCH(int, columns);
-    const QStringList names = LoggerColumnNames(columns);
-    QCOMPARE(names.size(), columns);
-    QTEST(QStringList(names.mid(columns - 2)).join(QLatin1Char(' ')), "lastTwo");
-}
-
 void TestHeaderPresets::finish_data()
 {
     QTest::addColumn<QString>("types");
@@ -87,8 +64,6 @@ void TestHeaderPresets::finish_data()
     QTest::newRow("neither") << "2 3 4 15"
                              << "c0:2 c1:3 c2:4 c3:15" << 0.0;
     QTest::newRow("date before time") << "0 1 2 3"
-                                      << "c2:2 c3:3" << 2.0;
-    QTest::newRow("time before date") << "1 0 2 3"
                                       << "c2:2 c3:3" << 2.0;
     QTest::newRow("apart") << "2 1 3 0"
                            << "c0:2 c2:3" << 0.0;

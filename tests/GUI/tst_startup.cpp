@@ -1,21 +1,8 @@
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QtTest>
 
 namespace
 {
-
-void runStatement(const QString& path, const QString& statement)
-{
-    {
-        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
-        database.setDatabaseName(path);
-        QVERIFY(database.open());
-        QVERIFY(QSqlQuery().exec(statement));
-    }
-    QSqlDatabase::removeDatabase(QLatin1String(QSqlDatabase::defaultConnection));
-}
 
 void writeFile(const QString& path, const QByteArray& content)
 {
@@ -34,8 +21,8 @@ private slots:
     void init();
     void cleanup();
     void newHome();
-    void refusedDatabases_data();
-    void refusedDatabases();
+    void refusesAFileWhereTheFolderShouldBe();
+    void refusesGarbage();
 
 private:
     QString databasePath() const
@@ -43,6 +30,7 @@ private:
         return m_Home->filePath(QStringLiteral("Skerrymoor/pattern_db.sqlite"));
     }
     void start();
+    void checkRefusal(const char* fileNamed);
 
     std::unique_ptr<QTemporaryDir> m_Home;
     std::unique_ptr<QProcess> m_Program;
@@ -80,33 +68,8 @@ void TestStartup::newHome()
     QCOMPARE(m_Program->state(), QProcess::Running);
 }
 
-void TestStartup::refusedDatabases_data()
+void TestStartup::checkRefusal(const char* fileNamed)
 {
-    QTest::addColumn<QString>("statement");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("fileNamed");
-    QTest::newRow("one table of four") << "create table pattern_collection(id integer primary key)"
-                                       << QByteArray() << "pattern_db.sqlite";
-    QTest::newRow("not a database")
-        << QString() << QByteArray("anything else, ").repeated(100) << "pattern_db.sqlite";
-    QTest::newRow("a file where the folder should be") << QString() << QByteArray() << "Skerrymoor";
-}
-
-void TestStartup::refusedDatabases()
-{
-    QFETCH(QString, statement);
-    QFETCH(QByteArray, content);
-    QFETCH(QString, fileNamed);
-    const QString folder = m_Home->filePath(QStringLiteral("Skerrymoor"));
-    if (statement.isEmpty() && content.isEmpty())
-        writeFile(folder, "x");
-    else
-        QVERIFY(QDir().mkdir(folder));
-    if (!statement.isEmpty())
-        runStatement(databasePath(), statement);
-    else if (!content.isEmpty())
-        writeFile(databasePath(), content);
-
     start();
     QVERIFY(m_Program->waitForFinished(20000));
     QCOMPARE(m_Program->exitStatus(), QProcess::NormalExit);
@@ -114,7 +77,20 @@ void TestStartup::refusedDatabases()
     QByteArray line;
     while (!line.startsWith("Error: ") && m_Program->canReadLine())
         line = m_Program->readLine();
-    QVERIFY2(line.contains(fileNamed.toUtf8()), line.constData());
+    QVERIFY2(line.contains(fileNamed), line.constData());
+}
+
+void TestStartup::refusesAFileWhereTheFolderShouldBe()
+{
+    writeFile(m_Home->filePath(QStringLiteral("Skerrymoor")), "x");
+    checkRefusal("Skerrymoor");
+}
+
+void TestStartup::refusesGarbage()
+{
+    QVERIFY(QDir(m_Home->path()).mkdir(QStringLiteral("Skerrymoor")));
+    writeFile(databasePath(), QByteArray("anything else, ").repeated(100));
+    checkRefusal("pattern_db.sqlite");
 }
 
 QTEST_GUILESS_MAIN(TestStartup)

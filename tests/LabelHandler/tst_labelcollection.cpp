@@ -8,8 +8,6 @@ class TestLabelCollection : public QObject
     Q_OBJECT
 private slots:
     void tellsWhatItAddsAndRemoves();
-    void keepsQuietWhereAsked();
-    void findsBehaviours();
     void removesACutFromTheFirstBehaviour();
     void keepsWhatLeftItsLists();
 };
@@ -42,36 +40,6 @@ void TestLabelCollection::tellsWhatItAddsAndRemoves()
     QVERIFY(label.RemoveLabel(&first));
     QVERIFY(!label.RemoveLabel(&first));
     QCOMPARE(removed.size(), 2);
-}
-
-void TestLabelCollection::keepsQuietWhereAsked()
-{
-    CutSegment segment(0, 10);
-    BehaviorLabel label;
-    QSignalSpy added(&label, &BehaviorLabel::CutAdded);
-    QSignalSpy removed(&label, &BehaviorLabel::CutRemoved);
-    auto* instance = new LabelInstance(&segment);
-    label.AddLabelQuietly(instance);
-    QVERIFY(label.RemoveInstance(instance));
-    QVERIFY(!label.RemoveInstance(instance));
-    label.AddLabelQuietly(instance);
-    QVERIFY(label.RemoveLabelQuietly(&segment));
-    QVERIFY(!label.RemoveLabelQuietly(&segment));
-    QCOMPARE(added.size() + removed.size(), 0);
-}
-
-void TestLabelCollection::findsBehaviours()
-{
-    LabelCollection labels;
-    auto* dive = new BehaviorLabel(QStringLiteral("Dive"));
-    labels.AddLabel(dive);
-    labels.AddLabel(new BehaviorLabel(QStringLiteral("Dive")));
-    QCOMPARE(labels.FindLabel(QStringLiteral("Dive")), dive);
-    QCOMPARE(labels.FindLabel(QStringLiteral("dive")), nullptr);
-    QVERIFY(labels.RemoveLabel(dive));
-    QVERIFY(!labels.RemoveLabel(dive));
-    QCOMPARE(labels.FindLabel(QStringLiteral("Dive")), labels.GetLabel(0));
-    QCOMPARE(labels.GetLabelCount(), 1);
 }
 
 void TestLabelCollection::removesACutFromTheFirstBehaviour()
