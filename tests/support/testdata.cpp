@@ -18,3 +18,16 @@ std::unique_ptr<DataSet> MakeDataSet(const char* rows, const QStringList& names)
     data->ComputeRanges();
     return data;
 }
+
+std::unique_ptr<DataSet> MakeColumn(const std::vector<double>& values)
+{
+    auto data = MakeDataSet("", {QStringLiteral("A")});
+    for (const double value : values) {
+        auto* row = new DataRow;
+        row->AddValue(value);
+        row->SetNumberLabel(data->GetRowCount() + 1);
+        data->AddRow(row);
+    }
+    data->ComputeRanges();
+    return data;
+}
