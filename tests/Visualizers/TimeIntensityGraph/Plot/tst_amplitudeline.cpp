@@ -21,18 +21,6 @@ constexpr double missing = std::numeric_limits<double>::quiet_NaN();
 
 using Column = std::vector<double>;
 
-std::unique_ptr<DataSet> makeColumn(const Column& values)
-{
-    auto data = MakeDataSet("", {QStringLiteral("A")});
-    for (const double value : values) {
-        auto* row = new DataRow;
-        row->AddValue(value);
-        data->AddRow(row);
-    }
-    data->ComputeRanges();
-    return data;
-}
-
 /// A shape from 0 to 1 over the recording, with noise.
 Column makeSignal(int rows, double noise, double (*shape)(double place))
 {
@@ -68,7 +56,7 @@ Column noisySine(int rows)
 
 /// A line over a recording, the axes as wide as `extent` pixels.
 struct Scene {
-    Scene(const Column& values, double extent) : m_Data(makeColumn(values))
+    Scene(const Column& values, double extent) : m_Data(MakeColumn(values))
     {
         m_Vertical.SetTop({0, 9});
         m_Vertical.SetBottom({0, height - 9});
@@ -473,7 +461,7 @@ void TestAmplitudeLine::heatColors()
 {
     QFETCH(double, value);
     QFETCH(QVector<double>, rgb);
-    const auto data = makeColumn({-4, 4, value});
+    const auto data = MakeColumn({-4, 4, value});
     const HeatRgb color = HeatColor(*data, 2, 0);
     QCOMPARE((QVector<double>{double(color.m_Red), double(color.m_Green), double(color.m_Blue)}),
              rgb);
