@@ -2,6 +2,7 @@
 #include "segmenttext.h"
 #include "testdata.h"
 
+#include <QLoggingCategory>
 #include <QTest>
 #include <functional>
 #include <random>
@@ -122,6 +123,8 @@ private slots:
     void mergesLabelsBackAndForth();
     void restoresStoredEnds_data();
     void restoresStoredEnds();
+    void sorts();
+    void logsRefusals();
     void keepsItsShapeUnderRandomSteps();
 };
 
@@ -139,11 +142,13 @@ void TestCutCollection::changes_data()
     const auto cut = [](int from, int to, CutSegment::SEGMENT_STATE state) -> Step {
         return [=](CutCollection& cuts) { return cuts.InsertCut(from, to, state) != nullptr; };
     };
+    add("cut a range", "100", cut(10, 20, plain), true, "(0,10) (10,20) (20,100)");
     add("cut a result", "100", cut(10, 20, result), true, "(0,10) R(10,20) (20,100)");
     add("cut out of a labelled one", "100L", cut(10, 20, plain), true, "L(0,10) (10,20) (20,100)");
     add("cut at the front", "100", cut(0, 10, result), true, "(0,0) R(0,10) (10,100)");
     add("cut at the end", "100", cut(90, 100, result), true, "(0,90) R(90,100) (100,100)");
     add("cut across a boundary", "10 20 100", cut(15, 25, plain), false, "(0,10) (10,20) (20,100)");
+    add("cut beyond the end", "100", cut(90, 101, plain), false, "(0,100)");
     add("cut backwards", "100", cut(20, 10, plain), false, "(0,100)");
 
     const auto split = [](int at) -> Step {
@@ -151,26 +156,40 @@ void TestCutCollection::changes_data()
     };
     add("split", "100", split(30), true, "(0,30) R(30,100)");
     add("split on a boundary", "10 100", split(10), true, "(0,10) R(10,10) (10,100)");
+    add("split outside", "100", split(101), false, "(0,100)");
 
     const auto remove = [](int index) -> Step {
         return [=](CutCollection& cuts) { return cuts.RemoveSegment(cuts.GetSegment(index)); };
     };
     add("remove between plain ones", "10 20 100", remove(1), true, "(0,100)");
     add("remove a labelled one", "10 20L 100", remove(1), true, "(0,100)");
+    add("remove between labelled ones", "10L 20 100L", remove(1), false,
+        "L(0,10) (10,20) L(20,100)");
     add("remove between results", "10R 20 100R", remove(1), false, "R(0,10) (10,20) R(20,100)");
     add("remove between a plain and a result", "10 20 100R", remove(1), false,
         "(0,10) (10,20) R(20,100)");
     add("remove behind a labelled one", "10L 20 100R", remove(1), true, "L(0,10) R(10,100)");
     add("remove before a labelled one", "10R 20 100L", remove(1), true, "R(0,20) L(20,100)");
     add("remove the first", "10 100", remove(0), true, "(0,100)");
+    add("remove the last", "10R 100", remove(1), true, "R(0,100)");
     add("remove the last behind a labelled one", "10L 100", remove(1), true, "L(0,100)");
     add("remove the first before a labelled one", "10 100L", remove(0), false, "(0,10) L(10,100)");
     add("remove the only one", "100", remove(0), false, "(0,100)");
     add("remove a zero-length one", "10 10 100", remove(1), true, "(0,100)");
+    add("remove a zero-length first one", "0 100", remove(0), true, "(0,100)");
+    add(
+        "remove a stranger", "100",
+        [](CutCollection& cuts) {
+            CutSegment stranger(0, 10);
+            return cuts.RemoveSegment(&stranger);
+        },
+        false, "(0,100)");
+
     const auto removeAll = [](CutSegment::SEGMENT_STATE state) -> Step {
         return [=](CutCollection& cuts) { return cuts.RemoveSegments(state), true; };
     };
     add("remove results", "10R 20 30R 100", removeAll(result), true, "(0,100)");
+    add("remove plain ones", "10 20 30 100", removeAll(plain), true, "(0,100)");
     add("remove results beside each other", "10 20R 30R 100", removeAll(result), true,
         "(0,10) R(10,20) R(20,30) (30,100)");
 
@@ -178,6 +197,7 @@ void TestCutCollection::changes_data()
         return [=](CutCollection& cuts) { return cuts.MergeCuts(from, to); };
     };
     add("merge a single one", "100", merge(0, 100), false, "(0,100)");
+    add("merge one cut", "10 100", merge(5, 15), true, "(0,100)");
     add("merge the last cut", "10 20 100", merge(15, 200), true, "(0,10) (10,100)");
     add("merge two cuts", "10 20 100", merge(5, 25), true, "(0,100)");
     add("merge leaves a neighbour for the next pass", "10 20 30 40 100", merge(5, 45), true,
@@ -195,9 +215,11 @@ void TestCutCollection::changes_data()
         };
     };
     add("move a middle one", "10 20 100", move(1, 5, 30), true, "(0,5) (5,30) (30,100)");
+    add("move the first", "10 100", move(0, 0, 5), true, "(0,5) (5,100)");
     add("move the first off row 0", "10L 100", move(0, 2, 5), true, "(0,2) L(2,5) (5,100)");
     add("move the last", "50 100", move(1, 60, 100), true, "(0,60) (60,100)");
     add("move the last off the end", "50 100", move(1, 60, 90), true, "(0,60) (60,90) (60,100)");
+    add("move the only one", "100", move(0, 10, 20), true, "(0,100)");
 }
 
 void TestCutCollection::changes()
@@ -224,6 +246,9 @@ void TestCutCollection::finds()
     QCOMPARE(three.FindSegment(101, index), nullptr);
     QCOMPARE(index, 0);
     QCOMPARE(three.GetSegments(10, 99), QList<CutSegment*>{three.GetSegment(1)});
+    QCOMPARE(three.GetSegments(0, 100).size(), 3);
+    QCOMPARE(three.CountSegments(result), 1);
+    QCOMPARE(three.CountSegments(labelled), 0);
 }
 
 void TestCutCollection::insertsHits()
@@ -306,6 +331,29 @@ void TestCutCollection::restoresStoredEnds()
     QVERIFY(step(cuts));
     cuts.MergeLabels(0);
     QTEST(ToText(cuts), "restored");
+}
+
+void TestCutCollection::sorts()
+{
+    CutCollection cuts;
+    MakeCuts(cuts, "10 20 30 100");
+    cuts.GetSegment(3)->SetFrom(10);
+    cuts.GetSegment(0)->SetFrom(15);
+    cuts.Sort();
+    QCOMPARE(ToText(cuts), QStringLiteral("(10,20) (10,100) (15,10) (20,30)"));
+}
+
+void TestCutCollection::logsRefusals()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("skerrymoor.cuts.debug=true"));
+    CutCollection cuts;
+    MakeCuts(cuts, "10 100");
+    for (const char* text : {"Insert error - Fix me", "Mering labels 3", "Right found"})
+        QTest::ignoreMessage(QtDebugMsg, text);
+    cuts.InsertCut(5, 15, plain);
+    cuts.MergeLabels(3);
+    cuts.RemoveSegment(cuts.GetSegment(0));
+    QLoggingCategory::setFilterRules(QString());
 }
 
 // Random clicks of a user; after each one the table must still be what the views rely on.

@@ -10,6 +10,7 @@
 #include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QTest>
+#include <cerrno>
 
 namespace
 {
@@ -31,10 +32,14 @@ private slots:
     void init();
     void cleanup();
     void preparesAndKeeps();
+    void refusesPartialDatabases_data();
     void refusesPartialDatabases();
     void refusesWhatIsNoDatabase_data();
     void refusesWhatIsNoDatabase();
+    void refusesALockedDatabase();
     void refusesAReadOnlyDatabase();
+    void refusesAFolderThatCannotBeMade_data();
+    void refusesAFolderThatCannotBeMade();
     void makesTheFoldersAboveToo();
     void storesAndReadsCollections();
     void storesAWholeCollectionOrNothing();
@@ -97,18 +102,33 @@ void TestDatabase::preparesAndKeeps()
     QCOMPARE(ask("PRAGMA foreign_keys").toInt(), 1);
 }
 
+void TestDatabase::refusesPartialDatabases_data()
+{
+    QTest::addColumn<QStringList>("tables");
+    const QStringList all{QStringLiteral("pattern_collection"), QStringLiteral("pattern"),
+                          QStringLiteral("signal_template_collection"),
+                          QStringLiteral("signal_template")};
+    for (const QString& table : all) {
+        QStringList others = all;
+        others.removeOne(table);
+        QTest::newRow(qPrintable(QStringLiteral("only ") + table)) << QStringList(table);
+        QTest::newRow(qPrintable(QStringLiteral("all but ") + table)) << others;
+    }
+}
+
 void TestDatabase::refusesPartialDatabases()
 {
-    // All but the first table that is made.
-    const QStringList tables{QStringLiteral("pattern"), QStringLiteral("signal_template"),
-                             QStringLiteral("signal_template_collection")};
+    QFETCH(QStringList, tables);
+    QStringList statements;
     for (const QString& table : tables)
-        execute({QStringLiteral("create table %1(id integer)").arg(table)});
+        statements.append(QStringLiteral("create table %1(id integer)").arg(table));
+    execute(statements);
     const QString text = refusal();
     QVERIFY2(text.contains(QStringLiteral("already exists")) && text.contains(m_File),
              qPrintable(text));
     QStringList left = QSqlDatabase::database(otherConnection).tables();
     left.sort();
+    tables.sort();
     QCOMPARE(left, tables);
 }
 
@@ -138,6 +158,16 @@ void TestDatabase::refusesWhatIsNoDatabase()
     QVERIFY(isFolder || (file.open(QIODevice::ReadOnly) && file.readAll() == bytes));
 }
 
+void TestDatabase::refusesALockedDatabase()
+{
+    execute({QStringLiteral("create table notes(id integer)"), QStringLiteral("BEGIN EXCLUSIVE")});
+    const QString text = refusal();
+    QVERIFY2(text.contains(QStringLiteral("locked")) && text.contains(m_File), qPrintable(text));
+    QSqlDatabase::removeDatabase(otherConnection);
+    QCOMPARE(refusal(), QString());
+    QVERIFY(QSqlDatabase::database().tables().contains(QStringLiteral("notes")));
+}
+
 void TestDatabase::refusesAReadOnlyDatabase()
 {
     execute({QStringLiteral("create table notes(id integer)")});
@@ -152,6 +182,29 @@ void TestDatabase::refusesAReadOnlyDatabase()
     QVERIFY(user.IsOrdinary());
     const QString text = refusal();
     QVERIFY2(text.contains(QStringLiteral("readonly")) && text.contains(m_File), qPrintable(text));
+}
+
+void TestDatabase::refusesAFolderThatCannotBeMade_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("below a file") << QStringLiteral("file") << qt_error_string(ENOTDIR);
+    QTest::newRow("a file of that name") << QStringLiteral("taken") << qt_error_string(EEXIST);
+}
+
+void TestDatabase::refusesAFolderThatCannotBeMade()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, reason);
+    const QDir home(m_Home->path());
+    home.mkdir(QStringLiteral("taken"));
+    for (const char* name : {"file", "taken/Skerrymoor"}) {
+        QFile file(home.filePath(QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, home.filePath(path));
+    const QString text = refusal();
+    QVERIFY2(text.contains(home.filePath(path)) && text.contains(reason), qPrintable(text));
 }
 
 void TestDatabase::makesTheFoldersAboveToo()
@@ -176,6 +229,7 @@ void TestDatabase::storesAndReadsCollections()
     const QList<CollectionsDataObject*> all = CollectionsDataObject::GetAllCollections();
     QCOMPARE(all.size(), 2);
     QCOMPARE(all[1]->GetDesc(), mine.GetDesc());
+    QVERIFY(all[1]->GetPatterns().isEmpty());
     qDeleteAll(all);
     const std::unique_ptr<CollectionsDataObject> read(
         CollectionsDataObject::GetCollection(id, true));
@@ -183,6 +237,8 @@ void TestDatabase::storesAndReadsCollections()
     QCOMPARE(read->GetName(), QStringLiteral("Mine"));
     QCOMPARE(read->GetPatterns().size(), 1);
     QCOMPARE(read->GetPatterns().first()->GetDesc(), QStringLiteral("deep"));
+    QCOMPARE(read->GetPatterns().first()->GetCollectionId(), id);
+    QVERIFY(read->GetPatterns().first()->GetId() > 0);
 
     QVERIFY(CollectionsDataObject::DeleteCollection(id));
     QCOMPARE(CollectionsDataObject::GetCollection(id, true), nullptr);
