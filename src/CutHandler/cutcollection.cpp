@@ -8,27 +8,85 @@
 
 Q_LOGGING_CATEGORY(lcCuts, "skerrymoor.cuts", QtWarningMsg)
 
+namespace
+{
+
+// The first row of a segment is not above from, and its end not below to.
+EndLimits holding(int from, int to)
+{
+    EndLimits limits;
+    limits.m_HighestFrom = from;
+    limits.m_LowestTo = to;
+    return limits;
+}
+
+EndLimits startingAt(int row)
+{
+    EndLimits limits;
+    limits.m_LowestFrom = limits.m_HighestFrom = row;
+    return limits;
+}
+
+EndLimits endingAt(int row)
+{
+    EndLimits limits;
+    limits.m_LowestTo = limits.m_HighestTo = row;
+    return limits;
+}
+
+// A cut shortens the segment it is made in, but not that segment's stored end.
+void restoreStoredEnds(const std::vector<CutSegment*>& segments)
+{
+    for (size_t i = 0; i < segments.size(); ++i) {
+        CutSegment* segment = segments[i];
+        segment->SetFrom(segment->GetOriginalFrom());
+        segment->SetTo(segment->GetOriginalTo());
+        if (i + 1 == segments.size())
+            continue;
+        const int nextFrom = segments[i + 1]->GetOriginalFrom();
+        if (nextFrom >= segment->GetOriginalFrom() && nextFrom < segment->GetTo())
+            segment->SetTo(nextFrom);
+    }
+}
+
+void closeGaps(const std::vector<CutSegment*>& segments, int gap)
+{
+    CutSegment* previous = nullptr;
+    for (CutSegment* segment : segments) {
+        if (segment->GetState() != CutSegment::SEGMENT_LABELED)
+            continue;
+        if (previous && segment->GetFrom() - previous->GetTo() < gap) {
+            const int middle = (previous->GetTo() + segment->GetFrom()) / 2;
+            previous->SetTo(middle);
+            segment->SetFrom(middle);
+        }
+        previous = segment;
+    }
+}
+
+} // namespace
+
 CutSegment* CutCollection::FindSegment(int row, int& index) const
 {
-    for (int i = 0; i < m_Segments.size(); ++i) {
-        CutSegment* segment = m_Segments[i];
-        if (segment->GetFrom() <= row && row <= segment->GetTo()) {
-            index = i;
-            return segment;
-        }
-    }
-    index = 0;
-    return nullptr;
+    const int found = m_Segments.FindNext(holding(row, row));
+    index = std::max(found, 0);
+    return found == -1 ? nullptr : m_Segments.Get(found);
+}
+
+int CutCollection::FindNextTouching(int from, int to, int start) const
+{
+    return m_Segments.FindNext(holding(to, from), start);
 }
 
 QList<CutSegment*> CutCollection::GetSegments(int from, int to) const
 {
-    QList<CutSegment*> inside;
-    std::copy_if(m_Segments.begin(), m_Segments.end(), std::back_inserter(inside),
-                 [=](const CutSegment* segment) {
-                     return segment->GetFrom() >= from && segment->GetTo() <= to;
-                 });
-    return inside;
+    EndLimits inside;
+    inside.m_LowestFrom = from;
+    inside.m_HighestTo = to;
+    QList<CutSegment*> segments;
+    for (int i = m_Segments.FindNext(inside); i != -1; i = m_Segments.FindNext(inside, i + 1))
+        segments.append(m_Segments.Get(i));
+    return segments;
 }
 
 int CutCollection::CountSegments(CutSegment::SEGMENT_STATE state) const
@@ -40,31 +98,28 @@ int CutCollection::CountSegments(CutSegment::SEGMENT_STATE state) const
 
 CutSegment* CutCollection::InsertCut(int from, int to, CutSegment::SEGMENT_STATE state)
 {
-    if (m_Segments.isEmpty()) {
-        m_Segments.append(newSegment(from, to));
-        return m_Segments.first();
+    if (m_Segments.GetCount() == 0) {
+        m_Segments.Append(newSegment(from, to));
+        return m_Segments.Get(0);
     }
-    const auto holder =
-        std::find_if(m_Segments.begin(), m_Segments.end(), [=](const CutSegment* segment) {
-            return segment->GetFrom() <= from && segment->GetTo() >= to;
-        });
-    if (holder == m_Segments.end() || from > to) {
+    const int index = from > to ? -1 : m_Segments.FindNext(holding(from, to));
+    if (index == -1) {
         qCDebug(lcCuts, "Insert error - Fix me");
         return nullptr;
     }
-    const int oldTo = (*holder)->GetTo();
-    (*holder)->SetTo(from);
+    CutSegment* holder = m_Segments.Get(index);
+    const int oldTo = holder->GetTo();
+    holder->SetTo(from);
     CutSegment* cut = newSegment(from, to);
     cut->SetState(state);
-    const int index = int(holder - m_Segments.begin()) + 1;
-    m_Segments.insert(index, newSegment(to, oldTo));
-    m_Segments.insert(index, cut);
+    m_Segments.Insert(index + 1, newSegment(to, oldTo));
+    m_Segments.Insert(index + 1, cut);
     return cut;
 }
 
 CutSegment* CutCollection::InsertCut(int at, CutSegment::SEGMENT_STATE state)
 {
-    if (m_Segments.isEmpty())
+    if (m_Segments.GetCount() == 0)
         return nullptr;
     int index = 0;
     CutSegment* holder = FindSegment(at, index);
@@ -75,7 +130,7 @@ CutSegment* CutCollection::InsertCut(int at, CutSegment::SEGMENT_STATE state)
     CutSegment* right = newSegment(at, holder->GetTo());
     right->SetState(state);
     holder->SetTo(at);
-    m_Segments.insert(index + 1, right);
+    m_Segments.Insert(index + 1, right);
     return right;
 }
 
@@ -102,65 +157,44 @@ void CutCollection::InsertCuts(bool** hits, int templates, int length, PatternsD
 void CutCollection::MergeLabels(int gap)
 {
     qCDebug(lcCuts, "Mering labels %d", gap);
-    restoreStoredEnds();
-    CutSegment* previous = nullptr;
-    for (CutSegment* segment : qAsConst(m_Segments)) {
-        if (segment->GetState() != CutSegment::SEGMENT_LABELED)
-            continue;
-        if (previous && segment->GetFrom() - previous->GetTo() < gap) {
-            const int middle = (previous->GetTo() + segment->GetFrom()) / 2;
-            previous->SetTo(middle);
-            segment->SetFrom(middle);
-        }
-        previous = segment;
-    }
-}
-
-// A cut shortens the segment it is made in, but not that segment's stored end.
-void CutCollection::restoreStoredEnds()
-{
-    for (int i = 0; i < m_Segments.size(); ++i) {
-        CutSegment* segment = m_Segments[i];
-        segment->SetFrom(segment->GetOriginalFrom());
-        segment->SetTo(segment->GetOriginalTo());
-        if (i + 1 == m_Segments.size())
-            continue;
-        const int nextFrom = m_Segments[i + 1]->GetOriginalFrom();
-        if (nextFrom >= segment->GetOriginalFrom() && nextFrom < segment->GetTo())
-            segment->SetTo(nextFrom);
-    }
+    std::vector<CutSegment*> segments = m_Segments.TakeAll();
+    restoreStoredEnds(segments);
+    closeGaps(segments, gap);
+    m_Segments.PutAll(std::move(segments));
 }
 
 bool CutCollection::MergeCuts(int from, int to)
 {
-    if (m_Segments.size() < 2)
+    if (m_Segments.GetCount() < 2)
         return false;
     const auto isInside = [=](int row) { return from < row && row < to; };
-    // The step goes on by one also after a removal: kept, the next press takes the rest.
-    for (int i = 1; i < m_Segments.size(); ++i) {
-        CutSegment* segment = m_Segments[i];
-        const CutSegment* previous = m_Segments[i - 1];
-        const bool fromInside = isInside(segment->GetFrom());
-        const bool toInside = isInside(segment->GetTo());
-        const bool isLast = i == m_Segments.size() - 1;
-        if (!fromInside)
+    const std::vector<CutSegment*> segments = m_Segments.TakeAll();
+    std::vector<CutSegment*> merged{segments.front()};
+    for (size_t i = 1; i < segments.size(); ++i) {
+        CutSegment* segment = segments[i];
+        if (!isInside(segment->GetFrom())) {
+            merged.push_back(segment);
             continue;
-        segment->MoveFrom(previous->GetFrom());
-        if (toInside && !isLast) {
-            segment->MoveTo(m_Segments[i + 1]->GetTo());
-            m_Segments.removeAt(i + 1);
         }
-        m_Segments.removeAt(i - 1);
+        const bool takesNext = isInside(segment->GetTo()) && i + 1 < segments.size();
+        segment->MoveFrom(merged.back()->GetFrom());
+        merged.back() = segment;
+        if (takesNext)
+            segment->MoveTo(segments[++i]->GetTo());
+        // After a removal one segment goes unvisited: kept, the next press takes the rest.
+        if (i + 1 < segments.size())
+            merged.push_back(segments[++i]);
     }
+    m_Segments.PutAll(std::move(merged));
     return true;
 }
 
 bool CutCollection::RemoveSegment(CutSegment* cut)
 {
-    if (!m_Segments.contains(cut))
+    if (!m_Segments.Contains(cut))
         return false;
-    CutSegment* left = findNeighbour(cut, &CutSegment::GetTo, cut->GetFrom(), "Left found");
-    CutSegment* right = findNeighbour(cut, &CutSegment::GetFrom, cut->GetTo(), "Right found");
+    CutSegment* left = findNeighbour(cut, endingAt(cut->GetFrom()), "Left found");
+    CutSegment* right = findNeighbour(cut, startingAt(cut->GetTo()), "Right found");
     const auto isFree = [](const CutSegment* segment) {
         return segment && segment->GetState() != CutSegment::SEGMENT_LABELED;
     };
@@ -168,59 +202,61 @@ bool CutCollection::RemoveSegment(CutSegment* cut)
         if (left->GetState() != CutSegment::SEGMENT_CUT ||
             right->GetState() != CutSegment::SEGMENT_CUT)
             return false;
-        m_Segments.removeOne(cut);
+        m_Segments.Remove(right);
+        // A zero-length segment can lie between two sides that are one and the same.
         left->SetTo(right->GetTo());
-        return m_Segments.removeOne(right);
-    }
-    // The stored end stays on the left side and moves on the right one: kept, see MergeLabels.
-    if (isFree(right))
+    } else if (isFree(right)) {
+        // The stored end stays on the left side and moves on the right one: kept, see
+        // MergeLabels.
         right->MoveFrom(cut->GetFrom());
-    else if (isFree(left) || (left && !right))
+    } else if (isFree(left) || (left && !right)) {
         left->SetTo(cut->GetTo());
-    else
+    } else {
         return false;
-    return m_Segments.removeOne(cut);
+    }
+    m_Segments.Remove(cut);
+    return true;
 }
 
-CutSegment* CutCollection::findNeighbour(const CutSegment* cut, int (CutSegment::*end)() const,
-                                         int row, const char* message) const
+CutSegment* CutCollection::findNeighbour(const CutSegment* cut, const EndLimits& limits,
+                                         const char* message) const
 {
-    const auto found =
-        std::find_if(m_Segments.begin(), m_Segments.end(), [=](const CutSegment* segment) {
-            return segment != cut && (segment->*end)() == row;
-        });
-    if (found == m_Segments.end())
+    int index = m_Segments.FindNext(limits);
+    if (index != -1 && m_Segments.Get(index) == cut)
+        index = m_Segments.FindNext(limits, index + 1);
+    if (index == -1)
         return nullptr;
     qCDebug(lcCuts, "%s", message);
-    return *found;
+    return m_Segments.Get(index);
 }
 
 void CutCollection::RemoveSegments(CutSegment::SEGMENT_STATE state)
 {
-    for (int i = m_Segments.size() - 1; i >= 0; --i) {
+    for (int i = m_Segments.GetCount() - 1; i >= 0; --i) {
         // A removal may take a neighbour with it.
-        if (i < m_Segments.size() && m_Segments[i]->GetState() == state)
-            RemoveSegment(m_Segments[i]);
+        if (i < m_Segments.GetCount() && m_Segments.Get(i)->GetState() == state)
+            RemoveSegment(m_Segments.Get(i));
     }
 }
 
 void CutCollection::MoveSegment(DataSet* dataSet, CutSegment* segment, int from, int to)
 {
-    const int index = m_Segments.indexOf(segment);
-    if (index == -1 || m_Segments.size() < 2)
+    const int index = m_Segments.IndexOf(segment);
+    const int last = m_Segments.GetCount() - 1;
+    if (index == -1 || last < 1)
         return;
     if (index == 0) {
-        m_Segments[1]->MoveFrom(to);
+        m_Segments.Get(1)->MoveFrom(to);
         if (from != 0)
-            m_Segments.prepend(newSegment(0, from));
-    } else if (index == m_Segments.size() - 1) {
-        m_Segments[index - 1]->SetTo(from);
+            m_Segments.Insert(0, newSegment(0, from));
+    } else if (index == last) {
+        m_Segments.Get(index - 1)->SetTo(from);
         // The tail starts where the segment does and covers it: kept.
         if (dataSet && to != dataSet->GetRowCount())
-            m_Segments.append(newSegment(from, dataSet->GetRowCount()));
+            m_Segments.Append(newSegment(from, dataSet->GetRowCount()));
     } else {
-        m_Segments[index - 1]->MoveTo(from);
-        m_Segments[index + 1]->MoveFrom(to);
+        m_Segments.Get(index - 1)->MoveTo(from);
+        m_Segments.Get(index + 1)->MoveFrom(to);
     }
     segment->MoveFrom(from);
     segment->MoveTo(to);
@@ -228,13 +264,26 @@ void CutCollection::MoveSegment(DataSet* dataSet, CutSegment* segment, int from,
 
 void CutCollection::Sort()
 {
-    std::stable_sort(
-        m_Segments.begin(), m_Segments.end(),
-        [](const CutSegment* a, const CutSegment* b) { return a->GetFrom() < b->GetFrom(); });
+    std::vector<CutSegment*> segments = m_Segments.TakeAll();
+    std::stable_sort(segments.begin(), segments.end(),
+                     [](const auto* a, const auto* b) { return a->GetFrom() < b->GetFrom(); });
+    m_Segments.PutAll(std::move(segments));
 }
 
 CutSegment* CutCollection::newSegment(int from, int to)
 {
     m_Owned.push_back(std::make_unique<CutSegment>(from, to));
     return m_Owned.back().get();
+}
+
+bool ResizeLimits(const CutCollection& cuts, const CutSegment* segment, int rows, int& from,
+                  int& to)
+{
+    const int index = cuts.IndexOf(segment);
+    const int last = cuts.GetSegmentCount() - 1;
+    if (index == -1 || last < 1)
+        return false;
+    from = index == 0 ? 0 : cuts.GetSegment(index - 1)->GetFrom();
+    to = index == last ? rows : cuts.GetSegment(index + 1)->GetTo();
+    return true;
 }

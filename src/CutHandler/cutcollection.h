@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cutsegment.h"
+#include "segmentlist.h"
 #include <QList>
 #include <QPair>
 #include <memory>
@@ -20,12 +21,18 @@ public:
     CutCollection(const CutCollection&) = delete;
     CutCollection& operator=(const CutCollection&) = delete;
 
-    int GetSegmentCount() const { return m_Segments.size(); }
+    int GetSegmentCount() const { return m_Segments.GetCount(); }
     /// No bounds check.
-    CutSegment* GetSegment(int index) const { return m_Segments.at(index); }
+    CutSegment* GetSegment(int index) const { return m_Segments.Get(index); }
+    bool Contains(const CutSegment* segment) const { return m_Segments.Contains(segment); }
+    /// -1 for a segment not in the list.
+    int IndexOf(const CutSegment* segment) const { return m_Segments.IndexOf(segment); }
     /// The first segment whose span holds row, both ends included: a shared boundary row belongs
     /// to the segment on its left. Null and index 0 if there is none.
     CutSegment* FindSegment(int row, int& index) const;
+    /// The index of the first segment at start or later that has a row of from to to, both
+    /// included; -1 if there is none.
+    int FindNextTouching(int from, int to, int start) const;
     /// All segments that lie wholly inside from and to.
     QList<CutSegment*> GetSegments(int from, int to) const;
     int CountSegments(CutSegment::SEGMENT_STATE state) const;
@@ -66,12 +73,17 @@ public:
     void Sort();
 
 private:
-    void restoreStoredEnds();
-    CutSegment* findNeighbour(const CutSegment* cut, int (CutSegment::*end)() const, int row,
+    CutSegment* findNeighbour(const CutSegment* cut, const EndLimits& limits,
                               const char* message) const;
     CutSegment* newSegment(int from, int to);
 
-    QList<CutSegment*> m_Segments;
+    SegmentList m_Segments;
     // Owns every segment that was ever in the list.
     std::vector<std::unique_ptr<CutSegment>> m_Owned;
 };
+
+/// The rows between which a segment can be moved without leaving a neighbour behind: from the
+/// start of the one on its left, or row 0, to the end of the one on its right, or the number of
+/// rows. False for a segment not in the list or alone in it.
+bool ResizeLimits(const CutCollection& cuts, const CutSegment* segment, int rows, int& from,
+                  int& to);

@@ -3,6 +3,8 @@
 #include <QColor>
 #include <QObject>
 
+class SegmentList;
+
 /// A span of rows, from a first row up to an end row that it shares with its right neighbour.
 class CutSegment : public QObject
 {
@@ -24,21 +26,36 @@ public:
     int GetOriginalTo() const { return m_OriginalTo; }
 
     /// Set changes the present end only, Move the stored one too.
-    void SetFrom(int from) { m_From = from; }
-    void SetTo(int to) { m_To = to; }
-    void MoveFrom(int from) { m_From = m_OriginalFrom = from; }
-    void MoveTo(int to) { m_To = m_OriginalTo = to; }
+    void SetFrom(int from) { setEnds(from, m_To); }
+    void SetTo(int to) { setEnds(m_From, to); }
+    void MoveFrom(int from)
+    {
+        m_OriginalFrom = from;
+        setEnds(from, m_To);
+    }
+    void MoveTo(int to)
+    {
+        m_OriginalTo = to;
+        setEnds(m_From, to);
+    }
 
     SEGMENT_STATE GetState() const { return m_State; }
     void SetState(SEGMENT_STATE state) { m_State = state; }
     QColor GetColor() const { return m_Color; }
     void SetColor(const QColor& color) { m_Color = color; }
 
+    /// The list that the segment is in and that hears of its changes, or null; set by the list.
+    SegmentList* GetList() const { return m_List; }
+    void SetList(SegmentList* list) { m_List = list; }
+
 private:
+    void setEnds(int from, int to);
+
     SEGMENT_STATE m_State = SEGMENT_CUT;
     int m_OriginalFrom;
     int m_OriginalTo;
     int m_From;
     int m_To;
     QColor m_Color = Qt::black;
+    SegmentList* m_List = nullptr;
 };

@@ -1,7 +1,6 @@
 #include "behaviorlabel.h"
 
 #include <QLoggingCategory>
-#include <algorithm>
 
 Q_LOGGING_CATEGORY(lcLabels, "skerrymoor.labels", QtWarningMsg)
 
@@ -23,7 +22,19 @@ void BehaviorLabel::AddLabel(LabelInstance* instance)
 
 void BehaviorLabel::AddLabelQuietly(LabelInstance* instance)
 {
-    m_Instances.append(instance);
+    takeOwnership(instance);
+    m_Instances.Append(instance);
+}
+
+void BehaviorLabel::takeOwnership(LabelInstance* instance)
+{
+    BehaviorLabel* owner = instance->GetLabel();
+    if (owner && owner != this) {
+        while (owner->RemoveInstance(instance)) {
+        }
+        owner->m_Owned.remove(instance);
+    }
+    instance->SetLabel(this);
     m_Owned.insert(instance);
 }
 
@@ -39,7 +50,7 @@ void BehaviorLabel::AddLabels(const QList<LabelInstance*>& instances)
 
 bool BehaviorLabel::Contains(CutSegment* segment) const
 {
-    return indexOf(segment) != -1;
+    return m_Instances.FindSegment(segment) != -1;
 }
 
 bool BehaviorLabel::RemoveLabel(CutSegment* segment)
@@ -53,18 +64,23 @@ bool BehaviorLabel::RemoveLabel(CutSegment* segment)
 
 bool BehaviorLabel::RemoveLabelQuietly(CutSegment* segment)
 {
-    const int index = indexOf(segment);
+    const int index = m_Instances.FindSegment(segment);
     if (index == -1)
         return false;
-    m_Instances.removeAt(index);
+    m_Instances.RemoveAt(index);
     return true;
 }
 
-int BehaviorLabel::indexOf(const CutSegment* segment) const
+bool BehaviorLabel::RemoveInstance(LabelInstance* instance)
 {
-    const auto found =
-        std::find_if(m_Instances.begin(), m_Instances.end(), [=](const LabelInstance* instance) {
-            return instance->GetSegment() == segment;
-        });
-    return found == m_Instances.end() ? -1 : int(found - m_Instances.begin());
+    const int index = instance ? m_Instances.IndexOf(instance) : -1;
+    if (index == -1)
+        return false;
+    m_Instances.RemoveAt(index);
+    return true;
+}
+
+void BehaviorLabel::SegmentChanged(LabelInstance* instance, CutSegment* segment)
+{
+    m_Instances.SegmentChanged(instance, segment);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "instancelist.h"
 #include "labelinstance.h"
 #include <QColor>
 #include <QList>
@@ -10,7 +11,7 @@ class CutSegment;
 
 /// A behaviour class: a name, a colour and its instances in the order of their labelling.
 ///
-/// An instance belongs to the first label that it is added to and lives as long as that label,
+/// An instance belongs to the label that it was added to last and lives as long as that label,
 /// also after it has left the list: views may still hold it.
 class BehaviorLabel : public QObject
 {
@@ -30,16 +31,19 @@ public:
     bool RemoveLabel(CutSegment* segment);
     bool RemoveLabelQuietly(CutSegment* segment);
     /// Takes an instance off the list without a signal; false when it is not on it.
-    bool RemoveInstance(LabelInstance* instance) { return m_Instances.removeOne(instance); }
+    bool RemoveInstance(LabelInstance* instance);
 
     /// No bounds check.
-    LabelInstance* GetInstance(int index) const { return m_Instances.at(index); }
-    int GetInstanceCount() const { return m_Instances.size(); }
+    LabelInstance* GetInstance(int index) const { return m_Instances.Get(index); }
+    int GetInstanceCount() const { return m_Instances.GetCount(); }
 
     QString GetName() const { return m_Name; }
     void SetName(const QString& name) { m_Name = name; }
     QColor GetColor() const { return m_Color; }
     void SetColor(const QColor& color) { m_Color = color; }
+
+    /// An instance no longer stands for segment; called by the instance.
+    void SegmentChanged(LabelInstance* instance, CutSegment* segment);
 
 signals:
     void CutRemoved(CutSegment* segment);
@@ -47,9 +51,9 @@ signals:
     void CutsAdded(QList<CutSegment*> segments);
 
 private:
-    int indexOf(const CutSegment* segment) const;
+    void takeOwnership(LabelInstance* instance);
 
-    QList<LabelInstance*> m_Instances;
+    InstanceList m_Instances;
     // Every instance that was ever on the list.
     QSet<LabelInstance*> m_Owned;
     QString m_Name;
