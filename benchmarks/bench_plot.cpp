@@ -1,7 +1,7 @@
 #include "cutcollection.h"
 #include "cuttableamplitudeline.h"
+#include "cuttablelineplotwidget.h"
 #include "dataset.h"
-#include "segmentpainter.h"
 #include "timeaxis.h"
 #include "verticalaxis.h"
 
@@ -110,30 +110,29 @@ void BM_LaterTile(benchmark::State& state)
     for (auto unused : state)
         tile.Paint(place);
 }
-void BM_Segments(benchmark::State& state)
+
+/// The paint event of the main graph with its tiles ready: the user moves the mouse.
+void BM_PaintGraph(benchmark::State& state)
 {
-    constexpr int rowsPerSegment = 10;
     const int count = int(state.range(0));
+    const int visible = int(state.range(1));
+    auto& data = const_cast<DataSet&>(recording(1'000'000));
     CutCollection cuts;
-    cuts.InsertCut(0, count * rowsPerSegment, CutSegment::SEGMENT_CUT);
-    // From the end, so that the segment to split is always found first.
-    for (int i = count - 1; i > 0; --i) {
-        const auto kind = CutSegment::SEGMENT_STATE(i % 3);
-        cuts.InsertCut(i * rowsPerSegment, kind);
-    }
-    const double width = double(state.range(1)) * tileWidth;
-    TimeAxis axis;
-    axis.SetEnd({width, 0});
-    axis.SetNumberOfPoints(count * rowsPerSegment);
-    QImage image(tileWidth, tileHeight, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    for (auto unused : state) {
-        QPainter painter(&image);
-        painter.setOpacity(0.4);
-        const SegmentPainter segments(cuts, axis, image.rect(), tileHeight);
-        segments.PaintFills(painter);
-        segments.PaintOutlines(painter, false);
-    }
+    cuts.InsertCut(0, data.GetRowCount(), CutSegment::SEGMENT_CUT);
+    for (int i = 1; i < count; ++i)
+        cuts.InsertCut(i * (data.GetRowCount() / count), CutSegment::SEGMENT_STATE(i % 3));
+    CuttableLinePlotWidget graph;
+    const QSize size(tileWidth * (count / visible), 600);
+    graph.resize(size);
+    graph.SetDataSet(&data);
+    graph.SetCutCollection(&cuts);
+    graph.AddPlot(0);
+    const int left = (size.width() - tileWidth) / 2;
+    graph.SetVisibleRange(left, left + tileWidth);
+    graph.ShowLabeledData(!state.range(2));
+    QImage image(tileWidth, size.height(), QImage::Format_ARGB32_Premultiplied);
+    for (auto unused : state)
+        graph.render(&image, QPoint(), QRect(left, 0, tileWidth, size.height()));
 }
 } // namespace
 
@@ -145,7 +144,7 @@ BENCHMARK(BM_LaterTile)
     ->ArgNames({"rows", "cuttable", "screens", "place"})
     ->ArgsProduct({{10'000'000}, {0, 1}, {1, 2, 10, 40, 100, 500}, {0, 100}})
     ->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_Segments)
-    ->ArgNames({"segments", "screens"})
-    ->ArgsProduct({{100'000}, {1, 10, 500}})
+BENCHMARK(BM_PaintGraph)
+    ->ArgNames({"segments", "visible", "collapsed"})
+    ->ArgsProduct({{100'000}, {100'000, 10'000, 1000}, {0, 1}})
     ->Unit(benchmark::kMillisecond);

@@ -68,13 +68,16 @@ double SegmentPainter::toPixel(int row) const
     return offset + m_Axis.GetStart().x();
 }
 
+int SegmentPainter::nextVisible(int start) const
+{
+    return m_Cuts.FindNextTouching(m_FirstRow, m_LastRow, start);
+}
+
 void SegmentPainter::PaintFills(QPainter& painter) const
 {
     JoinedFills fills(painter, m_Height);
-    for (int i = 0; i < m_Cuts.GetSegmentCount(); ++i) {
+    for (int i = nextVisible(0); i != -1; i = nextVisible(i + 1)) {
         const CutSegment& segment = *m_Cuts.GetSegment(i);
-        if (!isVisible(segment.GetFrom(), segment.GetTo()))
-            continue;
         if (segment.GetState() == CutSegment::SEGMENT_LABELED)
             fills.Add(toPixel(segment.GetFrom()), toPixel(segment.GetTo()), segment.GetColor());
         else if (segment.GetState() == CutSegment::SEGMENT_RESULT)
@@ -87,23 +90,34 @@ void SegmentPainter::PaintOutlines(QPainter& painter, bool collapsed) const
     JoinedFills narrow(painter, m_Height);
     painter.setPen(Qt::black);
     painter.setBrush(Qt::NoBrush);
-    int shift = 0;
-    for (int i = 0; i < m_Cuts.GetSegmentCount(); ++i) {
-        const CutSegment& segment = *m_Cuts.GetSegment(i);
-        const int from = segment.GetFrom();
-        const int to = segment.GetTo();
-        if (collapsed && segment.GetState() == CutSegment::SEGMENT_LABELED) {
-            shift += CollapsedWidth(segment) - to + from;
-            continue;
-        }
-        if (!isVisible(shift + from, shift + to))
-            continue;
-        const double left = toPixel(shift + from);
-        const double right = toPixel(shift + to);
+    const auto outline = [&](int from, int to) {
+        const double left = toPixel(from);
+        const double right = toPixel(to);
         if (right - left < 1)
             narrow.Add(left, right, Qt::black);
         else
             painter.drawRect(QRect(QPoint(TruncateToInt(left), 0),
                                    QPoint(TruncateToInt(right) - 1, m_Height - 2)));
+    };
+    if (collapsed) {
+        forEachCollapsed(outline);
+        return;
+    }
+    for (int i = nextVisible(0); i != -1; i = nextVisible(i + 1))
+        outline(m_Cuts.GetSegment(i)->GetFrom(), m_Cuts.GetSegment(i)->GetTo());
+}
+
+template <class Outline>
+void SegmentPainter::forEachCollapsed(const Outline& outline) const
+{
+    int shift = 0;
+    for (int i = 0; i < m_Cuts.GetSegmentCount(); ++i) {
+        const CutSegment& segment = *m_Cuts.GetSegment(i);
+        const int from = shift + segment.GetFrom();
+        const int to = shift + segment.GetTo();
+        if (segment.GetState() == CutSegment::SEGMENT_LABELED)
+            shift += CollapsedWidth(segment) - segment.GetLength();
+        else if (to >= m_FirstRow && from <= m_LastRow)
+            outline(from, to);
     }
 }

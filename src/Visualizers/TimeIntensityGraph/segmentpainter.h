@@ -9,7 +9,7 @@ class TimeAxis;
 
 /// Paints the segments of a recording over its plots.
 ///
-/// Segments out of sight cost a comparison; those narrower than a pixel are painted together.
+/// Segments out of sight cost next to nothing; those narrower than a pixel are painted together.
 class SegmentPainter
 {
 public:
@@ -24,7 +24,10 @@ public:
     void PaintOutlines(QPainter& painter, bool collapsed) const;
 
 private:
-    bool isVisible(int from, int to) const { return to >= m_FirstRow && from <= m_LastRow; }
+    int nextVisible(int start) const;
+    /// Gives an outline the rows at which each segment that is not labelled stands.
+    template <class Outline>
+    void forEachCollapsed(const Outline& outline) const;
     double toPixel(int row) const;
 
     const CutCollection& m_Cuts;
