@@ -2,6 +2,7 @@
 
 #include "multiplelineplot.h"
 #include <QColor>
+#include <QSet>
 
 MultipleLinePlotWidget::MultipleLinePlotWidget(QWidget* parent)
     : OverlaidLinesWidget(std::make_unique<MultipleLinePlot>(), true, parent)
@@ -29,6 +30,16 @@ void MultipleLinePlotWidget::RemoveCutSegment(CutSegment* segment)
 {
     if (plot().RemoveCutSegment(segment))
         markStale();
+}
+
+void MultipleLinePlotWidget::RemoveCutSegments(const QList<CutSegment*>& segments)
+{
+    const QSet<CutSegment*> removed(segments.begin(), segments.end());
+    for (int line = GetLineCount() - 1; line >= 0; --line) {
+        if (removed.contains(plot().GetCutSegment(line)))
+            plot().RemoveLine(line);
+    }
+    markStale();
 }
 
 void MultipleLinePlotWidget::rejectLines(const std::vector<int>& lines)

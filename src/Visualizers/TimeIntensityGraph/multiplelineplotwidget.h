@@ -18,6 +18,8 @@ public:
                  const QColor& color);
     void AddLine(DataSet* dataSet, CutSegment* segment, int attribute, const QColor& color);
     void RemoveCutSegment(CutSegment* segment);
+    /// Many at once; segments without a line are passed over.
+    void RemoveCutSegments(const QList<CutSegment*>& segments);
 
 signals:
     void SegmentRejected(CutSegment* segment);

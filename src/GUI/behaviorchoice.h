@@ -1,0 +1,20 @@
+#pragma once
+
+class BehaviorLabel;
+class CutSegment;
+class LabelCollection;
+class LabelInstance;
+class QWidget;
+
+/// Asks the user which behaviour segments shall move into. Null when the question is cancelled,
+/// there is no behaviour at all, which the user is told, or the parent went away meanwhile.
+BehaviorLabel* AskForBehavior(const LabelCollection* labels, QWidget* parent);
+
+/// False with a null collection, and for a behaviour that has left it.
+bool HasBehavior(const LabelCollection* labels, const BehaviorLabel* label);
+
+/// False, after telling the user, when there is no behaviour to move segments into.
+bool CheckBehaviors(const LabelCollection* labels, QWidget* parent);
+
+/// Marks a segment as labelled, in the behaviour's colour; the instance is to be added to it.
+LabelInstance* MakeInstance(const BehaviorLabel& label, CutSegment* segment);

@@ -1,0 +1,278 @@
+#include "labeleddatatabwidget.h"
+
+#include "addgroupdialog.h"
+#include "behaviorclassstatisticswidget.h"
+#include "classwidget.h"
+#include "cutsegment.h"
+#include "dataset.h"
+#include "grouppalette.h"
+#include "labelcollection.h"
+#include "labelwriter.h"
+#include "resourcepath.h"
+#include "usererror.h"
+#include <QComboBox>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QPointer>
+#include <QPushButton>
+#include <QTabWidget>
+#include <algorithm>
+
+namespace
+{
+
+QIcon makePatch(const QColor& color)
+{
+    QPixmap patch(300, 300);
+    patch.fill(color);
+    return patch;
+}
+
+// In the text of a tab, one ampersand would underline the letter behind it.
+QString tabText(QString name)
+{
+    return name.replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
+
+// The index of the attribute that the user picks, -1 without one. Names need not be unique.
+int askForAttribute(const DataSet& data, QWidget* parent)
+{
+    QStringList names;
+    for (int i = 0; i < data.GetAttributeCount(); ++i)
+        names.append(data.GetAttributeName(i));
+    const QPointer<QInputDialog> dialog(new QInputDialog(parent));
+    dialog->setWindowTitle(QDialog::tr("Attribute to export"));
+    dialog->setLabelText(QDialog::tr("Attribute: "));
+    dialog->setComboBoxItems(names);
+    const bool isAccepted = dialog->exec() == QDialog::Accepted;
+    const auto* choice = dialog ? dialog->findChild<QComboBox*>() : nullptr;
+    const int attribute = isAccepted && choice ? choice->currentIndex() : -1;
+    delete dialog;
+    return attribute;
+}
+
+} // namespace
+
+LabeledDataTabWidget::LabeledDataTabWidget(QWidget* parent)
+    : QWidget(parent), m_Tabs(new QTabWidget)
+{
+    m_Tabs->setElideMode(Qt::ElideRight);
+    m_Tabs->setUsesScrollButtons(true);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(makeButtons());
+    layout->addWidget(m_Tabs, 1);
+    connect(m_Tabs, &QTabWidget::currentChanged, this, &LabeledDataTabWidget::enableButtons);
+    enableButtons();
+}
+
+QLayout* LabeledDataTabWidget::makeButtons()
+{
+    struct Button {
+        const char* m_Text;
+        const char* m_Icon;
+        const char* m_ToolTip;
+        void (LabeledDataTabWidget::*m_Slot)();
+    };
+    static const Button buttons[]{
+        {"Add", "icons/add.png", "Add a group of labels", &LabeledDataTabWidget::addNewGroup},
+        {"Edit", "icons/edit.png", "Rename this group", &LabeledDataTabWidget::editGroup},
+        {"Delete", "icons/trash.png", "Delete this group and take its labels away",
+         &LabeledDataTabWidget::deleteGroup},
+        {"Stats", "icons/rule.png", "Statistics of an attribute over this group",
+         &LabeledDataTabWidget::statsGroup},
+        {"Export", "icons/export.png", "Write the labels of this group to a file",
+         &LabeledDataTabWidget::exportGroup},
+    };
+    auto* row = new QHBoxLayout;
+    for (const Button& button : buttons) {
+        auto* made =
+            new QPushButton(QIcon(ResourcePath(QLatin1String(button.m_Icon))), tr(button.m_Text));
+        made->setToolTip(tr(button.m_ToolTip));
+        connect(made, &QPushButton::clicked, this, button.m_Slot);
+        row->addWidget(made);
+        m_GroupButtons.append(made);
+    }
+    row->addStretch();
+    m_AddButton = m_GroupButtons.takeFirst();
+    return row;
+}
+
+void LabeledDataTabWidget::enableButtons()
+{
+    m_AddButton->setEnabled(m_LabelCollection);
+    for (QPushButton* button : qAsConst(m_GroupButtons))
+        button->setEnabled(m_Tabs->count() > 0);
+}
+
+void LabeledDataTabWidget::SetDataSet(DataSet* dataSet)
+{
+    m_DataSet = dataSet;
+    for (int i = 0; i < m_Tabs->count(); ++i)
+        classAt(i)->SetDataSet(dataSet);
+}
+
+void LabeledDataTabWidget::SetCutCollection(CutCollection* cuts)
+{
+    m_CutCollection = cuts;
+    for (int i = 0; i < m_Tabs->count(); ++i)
+        classAt(i)->SetCutCollection(cuts);
+}
+
+void LabeledDataTabWidget::SetLabelCollection(LabelCollection* labels)
+{
+    if (labels != m_LabelCollection) {
+        removeTabs();
+        m_GroupCount = 0;
+    }
+    m_LabelCollection = labels;
+    enableButtons();
+}
+
+void LabeledDataTabWidget::Rebuild()
+{
+    removeTabs();
+    const int count = m_LabelCollection ? m_LabelCollection->GetLabelCount() : 0;
+    for (int i = 0; i < count; ++i)
+        addTab(m_LabelCollection->GetLabel(i));
+    m_GroupCount = std::max(m_GroupCount, count);
+}
+
+void LabeledDataTabWidget::Refresh()
+{
+    for (int i = 0; i < m_Tabs->count(); ++i)
+        classAt(i)->removeAndAddAll();
+}
+
+void LabeledDataTabWidget::AddAttribute(int index, const QString& name)
+{
+    for (int i = 0; i < m_Tabs->count(); ++i)
+        classAt(i)->AddAttribute(index, name);
+}
+
+BehaviorLabel* LabeledDataTabWidget::AddGroup(const QString& name)
+{
+    if (!m_LabelCollection)
+        return nullptr;
+    auto* label = new BehaviorLabel(name, GroupColor(m_GroupCount));
+    m_LabelCollection->AddLabel(label);
+    addTab(label);
+    ++m_GroupCount;
+    return label;
+}
+
+void LabeledDataTabWidget::addTab(BehaviorLabel* label)
+{
+    auto* tab = new ClassWidget;
+    connect(tab, &ClassWidget::NewResultsFound, this, &LabeledDataTabWidget::NewResultsFound);
+    connect(tab, &ClassWidget::ShowSelected, this, &LabeledDataTabWidget::ShowSelected);
+    connect(tab, &ClassWidget::SegmentsUpdated, this, &LabeledDataTabWidget::SegmentsUpdated);
+    tab->SetDataSet(m_DataSet);
+    tab->SetCutCollection(m_CutCollection);
+    tab->SetLabelCollection(m_LabelCollection);
+    tab->SetLabel(label);
+    m_Tabs->addTab(tab, makePatch(label->GetColor()), tabText(label->GetName()));
+    enableButtons();
+}
+
+void LabeledDataTabWidget::removeTabs()
+{
+    while (m_Tabs->count() > 0) {
+        ClassWidget* tab = classAt(0);
+        tab->SetLabel(nullptr);
+        m_Tabs->removeTab(0);
+        tab->deleteLater();
+    }
+    enableButtons();
+}
+
+ClassWidget* LabeledDataTabWidget::classAt(int tab) const
+{
+    return static_cast<ClassWidget*>(m_Tabs->widget(tab));
+}
+
+ClassWidget* LabeledDataTabWidget::currentClass() const
+{
+    ClassWidget* current = classAt(m_Tabs->currentIndex());
+    return current && current->GetLabel() ? current : nullptr;
+}
+
+void LabeledDataTabWidget::addNewGroup()
+{
+    if (!m_LabelCollection)
+        return;
+    const QPointer<AddGroupDialog> dialog(new AddGroupDialog(AddGroupDialog::ADD_GROUP, this));
+    if (dialog->exec() == QDialog::Accepted && dialog && AddGroup(dialog->GetName()))
+        m_Tabs->setCurrentIndex(m_Tabs->count() - 1);
+    delete dialog;
+}
+
+void LabeledDataTabWidget::editGroup()
+{
+    const QPointer<ClassWidget> edited(currentClass());
+    if (!edited)
+        return;
+    const QPointer<AddGroupDialog> dialog(new AddGroupDialog(AddGroupDialog::EDIT_GROUP, this));
+    dialog->SetName(edited->GetLabel()->GetName());
+    if (dialog->exec() == QDialog::Accepted && dialog && edited && edited->GetLabel()) {
+        edited->GetLabel()->SetName(dialog->GetName());
+        m_Tabs->setTabText(m_Tabs->indexOf(edited), tabText(dialog->GetName()));
+    }
+    delete dialog;
+}
+
+void LabeledDataTabWidget::deleteGroup()
+{
+    const QPointer<ClassWidget> deleted(currentClass());
+    if (!deleted ||
+        QMessageBox::question(this, tr("Delete Group"),
+                              tr("Are you sure you want to delete the current group?")) !=
+            QMessageBox::Yes ||
+        !deleted || !deleted->GetLabel())
+        return;
+    BehaviorLabel* label = deleted->GetLabel();
+    deleted->SetLabel(nullptr);
+    for (int i = 0; i < label->GetInstanceCount(); ++i)
+        label->GetInstance(i)->GetSegment()->SetState(CutSegment::SEGMENT_CUT);
+    // The collection keeps the behaviour alive: other windows may show it.
+    m_LabelCollection->RemoveLabel(label);
+    m_Tabs->removeTab(m_Tabs->indexOf(deleted));
+    deleted->deleteLater();
+    enableButtons();
+    emit SegmentsUpdated();
+}
+
+void LabeledDataTabWidget::statsGroup()
+{
+    const QPointer<ClassWidget> shown(currentClass());
+    if (!shown || !m_DataSet)
+        return;
+    const int attribute = askForAttribute(*m_DataSet, this);
+    if (attribute == -1 || !shown || !shown->GetLabel())
+        return;
+    const QPointer<BehaviorClassStatisticsWidget> statistics(
+        new BehaviorClassStatisticsWidget(m_DataSet, this));
+    statistics->SetBehavior(shown->GetLabel());
+    statistics->SetAttribute(attribute);
+    statistics->exec();
+    delete statistics;
+}
+
+void LabeledDataTabWidget::exportGroup()
+{
+    const QPointer<ClassWidget> exported(currentClass());
+    if (!exported || !m_DataSet)
+        return;
+    const QString path =
+        QFileDialog::getSaveFileName(this, tr("Export Labels"), QString(), tr("Text (*.txt)"));
+    if (path.isEmpty() || !exported || !exported->GetLabel())
+        return;
+    LabelWriter writer(path);
+    writer.SetDataSet(m_DataSet);
+    if (!writer.WriteLabel(exported->GetLabel()))
+        ShowUserError(this, tr("Error writing label collection"),
+                      tr("Error: ") + writer.GetError());
+}

@@ -1,0 +1,233 @@
+#include "resultwidget.h"
+
+#include "behaviorchoice.h"
+#include "cutcollection.h"
+#include "labelcollection.h"
+#include "multiplelineplotwidget.h"
+#include "segmentviews.h"
+#include "tableresultwidget.h"
+#include "usererror.h"
+#include <QGroupBox>
+#include <QLoggingCategory>
+#include <QPushButton>
+#include <QSet>
+#include <QVBoxLayout>
+
+namespace
+{
+
+Q_LOGGING_CATEGORY(results, "skerrymoor.results", QtWarningMsg)
+
+} // namespace
+
+ResultWidget::ResultWidget(QWidget* parent)
+    : QWidget(parent), m_Views(new SegmentViews), m_GraphOverlay(m_Views->GetOverlay()),
+      m_Table(m_Views->GetTable())
+{
+    auto* group = new QGroupBox(tr("Results"));
+    auto* inside = new QVBoxLayout(group);
+    inside->addWidget(m_Views, 1);
+    inside->addLayout(makeButtons());
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(group, 1);
+    connectViews();
+}
+
+QLayout* ResultWidget::makeButtons()
+{
+    auto* moveSelected = new QPushButton(tr("Move Selected"));
+    auto* moveAll = new QPushButton(tr("Move All"));
+    auto* removeAll = new QPushButton(tr("Remove All"));
+    moveSelected->setToolTip(tr("Move the results of the selected rows into a behavior"));
+    moveAll->setToolTip(tr("Move all results into a behavior"));
+    removeAll->setToolTip(tr("Reject the results"));
+    connect(moveSelected, &QPushButton::clicked, this, &ResultWidget::moveSelectedResults);
+    connect(moveAll, &QPushButton::clicked, this, &ResultWidget::moveAllResults);
+    connect(removeAll, &QPushButton::clicked, this, &ResultWidget::removeAllResults);
+
+    auto* row = new QHBoxLayout;
+    row->addWidget(moveSelected);
+    row->addWidget(moveAll);
+    row->addWidget(removeAll);
+    row->addStretch();
+    return row;
+}
+
+void ResultWidget::connectViews()
+{
+    connect(m_Views, &SegmentViews::AttributeChanged, this, &ResultWidget::changeAttribute);
+    connect(m_Table, &TableResultWidget::SegmentAccepted, this, &ResultWidget::acceptSegment);
+    connect(m_Table, &TableResultWidget::SegmentRejected, this, &ResultWidget::rejectSegment);
+    connect(m_Table, &TableResultWidget::SelectionRejected, this,
+            &ResultWidget::rejectSelectedResults);
+    connect(m_Table, &TableResultWidget::NewResultsFound, this,
+            &ResultWidget::ClearAndUpdateSegments);
+    connect(m_Table, &TableResultWidget::ShowSelected, this, &ResultWidget::ShowSelected);
+    connect(m_GraphOverlay, &MultipleLinePlotWidget::SegmentRejected, this,
+            &ResultWidget::rejectSegment);
+}
+
+void ResultWidget::SetDataSet(DataSet* dataSet)
+{
+    m_DataSet = dataSet;
+    m_Views->SetDataSet(dataSet);
+}
+
+void ResultWidget::SetCutCollection(CutCollection* cuts)
+{
+    m_CutCollection = cuts;
+    m_Views->SetCutCollection(cuts);
+}
+
+void ResultWidget::SetLabelCollection(LabelCollection* labels)
+{
+    m_LabelCollection = labels;
+}
+
+void ResultWidget::Rebuild()
+{
+    m_Views->Clear();
+    m_Views->RebuildAttributes();
+    ClearAndUpdateSegments();
+}
+
+void ResultWidget::AddAttribute(int index, const QString& name)
+{
+    m_Views->AddAttribute(index, name);
+}
+
+void ResultWidget::RemoveSegment(CutSegment* segment)
+{
+    m_Views->Remove({segment});
+}
+
+void ResultWidget::ClearAndUpdateSegments()
+{
+    if (!m_DataSet || !m_CutCollection || !m_LabelCollection)
+        return;
+    m_Views->Clear();
+    m_Views->BeginBulk();
+    for (CutSegment* segment : candidates())
+        m_Views->Add(segment, Qt::gray, Qt::black);
+    m_Views->EndBulk();
+}
+
+QList<CutSegment*> ResultWidget::candidates() const
+{
+    QList<CutSegment*> found;
+    for (int i = 0; m_CutCollection && i < m_CutCollection->GetSegmentCount(); ++i) {
+        CutSegment* segment = m_CutCollection->GetSegment(i);
+        if (segment->GetState() == CutSegment::SEGMENT_RESULT)
+            found.append(segment);
+    }
+    return found;
+}
+
+void ResultWidget::changeAttribute(int attribute)
+{
+    m_Views->ShowAttribute(attribute);
+}
+
+void ResultWidget::updateResultPlot()
+{
+    m_GraphOverlay->RepaintLines();
+}
+
+void ResultWidget::moveSelectedResults()
+{
+    if (!CheckBehaviors(m_LabelCollection, this))
+        return;
+    const QList<CutSegment*> selected = m_Table->SelectedSegments();
+    if (selected.isEmpty())
+        ShowUserError(this, tr("Move Labels"), tr("Error: No patterns selected."));
+    else
+        moveSegments(selected);
+}
+
+void ResultWidget::acceptSegment(CutSegment* segment)
+{
+    moveSegments({segment});
+}
+
+void ResultWidget::moveSegments(const QList<CutSegment*>& segments)
+{
+    BehaviorLabel* label = AskForBehavior(m_LabelCollection, this);
+    if (!label || !HasBehavior(m_LabelCollection, label))
+        return;
+    m_Views->Remove(segments);
+    // What is no candidate any more was decided on elsewhere.
+    const QList<CutSegment*> all = candidates();
+    const QSet<CutSegment*> undecided(all.begin(), all.end());
+    for (CutSegment* segment : segments) {
+        if (undecided.contains(segment))
+            label->AddLabel(MakeInstance(*label, segment));
+    }
+    endMove(label->GetName());
+}
+
+void ResultWidget::moveAllResults()
+{
+    if (!CheckBehaviors(m_LabelCollection, this) || candidates().isEmpty())
+        return;
+    BehaviorLabel* label = AskForBehavior(m_LabelCollection, this);
+    if (!label || !HasBehavior(m_LabelCollection, label))
+        return;
+    m_Views->Clear();
+    QList<LabelInstance*> instances;
+    for (CutSegment* segment : candidates())
+        instances.append(MakeInstance(*label, segment));
+    label->AddLabels(instances);
+    endMove(label->GetName());
+}
+
+void ResultWidget::endMove(const QString& behavior)
+{
+    emit SegmentsUpdated();
+    emit MoveResults(behavior);
+}
+
+void ResultWidget::rejectSegment(CutSegment* segment)
+{
+    if (!sender()) {
+        qCDebug(results, "No view has sent the rejected segment");
+        return;
+    }
+    m_Views->RemoveFromOthers(segment, sender());
+    rejectCandidate(segment);
+    emit SegmentsUpdated();
+}
+
+void ResultWidget::rejectSelectedResults()
+{
+    const QList<CutSegment*> selected = m_Table->SelectedSegments();
+    if (selected.isEmpty())
+        return;
+    m_Views->Remove(selected);
+    for (CutSegment* segment : selected)
+        rejectCandidate(segment);
+    emit SegmentsUpdated();
+}
+
+void ResultWidget::rejectCandidate(CutSegment* segment)
+{
+    // A row may still stand for a segment that was labelled elsewhere: that one stays.
+    if (m_CutCollection && segment->GetState() == CutSegment::SEGMENT_RESULT)
+        m_CutCollection->RemoveSegment(segment);
+}
+
+void ResultWidget::removeAllResults()
+{
+    if (!m_CutCollection)
+        return;
+    QList<CutSegment*> removed;
+    // The index is not set back after a removal: kept, the next press takes the rest.
+    for (int i = 0; i < m_CutCollection->GetSegmentCount(); ++i) {
+        CutSegment* segment = m_CutCollection->GetSegment(i);
+        if (segment->GetState() != CutSegment::SEGMENT_RESULT)
+            continue;
+        removed.append(segment);
+        m_CutCollection->RemoveSegment(segment);
+    }
+    m_Views->Remove(removed);
+    emit SegmentsUpdated();
+}
