@@ -80,6 +80,7 @@ void ExportWizardPage::showPreview()
     m_Preview->ShowDataSet(m_DataSet, rows, FileWriter::Digits);
     if (m_DataSet)
         m_Preview->setHorizontalHeaderLabels(m_DataSet->GetAttributeNames());
+    m_Preview->resizeColumnsToContents();
 }
 
 void ExportWizardPage::locateFile()

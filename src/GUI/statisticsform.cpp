@@ -9,6 +9,7 @@ QLineEdit* AddReadOnlyField(QFormLayout* form, const QString& label, const QStri
     auto* field = new QLineEdit;
     field->setReadOnly(true);
     field->setToolTip(toolTip);
+    field->setMinimumWidth(field->fontMetrics().averageCharWidth() * 30);
     form->addRow(label, field);
     return field;
 }
