@@ -9,14 +9,31 @@ namespace
 {
 
 constexpr size_t blockSize = size_t(256) * 1024;
-// A sign, 17 digits, zeros behind a point, an exponent.
+// A sign, 17 digits, a point, an exponent.
 constexpr size_t longestNumber = 32;
 
-// Devices and pipes must not be replaced by a file.
+// Devices and pipes must not be replaced by a file, and a file that may not be written stays.
 bool isReplaceable(const QString& path)
 {
     const QFileInfo info(path);
-    return !info.exists() || info.isFile();
+    return !info.exists() || (info.isFile() && QFile(path).open(QIODevice::ReadWrite));
+}
+
+// Whether the text of a number may end exactly between two texts of that many digits. Then it has
+// one digit more, a 5.
+bool mayLieBetween(double number, int digits)
+{
+    // With up to 15 digits in all, no such number has more than 22 binary places.
+    constexpr double binaryPlaces = 1 << 22;
+    const double scaled = number * binaryPlaces;
+    if (scaled != std::trunc(scaled))
+        return false;
+    char text[longestNumber];
+    char* end =
+        std::to_chars(text, text + longestNumber, number, std::chars_format::scientific).ptr;
+    char* exponent = std::find(&text[0], end, 'e');
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    return exponent[-1] == '5' && std::count_if(&text[0], exponent, isDigit) == digits + 1;
 }
 
 } // namespace
@@ -24,7 +41,7 @@ bool isReplaceable(const QString& path)
 TextOutput::TextOutput(const QString& path) : m_File(path)
 {
     if (isReplaceable(path))
-        m_File.open(QIODevice::WriteOnly | QIODevice::Text);
+        m_File.open(QIODevice::WriteOnly | QIODevice::Text | QIODevice::Unbuffered);
     m_Buffer.reserve(blockSize + longestNumber);
 }
 
@@ -56,6 +73,9 @@ TextOutput& TextOutput::Number(double number, int digits)
         return *this << "nan";
     if (number == 0)
         return *this << '0';
+    // Ties are rounded away from zero, which std::to_chars does not do.
+    if (mayLieBetween(number, digits))
+        return *this << QByteArray::number(number, 'g', digits).constData();
     char text[longestNumber];
     const char* end =
         std::to_chars(text, text + longestNumber, number, std::chars_format::general, digits).ptr;
@@ -77,7 +97,8 @@ bool TextOutput::Commit()
 
 void TextOutput::flush()
 {
-    // The file keeps a failure in mind until it is committed.
-    m_File.write(m_Buffer.data(), qint64(m_Buffer.size()));
+    // A disk that fills up takes the first part of a block without complaint.
+    if (m_File.write(m_Buffer.data(), qint64(m_Buffer.size())) != qint64(m_Buffer.size()))
+        m_File.cancelWriting();
     m_Buffer.clear();
 }

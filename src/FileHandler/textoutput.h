@@ -29,7 +29,7 @@ public:
     /// A number would leave open how many digits it gets.
     TextOutput& operator<<(double number) = delete;
 
-    /// The text of QString::number(number, 'g', digits), at most 17 digits.
+    /// The text of QString::number(number, 'g', digits), for 1 to 14 digits.
     TextOutput& Number(double number, int digits = DefaultDigits);
     /// All count numbers, each with separator in front of it.
     TextOutput& Numbers(const double* numbers, int count, char separator,

@@ -4,13 +4,16 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
-QLayout* MakeDialogButtons(QDialog* dialog, const QString& acceptText)
+QLayout* MakeDialogButtons(QDialog* dialog, const QString& acceptText, QPushButton** acceptButton)
 {
     auto* accept = new QPushButton(acceptText);
     auto* cancel = new QPushButton(QDialog::tr("Cancel"));
     accept->setDefault(true);
     QObject::connect(accept, &QPushButton::clicked, dialog, &QDialog::accept);
     QObject::connect(cancel, &QPushButton::clicked, dialog, &QDialog::reject);
+
+    if (acceptButton)
+        *acceptButton = accept;
 
     auto* row = new QHBoxLayout;
     row->addStretch();

@@ -34,7 +34,8 @@ void OverviewTimelineWidget::SetLabelCollection(LabelCollection* labels)
 
 void OverviewTimelineWidget::UpdateLabels()
 {
-    paintCache();
+    // A change of many labels tells of each of them: painted once, when it is seen.
+    m_Cache = QPixmap();
     update();
 }
 
@@ -67,6 +68,8 @@ void OverviewTimelineWidget::paintCache()
 
 void OverviewTimelineWidget::paintEvent(QPaintEvent*)
 {
+    if (m_Cache.isNull())
+        paintCache();
     QPainter painter(this);
     painter.drawPixmap(0, 0, m_Cache);
     if (!m_DataSet || (m_MarkerFrom == -1 && m_MarkerTo == -1))
@@ -81,5 +84,5 @@ void OverviewTimelineWidget::paintEvent(QPaintEvent*)
 
 void OverviewTimelineWidget::resizeEvent(QResizeEvent*)
 {
-    paintCache();
+    UpdateLabels();
 }

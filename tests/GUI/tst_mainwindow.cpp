@@ -3,6 +3,7 @@
 #include "lineplotwidget.h"
 #include "mainwindow.h"
 #include "modalscript.h"
+#include "mousedrag.h"
 #include "overviewtimelinewidget.h"
 #include "timeaxis.h"
 #include "zoomwidget.h"
@@ -273,11 +274,7 @@ void TestMainWindow::cutNeedsDataAndSelection()
         attribute(0)->trigger();
     }
     const QImage uncut = m_Plot->grab().toImage();
-    QTest::mousePress(m_Plot, Qt::LeftButton, {}, QPoint(200, 50));
-    QTest::mouseMove(m_Plot, QPoint(400, 60));
-    QMouseEvent drag(QEvent::MouseMove, QPointF(400, 60), Qt::NoButton, Qt::LeftButton, {});
-    QApplication::sendEvent(m_Plot, &drag);
-    QTest::mouseRelease(m_Plot, Qt::LeftButton, {}, QPoint(400, 60));
+    DragMouse(*m_Plot, {200, 50}, {400, 60});
     QTest::keyClick(m_Plot, Qt::Key_C);
     QVERIFY(m_Plot->grab().toImage() != uncut);
     int from = 0;

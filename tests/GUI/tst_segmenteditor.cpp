@@ -1,6 +1,7 @@
 #include "cuttablelineplotwidget.h"
 #include "dataset.h"
 #include "modalscript.h"
+#include "mousedrag.h"
 #include "overviewtimelinewidget.h"
 #include "recording.h"
 #include "segmenteditor.h"
@@ -47,12 +48,7 @@ void TestSegmentEditor::drag(int from, int to)
     const auto pixel = [=](int row) {
         return QPoint(int(axis->GetStart().x() + double(axis->ToPixel(row))) + 5, 50);
     };
-    QTest::mousePress(m_Plot.get(), Qt::LeftButton, {}, pixel(from));
-    if (from != to) {
-        QMouseEvent move(QEvent::MouseMove, pixel(to), Qt::NoButton, Qt::LeftButton, {});
-        QApplication::sendEvent(m_Plot.get(), &move);
-    }
-    QTest::mouseRelease(m_Plot.get(), Qt::LeftButton, {}, pixel(to));
+    DragMouse(*m_Plot, pixel(from), pixel(to));
 }
 
 QString TestSegmentEditor::segments() const

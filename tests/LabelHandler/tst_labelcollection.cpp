@@ -9,6 +9,7 @@ class TestLabelCollection : public QObject
 private slots:
     void tellsWhatItAddsAndRemoves();
     void removesACutFromTheFirstBehaviour();
+    void findsInstancesAfterChanges();
     void keepsWhatLeftItsLists();
 };
 
@@ -56,6 +57,32 @@ void TestLabelCollection::removesACutFromTheFirstBehaviour()
     QVERIFY(labels.GetLabel(2)->Contains(&segment));
     QVERIFY(labels.RemoveCut(&segment));
     QVERIFY(!labels.RemoveCut(&segment));
+}
+
+void TestLabelCollection::findsInstancesAfterChanges()
+{
+    CutSegment first(0, 10);
+    CutSegment second(10, 20);
+    BehaviorLabel rest;
+    BehaviorLabel dive;
+    std::vector<LabelInstance*> instances;
+    for (CutSegment* segment : {&first, &second, &first}) {
+        instances.push_back(new LabelInstance(segment));
+        rest.AddLabel(instances.back());
+    }
+    // Now the second instance is the first one of its segment.
+    instances[0]->SetSegment(nullptr);
+    instances[1]->SetSegment(&first);
+    QVERIFY(!rest.Contains(&second));
+    QVERIFY(rest.RemoveLabelQuietly(&first));
+    QCOMPARE(rest.GetInstance(1), instances[2]);
+    // An instance that is added elsewhere leaves its label, and is freed once.
+    dive.AddLabel(instances[2]);
+    QVERIFY(!rest.Contains(&first));
+    QVERIFY(dive.Contains(&first));
+    QVERIFY(!rest.RemoveInstance(instances[2]));
+    QVERIFY(rest.RemoveInstance(instances[0]));
+    QCOMPARE(rest.GetInstanceCount(), 0);
 }
 
 // Whoever still holds them may use them; the leak check sees that they go in the end.

@@ -53,10 +53,3 @@ void MakeCuts(CutCollection& cuts, const char* ends)
         from = to;
     }
 }
-
-void LabelSegment(BehaviorLabel& label, CutSegment* segment)
-{
-    segment->SetState(CutSegment::SEGMENT_LABELED);
-    segment->SetColor(label.GetColor());
-    label.AddLabel(new LabelInstance(segment));
-}

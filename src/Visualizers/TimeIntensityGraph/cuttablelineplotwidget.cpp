@@ -35,6 +35,8 @@ void CuttableLinePlotWidget::SetDataSet(DataSet* dataSet)
 {
     m_SelectedIndex = -1;
     m_Selection.Clear();
+    // Its entries are about a segment of the old recording.
+    delete m_ContextMenu;
     PlotAreaWidget::SetDataSet(dataSet);
 }
 
@@ -164,6 +166,13 @@ void CuttableLinePlotWidget::keyPressEvent(QKeyEvent* event)
     case Qt::Key_C:
         emit CutRequested();
         break;
+    case Qt::Key_Delete:
+        emit DeleteActionRequested();
+        break;
+    case Qt::Key_Escape:
+        m_SelectedIndex = -1;
+        ClearSelection();
+        break;
     default:
         PlotAreaWidget::keyPressEvent(event);
         return;
@@ -233,6 +242,8 @@ const std::vector<CuttableLinePlotWidget::MenuEntry>& CuttableLinePlotWidget::me
     static const std::vector<MenuEntry> entries{
         {"Zoom On Region", &Widget::canZoom, &Widget::zoomOnSelection},
         {"Open Plot", &Widget::canOpenPlot, &Widget::openPlot},
+        {"Move To", &Widget::canOpenPlot, &Widget::requestMove},
+        {"Remove Label(s)", &Widget::canRemoveLabel, &Widget::requestDelete},
     };
     return entries;
 }
@@ -247,7 +258,9 @@ void CuttableLinePlotWidget::showContextMenu(QPoint point)
     const CutSegment* segment = segmentAt(point.x(), index);
     if (!segment)
         return;
+    delete m_ContextMenu;
     auto* menu = new QMenu(this);
+    m_ContextMenu = menu;
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const MenuEntry& entry : menuEntries()) {
         if (!(this->*entry.m_IsVisible)(*segment))
@@ -269,6 +282,11 @@ bool CuttableLinePlotWidget::canZoom(const CutSegment&) const
 bool CuttableLinePlotWidget::canOpenPlot(const CutSegment& segment) const
 {
     return !canZoom(segment);
+}
+
+bool CuttableLinePlotWidget::canRemoveLabel(const CutSegment& segment) const
+{
+    return !canZoom(segment) && segment.GetState() != CutSegment::SEGMENT_CUT;
 }
 
 void CuttableLinePlotWidget::zoomOnSelection(const CutSegment&)

@@ -2,10 +2,12 @@
 
 #include "plotareawidget.h"
 #include "selectionrange.h"
+#include <QPointer>
 
 class CutSegment;
 class LabelCollection;
 class QDrag;
+class QMenu;
 
 /// The main graph: the recording's attributes with its segments, in which the user selects.
 ///
@@ -40,6 +42,7 @@ signals:
 
 public slots:
     void AddPlot(int attributeID) override;
+    /// Takes the dragged range away; a selected row stays.
     void ClearSelection();
     void ShowLabeledData(bool show);
     void UpdateCutViz();
@@ -70,8 +73,11 @@ private:
     static const std::vector<MenuEntry>& menuEntries();
     bool canZoom(const CutSegment& segment) const;
     bool canOpenPlot(const CutSegment& segment) const;
+    bool canRemoveLabel(const CutSegment& segment) const;
     void zoomOnSelection(const CutSegment& segment);
     void openPlot(const CutSegment& segment);
+    void requestMove(const CutSegment&) { emit MoveActionRequested(); }
+    void requestDelete(const CutSegment&) { emit DeleteActionRequested(); }
 
     CutSegment* segmentAt(double x, int& index) const;
     QPixmap dragPicture(const CutSegment& segment) const;
@@ -85,6 +91,7 @@ private:
     int m_MouseX = 0;
     SelectionRange m_Selection;
     int m_DragX = -1;
+    QPointer<QMenu> m_ContextMenu;
     bool m_ShowLabeled = true;
     bool m_Overlay = true;
 };

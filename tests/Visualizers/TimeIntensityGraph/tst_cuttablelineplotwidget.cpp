@@ -1,6 +1,7 @@
 #include "cutcollection.h"
 #include "cuttablelineplotwidget.h"
 #include "lineplotwidget.h"
+#include "mousedrag.h"
 #include "testdata.h"
 #include "timeaxis.h"
 #include <QDrag>
@@ -93,10 +94,7 @@ void TestCuttableLinePlotWidget::cleanup()
 
 void TestCuttableLinePlotWidget::drag(int from, int to)
 {
-    QTest::mousePress(m_Widget.get(), Qt::LeftButton, {}, {from, 50});
-    QMouseEvent move(QEvent::MouseMove, QPointF(to, 50), Qt::NoButton, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(m_Widget.get(), &move);
-    QTest::mouseRelease(m_Widget.get(), Qt::LeftButton, {}, {to, 50});
+    DragMouse(*m_Widget, {from, 50}, {to, 50});
 }
 
 void TestCuttableLinePlotWidget::dragSelects_data()
@@ -159,6 +157,13 @@ void TestCuttableLinePlotWidget::keys()
         QTest::keyClick(m_Widget.get(), Qt::Key_Right);
     QVERIFY(m_Widget->GetSelectedRow(row));
     QCOMPARE(row, 97);
+    drag(141, 345);
+    QSignalSpy deletions(m_Widget.get(), &CuttableLinePlotWidget::DeleteActionRequested);
+    QTest::keyClick(m_Widget.get(), Qt::Key_Delete);
+    QCOMPARE(deletions.count(), 1);
+    QTest::keyClick(m_Widget.get(), Qt::Key_Right);
+    QTest::keyClick(m_Widget.get(), Qt::Key_Escape);
+    QVERIFY(!m_Widget->GetSelectedRow(row) && !m_Widget->GetSelectedRange(row, row));
 }
 
 void TestCuttableLinePlotWidget::adjustedPosition_data()
@@ -200,10 +205,11 @@ void TestCuttableLinePlotWidget::contextMenu_data()
     QTest::addColumn<int>("selectionEnd");
     QTest::addColumn<QStringList>("entries");
     const QStringList zoom{QStringLiteral("Zoom On Region")};
-    const QStringList open{QStringLiteral("Open Plot")};
+    const QStringList open{QStringLiteral("Open Plot"), QStringLiteral("Move To")};
+    const QStringList remove = open + QStringList(QStringLiteral("Remove Label(s)"));
     QTest::newRow("plain cut") << 100 << -1 << open;
-    QTest::newRow("labelled") << 400 << -1 << open;
-    QTest::newRow("search result") << 790 << -1 << open;
+    QTest::newRow("labelled") << 400 << -1 << remove;
+    QTest::newRow("search result") << 790 << -1 << remove;
     QTest::newRow("selection") << 100 << 500 << zoom;
     QTest::newRow("backward selection") << 100 << 150 << open;
     QTest::newRow("outside every segment") << 20 << -1 << QStringList();
@@ -220,10 +226,10 @@ void TestCuttableLinePlotWidget::contextMenu()
 
 void TestCuttableLinePlotWidget::menuEffects()
 {
-    const auto choose = [this](QPoint point) {
+    const auto choose = [this](QPoint point, int entry = 0) {
         m_Widget->showContextMenu(point);
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        menu->actions().value(0)->trigger();
+        menu->actions().value(entry)->trigger();
         menu->close();
     };
     QSignalSpy opened(m_Widget.get(), &CuttableLinePlotWidget::WindowOpened);
@@ -245,6 +251,12 @@ void TestCuttableLinePlotWidget::menuEffects()
     m_Widget->ShowLabeledData(false);
     QVERIFY(m_Widget->GetSelectedRow(from));
     QCOMPARE(from, 48);
+    QSignalSpy moves(m_Widget.get(), &CuttableLinePlotWidget::MoveActionRequested);
+    QSignalSpy deletions(m_Widget.get(), &CuttableLinePlotWidget::DeleteActionRequested);
+    choose({425, 50}, 1);
+    QCOMPARE(std::make_pair(moves.count(), deletions.count()), std::make_pair(1, 0));
+    choose({425, 50}, 2);
+    QCOMPARE(std::make_pair(moves.count(), deletions.count()), std::make_pair(1, 1));
 
     QSignalSpy zoomed(m_Widget.get(), &CuttableLinePlotWidget::ZoomOnRegion);
     drag(141, 345);

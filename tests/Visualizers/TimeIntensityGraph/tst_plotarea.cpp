@@ -1,6 +1,7 @@
 #include "cutcollection.h"
 #include "cuttablelineplotwidget.h"
 #include "lineplot.h"
+#include "mousedrag.h"
 #include "multiselectionplotareawidget.h"
 #include "pixmapcache.h"
 #include "plotarealabelwidget.h"
@@ -309,10 +310,7 @@ void TestPlotArea::multiSelectionBand()
     int from = 0;
     int to = 0;
     const auto drag = [&](int start, int end) {
-        QTest::mousePress(&widget, Qt::LeftButton, {}, {start, 50});
-        QMouseEvent move(QEvent::MouseMove, QPointF(end, 50), Qt::NoButton, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(&widget, &move);
-        QTest::mouseRelease(&widget, Qt::LeftButton, {}, {end, 50});
+        DragMouse(widget, {start, 50}, {end, 50});
         return widget.GetSelection(from, to);
     };
     QVERIFY(!drag(40, 300));
@@ -346,9 +344,7 @@ void TestPlotArea::labelsStudies()
     widget.show();
     widget.labelClicked(&dive);
     QVERIFY(dive.GetSpans().isEmpty());
-    QTest::mousePress(&widget, Qt::LeftButton, {}, {141, 50});
-    QMouseEvent move(QEvent::MouseMove, QPointF(341, 50), Qt::NoButton, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(&widget, &move);
+    DragMouse(widget, {141, 50}, {341, 50});
     QContextMenuEvent open(QContextMenuEvent::Mouse, {200, 50}, widget.mapToGlobal({200, 50}));
     QCoreApplication::sendEvent(&widget, &open);
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());

@@ -1,4 +1,5 @@
 #include "cutsegment.h"
+#include "mousedrag.h"
 #include "multiplelineplotwidget.h"
 #include "selectionmultiplelineplotwidget.h"
 #include "selectionplotwidget.h"
@@ -15,14 +16,6 @@
 
 namespace
 {
-void drag(QWidget& widget, QPoint from, QPoint to)
-{
-    QTest::mousePress(&widget, Qt::LeftButton, {}, from);
-    QMouseEvent move(QEvent::MouseMove, QPointF(to), Qt::NoButton, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(&widget, &move);
-    QTest::mouseRelease(&widget, Qt::LeftButton, {}, to);
-}
-
 /// Answers the next message box and keeps its title and text.
 void answer(QMessageBox::StandardButton button, QString& shown)
 {
@@ -76,20 +69,20 @@ void TestPlotWidgets::rejectsResults()
     QVERIFY(inkAt(100));
     QString shown;
     answer(QMessageBox::No, shown);
-    drag(widget, {150, 80}, {350, 120});
+    DragMouse(widget, {150, 80}, {350, 120});
     QCOMPARE(shown, oneResult);
     QCOMPARE(widget.GetLineCount(), 3);
     answer(QMessageBox::Yes, shown);
-    drag(widget, {350, 120}, {150, 80});
+    DragMouse(widget, {350, 120}, {150, 80});
     QCOMPARE(widget.GetLineCount(), 2);
     QCOMPARE(rejected.count(), 1);
     QCOMPARE(rejected.first().first().value<CutSegment*>(), &middle);
     QVERIFY(!inkAt(102));
 
     // No line there: no question.
-    drag(widget, {150, 80}, {350, 120});
+    DragMouse(widget, {150, 80}, {350, 120});
     answer(QMessageBox::Yes, shown);
-    drag(widget, {150, 0}, {350, 199});
+    DragMouse(widget, {150, 0}, {350, 199});
     QVERIFY(shown.contains(QStringLiteral("reject 2 results?")));
     QCOMPARE(rejected.count(), 3);
     QCOMPARE(widget.GetLineCount(), 0);
@@ -112,7 +105,7 @@ void TestPlotWidgets::selectionOverOlderPair()
     QSignalSpy removed(&widget, &SelectionMultipleLinePlotWidget::ItemsRemoved);
     QString shown;
     answer(QMessageBox::Yes, shown);
-    drag(widget, {150, 0}, {350, 40});
+    DragMouse(widget, {150, 0}, {350, 40});
     QCOMPARE(shown, oneResult);
     QCOMPARE(removed.count(), 1);
     QCOMPARE(widget.GetLineCount(), 2);
@@ -122,7 +115,7 @@ void TestPlotWidgets::selectionOverOlderPair()
     plain.resize(440, 200);
     plain.AddLine(data.get(), 0, 0, 5, Qt::black);
     plain.show();
-    drag(plain, {150, 0}, {350, 199});
+    DragMouse(plain, {150, 0}, {350, 199});
     QCOMPARE(plain.GetLineCount(), 1);
 }
 
@@ -172,7 +165,7 @@ void TestPlotWidgets::selectionPlot()
     widget.SetDataSet(data.get());
     widget.SetRange(20, 41);
     widget.show();
-    drag(widget, {start, 40}, {end, 40});
+    DragMouse(widget, {start, 40}, {end, 40});
     int from = 0;
     int to = 0;
     const QVector<int> found =

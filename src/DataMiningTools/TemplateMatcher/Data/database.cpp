@@ -2,9 +2,8 @@
 
 #include "collectionsdataobject.h"
 #include "databasequery.h"
+#include "settingsfolder.h"
 #include <QDir>
-#include <QFileInfo>
-#include <QSettings>
 #include <QVariant>
 #include <algorithm>
 #include <cerrno>
@@ -25,14 +24,6 @@ constexpr const char* createStatements[] = {
     "mediumblob, signal_length integer, signal_mean float, signal_sd float, att_name "
     "varchar,foreign key(signal_collection_id) references signal_template_collection(id) ON "
     "DELETE CASCADE)"};
-
-// The settings file itself is neither read nor written.
-QString settingsFolder()
-{
-    const QSettings settings(QSettings::IniFormat, QSettings::UserScope,
-                             QStringLiteral("Skerrymoor"), QStringLiteral("Skerrymoor"));
-    return QFileInfo(settings.fileName()).absolutePath() + QLatin1Char('/');
-}
 
 QSqlDatabase defaultConnection()
 {
@@ -88,7 +79,7 @@ QSqlError prepare(QSqlDatabase& database)
 
 QSqlError InitializeDatabase()
 {
-    const QString folder = settingsFolder();
+    const QString folder = SettingsFolder();
     if (!QDir(folder).exists() && !QDir().mkpath(folder)) {
         const QString reason = qt_error_string(errno);
         return QSqlError(QStringLiteral("(settings folder ") + folder +

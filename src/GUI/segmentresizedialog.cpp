@@ -1,0 +1,29 @@
+#include "segmentresizedialog.h"
+
+#include "dialogbuttons.h"
+#include "segmentresizewidget.h"
+#include <QLabel>
+#include <QPushButton>
+
+SegmentResizeDialog::SegmentResizeDialog(QWidget* parent)
+    : QDialog(parent), m_ResizeWidget(new SegmentResizeWidget)
+{
+    setWindowTitle(tr("Segment Resize Dialog"));
+    setMinimumSize(750, 300);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(new QLabel(tr("<h2>Resize Segment</h2>")));
+    layout->addWidget(m_ResizeWidget, 1);
+    layout->addLayout(MakeDialogButtons(this, tr("Save"), &m_Save));
+    connect(m_ResizeWidget, &SegmentResizeWidget::SelectionChanged, this,
+            &SegmentResizeDialog::enableSave);
+    m_ResizeWidget->setFocus();
+}
+
+void SegmentResizeDialog::enableSave()
+{
+    int from = 0;
+    int to = 0;
+    m_Save->setEnabled(m_ResizeWidget->GetSelection(from, to));
+    m_Save->setToolTip(m_Save->isEnabled() ? QString()
+                                           : tr("The cut must not start behind its end"));
+}
