@@ -5,6 +5,7 @@
 #include "labelcollection.h"
 #include "labellinegraphwidget.h"
 #include "multiplelineplotwidget.h"
+#include "panelbutton.h"
 #include "segmentviews.h"
 #include "tableresultwidget.h"
 #include "usererror.h"
@@ -55,10 +56,10 @@ ClassWidget::ClassWidget(QWidget* parent)
 
 QLayout* ClassWidget::makeButtons()
 {
-    auto* move = new QPushButton(tr("Move"));
-    auto* reject = new QPushButton(tr("Reject"));
-    move->setToolTip(tr("Move the selected rows into another behavior"));
-    reject->setToolTip(tr("Take the labels of the selected rows away"));
+    QPushButton* move =
+        MakePanelButton(tr("Move"), tr("Move the selected rows into another behavior"));
+    QPushButton* reject =
+        MakePanelButton(tr("Reject"), tr("Take the labels of the selected rows away"));
     connect(move, &QPushButton::clicked, this, &ClassWidget::moveSelected);
     connect(reject, &QPushButton::clicked, this, &ClassWidget::rejectSelected);
 

@@ -8,7 +8,7 @@
 #include "grouppalette.h"
 #include "labelcollection.h"
 #include "labelwriter.h"
-#include "resourcepath.h"
+#include "panelbutton.h"
 #include "usererror.h"
 #include <QComboBox>
 #include <QFileDialog>
@@ -60,7 +60,7 @@ int askForAttribute(const DataSet& data, QWidget* parent)
 LabeledDataTabWidget::LabeledDataTabWidget(QWidget* parent)
     : QWidget(parent), m_Tabs(new QTabWidget)
 {
-    m_Tabs->setElideMode(Qt::ElideRight);
+    m_Tabs->setElideMode(Qt::ElideNone);
     m_Tabs->setUsesScrollButtons(true);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(makeButtons());
@@ -89,9 +89,8 @@ QLayout* LabeledDataTabWidget::makeButtons()
     };
     auto* row = new QHBoxLayout;
     for (const Button& button : buttons) {
-        auto* made =
-            new QPushButton(QIcon(ResourcePath(QLatin1String(button.m_Icon))), tr(button.m_Text));
-        made->setToolTip(tr(button.m_ToolTip));
+        QPushButton* made =
+            MakePanelButton(tr(button.m_Text), tr(button.m_ToolTip), QLatin1String(button.m_Icon));
         connect(made, &QPushButton::clicked, this, button.m_Slot);
         row->addWidget(made);
         m_GroupButtons.append(made);

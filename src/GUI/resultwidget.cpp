@@ -4,6 +4,7 @@
 #include "cutcollection.h"
 #include "labelcollection.h"
 #include "multiplelineplotwidget.h"
+#include "panelbutton.h"
 #include "segmentviews.h"
 #include "tableresultwidget.h"
 #include "usererror.h"
@@ -35,12 +36,10 @@ ResultWidget::ResultWidget(QWidget* parent)
 
 QLayout* ResultWidget::makeButtons()
 {
-    auto* moveSelected = new QPushButton(tr("Move Selected"));
-    auto* moveAll = new QPushButton(tr("Move All"));
-    auto* removeAll = new QPushButton(tr("Remove All"));
-    moveSelected->setToolTip(tr("Move the results of the selected rows into a behavior"));
-    moveAll->setToolTip(tr("Move all results into a behavior"));
-    removeAll->setToolTip(tr("Reject the results"));
+    QPushButton* moveSelected = MakePanelButton(
+        tr("Move Selected"), tr("Move the results of the selected rows into a behavior"));
+    QPushButton* moveAll = MakePanelButton(tr("Move All"), tr("Move all results into a behavior"));
+    QPushButton* removeAll = MakePanelButton(tr("Remove All"), tr("Reject the results"));
     connect(moveSelected, &QPushButton::clicked, this, &ResultWidget::moveSelectedResults);
     connect(moveAll, &QPushButton::clicked, this, &ResultWidget::moveAllResults);
     connect(removeAll, &QPushButton::clicked, this, &ResultWidget::removeAllResults);

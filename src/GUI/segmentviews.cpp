@@ -13,11 +13,11 @@ namespace
 {
 
 // A box that does not ask for the width of its longest entry, which can be any name.
-QComboBox* makeChooser(const QString& toolTip)
+QComboBox* makeChooser(int characters, const QString& toolTip)
 {
     auto* chooser = new QComboBox;
     chooser->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    chooser->setMinimumContentsLength(7);
+    chooser->setMinimumContentsLength(characters);
     chooser->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     chooser->setToolTip(toolTip);
     return chooser;
@@ -33,8 +33,8 @@ QLabel* makeLabel(const QString& text, QWidget* buddy)
 } // namespace
 
 SegmentViews::SegmentViews(QWidget* parent)
-    : QWidget(parent), m_Attribute(makeChooser(tr("The attribute that the lines show"))),
-      m_Layout(makeChooser(tr("How the segments are shown"))), m_Stack(new QStackedWidget),
+    : QWidget(parent), m_Attribute(makeChooser(6, tr("The attribute that the lines show"))),
+      m_Layout(makeChooser(13, tr("How the segments are shown"))), m_Stack(new QStackedWidget),
       m_Table(new TableResultWidget), m_Overlay(new MultipleLinePlotWidget)
 {
     auto* layout = new QVBoxLayout(this);

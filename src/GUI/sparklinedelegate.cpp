@@ -51,6 +51,8 @@ QRect SparklineDelegate::paintCaption(QPainter* painter, const QRect& area,
     const QString text = index.data(Qt::AccessibleTextRole).toString();
     painter->drawText(area, Qt::AlignHCenter | Qt::AlignBottom,
                       metrics.elidedText(text, Qt::ElideRight, area.width()));
+    painter->setPen(Qt::lightGray);
+    painter->drawRect(area.adjusted(0, 0, -1, -metrics.height() - 2));
     return area.adjusted(0, 0, 0, -metrics.height());
 }
 

@@ -44,6 +44,7 @@ private slots:
     void selectionPlot_data();
     void selectionPlot();
     void windowFollowsTheMouse();
+    void paintsAnywhereInItsWindow();
 };
 
 void TestPlotWidgets::rejectsResults()
@@ -204,6 +205,19 @@ void TestPlotWidgets::windowFollowsTheMouse()
     QCOMPARE(image.pixelColor(185, 3), QColor(255, 255, 153));
     QCOMPARE(image.pixelColor(305, 3), QColor(153, 153, 255));
     QCOMPARE(image.pixelColor(350, 3), QColor(Qt::white));
+}
+
+void TestPlotWidgets::paintsAnywhereInItsWindow()
+{
+    const auto data = MakeDataSet(QByteArray("1\n2\n").repeated(50));
+    QWidget window;
+    window.resize(900, 500);
+    LinePlotWidget plot(0, &window);
+    plot.SetDataSet(data.get());
+    plot.setGeometry(400, 250, 400, 200);
+    const QImage there = window.grab(plot.geometry()).toImage();
+    plot.move(0, 0);
+    QCOMPARE(there, window.grab(plot.geometry()).toImage());
 }
 
 QTEST_MAIN(TestPlotWidgets)

@@ -25,10 +25,13 @@ QRectF VisibleRect(const QPainter& painter)
     const QPaintDevice* device = painter.device();
     if (!device)
         return visible;
-    const qreal ratio = device->devicePixelRatioF();
+    // A widget measures itself in its own units, a picture in its pixels. Both transform and
+    // measures leave out where a widget stands in its window.
+    const bool isWidget = device->devType() == QInternal::Widget;
+    const qreal ratio = isWidget ? device->devicePixelRatioF() : 1;
     const QRectF area(0, 0, device->width() * ratio, device->height() * ratio);
     if (!area.isEmpty())
-        visible = painter.deviceTransform().inverted().mapRect(area);
+        visible = painter.combinedTransform().inverted().mapRect(area);
     return painter.hasClipping() ? visible & painter.clipBoundingRect() : visible;
 }
 
