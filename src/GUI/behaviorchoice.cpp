@@ -1,7 +1,6 @@
 #include "behaviorchoice.h"
 
 #include "behaviorselectiondialog.h"
-#include "cutsegment.h"
 #include "labelcollection.h"
 #include "usererror.h"
 
@@ -35,11 +34,4 @@ bool HasBehavior(const LabelCollection* labels, const BehaviorLabel* label)
             return true;
     }
     return false;
-}
-
-LabelInstance* MakeInstance(const BehaviorLabel& label, CutSegment* segment)
-{
-    segment->SetState(CutSegment::SEGMENT_LABELED);
-    segment->SetColor(label.GetColor());
-    return new LabelInstance(segment);
 }

@@ -1,9 +1,7 @@
 #pragma once
 
 class BehaviorLabel;
-class CutSegment;
 class LabelCollection;
-class LabelInstance;
 class QWidget;
 
 /// Asks the user which behaviour segments shall move into. Null when the question is cancelled,
@@ -15,6 +13,3 @@ bool HasBehavior(const LabelCollection* labels, const BehaviorLabel* label);
 
 /// False, after telling the user, when there is no behaviour to move segments into.
 bool CheckBehaviors(const LabelCollection* labels, QWidget* parent);
-
-/// Marks a segment as labelled, in the behaviour's colour; the instance is to be added to it.
-LabelInstance* MakeInstance(const BehaviorLabel& label, CutSegment* segment);

@@ -4,6 +4,7 @@
 #include "cutcollection.h"
 #include "labelcollection.h"
 #include "labellinegraphwidget.h"
+#include "labelsegment.h"
 #include "multiplelineplotwidget.h"
 #include "panelbutton.h"
 #include "segmentviews.h"
@@ -59,7 +60,7 @@ QLayout* ClassWidget::makeButtons()
     QPushButton* move =
         MakePanelButton(tr("Move"), tr("Move the selected rows into another behavior"));
     QPushButton* reject =
-        MakePanelButton(tr("Reject"), tr("Take the labels of the selected rows away"));
+        MakePanelButton(tr("Remove Labels"), tr("Take the labels of the selected rows away"));
     connect(move, &QPushButton::clicked, this, &ClassWidget::moveSelected);
     connect(reject, &QPushButton::clicked, this, &ClassWidget::rejectSelected);
 
@@ -77,6 +78,9 @@ void ClassWidget::connectViews()
     connect(m_Table, &TableResultWidget::SegmentRejected, this, &ClassWidget::rejectSegment);
     connect(m_Table, &TableResultWidget::SelectionRejected, this, &ClassWidget::rejectSelected);
     connect(m_Table, &TableResultWidget::NewResultsFound, this, &ClassWidget::NewResultsFound);
+    connect(m_Table, &TableResultWidget::RemoveAndAddAll, this, &ClassWidget::removeAndAddAll);
+    connect(m_Table, &TableResultWidget::RemoveAndAddAll, this, &ClassWidget::SegmentsMoved);
+    connect(m_Table, &TableResultWidget::RemoveAndAddAll, this, &ClassWidget::SegmentsUpdated);
     connect(m_Table, &TableResultWidget::ShowSelected, this, &ClassWidget::ShowSelected);
     connect(m_Overlay, &MultipleLinePlotWidget::SegmentRejected, this, &ClassWidget::rejectSegment);
 }

@@ -46,6 +46,8 @@ signals:
     void SegmentsUpdated();
     void ShowSelected(int from, int to);
     void NewResultsFound();
+    /// Ends of segments have moved, also of such that belong to other behaviours or none.
+    void SegmentsMoved();
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -59,7 +61,6 @@ private:
     void moveSelected();
     void rejectSelected();
     void moveSegments(const QList<CutSegment*>& segments);
-    QList<CutSegment*> selectedInstances();
     CutSegment* droppedSegment(const QDropEvent& event) const;
     bool releaseFromOldLabel(CutSegment* segment);
     void takeIn(CutSegment* segment);

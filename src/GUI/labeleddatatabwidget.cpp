@@ -169,6 +169,9 @@ void LabeledDataTabWidget::addTab(BehaviorLabel* label)
     connect(tab, &ClassWidget::NewResultsFound, this, &LabeledDataTabWidget::NewResultsFound);
     connect(tab, &ClassWidget::ShowSelected, this, &LabeledDataTabWidget::ShowSelected);
     connect(tab, &ClassWidget::SegmentsUpdated, this, &LabeledDataTabWidget::SegmentsUpdated);
+    connect(tab, &ClassWidget::SegmentsMoved, this, &LabeledDataTabWidget::Refresh);
+    // Results may be among the segments that have moved.
+    connect(tab, &ClassWidget::SegmentsMoved, this, &LabeledDataTabWidget::NewResultsFound);
     tab->SetDataSet(m_DataSet);
     tab->SetCutCollection(m_CutCollection);
     tab->SetLabelCollection(m_LabelCollection);

@@ -3,6 +3,7 @@
 #include "behaviorchoice.h"
 #include "cutcollection.h"
 #include "labelcollection.h"
+#include "labelsegment.h"
 #include "multiplelineplotwidget.h"
 #include "panelbutton.h"
 #include "segmentviews.h"
@@ -61,6 +62,10 @@ void ResultWidget::connectViews()
             &ResultWidget::rejectSelectedResults);
     connect(m_Table, &TableResultWidget::NewResultsFound, this,
             &ResultWidget::ClearAndUpdateSegments);
+    connect(m_Table, &TableResultWidget::RemoveAndAddAll, this,
+            &ResultWidget::ClearAndUpdateSegments);
+    connect(m_Table, &TableResultWidget::RemoveAndAddAll, this, &ResultWidget::SegmentsMoved);
+    connect(m_Table, &TableResultWidget::RemoveAndAddAll, this, &ResultWidget::SegmentsUpdated);
     connect(m_Table, &TableResultWidget::ShowSelected, this, &ResultWidget::ShowSelected);
     connect(m_GraphOverlay, &MultipleLinePlotWidget::SegmentRejected, this,
             &ResultWidget::rejectSegment);
@@ -159,7 +164,7 @@ void ResultWidget::moveSegments(const QList<CutSegment*>& segments)
     const QSet<CutSegment*> undecided(all.begin(), all.end());
     for (CutSegment* segment : segments) {
         if (undecided.contains(segment))
-            label->AddLabel(MakeInstance(*label, segment));
+            LabelSegment(*label, segment);
     }
     endMove(label->GetName());
 }

@@ -49,6 +49,8 @@ signals:
     /// Results have moved into the behaviour of that name.
     void MoveResults(QString behavior);
     void ShowSelected(int from, int to);
+    /// Ends of segments have moved, also of such that are no results.
+    void SegmentsMoved();
 
 private:
     QLayout* makeButtons();

@@ -1,11 +1,15 @@
 #include "tableresultwidget.h"
 
-#include "cutsegment.h"
+#include "cutcollection.h"
 #include "cutsegmentpushbutton.h"
+#include "dataset.h"
+#include "segmentresizedialog.h"
+#include "segmentresizewidget.h"
 #include "segmenttablemodel.h"
 #include "sparklinedelegate.h"
 #include <QHeaderView>
 #include <QMenu>
+#include <QPointer>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTableView>
@@ -210,6 +214,7 @@ const std::vector<TableResultWidget::MenuEntry>& TableResultWidget::menuEntries(
 {
     static const std::vector<MenuEntry> entries{
         {"Show In Time-Series", &TableResultWidget::showInTimeSeries},
+        {"Resize Segment", &TableResultWidget::resizeSegment},
     };
     return entries;
 }
@@ -235,6 +240,39 @@ void TableResultWidget::provideContextMenu(QPoint point)
 void TableResultWidget::showInTimeSeries(CutSegment* segment)
 {
     emit ShowSelected(segment->GetFrom(), segment->GetTo());
+}
+
+void TableResultWidget::resizeSegment(CutSegment* segment)
+{
+    int from = segment->GetFrom();
+    int to = segment->GetTo();
+    if (!askForEnds(*segment, from, to))
+        return;
+    m_CutCollection->MoveSegment(m_Model->GetDataSet(), segment, from, to);
+    emit RemoveAndAddAll();
+}
+
+bool TableResultWidget::askForEnds(const CutSegment& segment, int& from, int& to)
+{
+    DataSet* dataSet = m_Model->GetDataSet();
+    int first = 0;
+    int last = 0;
+    if (!dataSet || !m_CutCollection ||
+        !ResizeLimits(*m_CutCollection, &segment, dataSet->GetRowCount(), first, last))
+        return false;
+    const QPointer<SegmentResizeDialog> dialog(new SegmentResizeDialog(this));
+    SegmentResizeWidget* ends = dialog->GetResizeWidget();
+    ends->SetDataSet(dataSet);
+    ends->SetAttribute(m_Model->GetAttribute());
+    ends->SetLimits(first, last);
+    ends->SetPlotRange(first, last);
+    ends->SetSelection(from, to);
+    const bool isAccepted =
+        dialog->exec() == QDialog::Accepted && dialog && ends->GetSelection(from, to);
+    delete dialog;
+    // The row, the segment or the recording may have gone meanwhile.
+    return isAccepted && dataSet == m_Model->GetDataSet() && m_CutCollection &&
+           m_CutCollection->Contains(&segment);
 }
 
 void TableResultWidget::acceptItem(QObject* segment)

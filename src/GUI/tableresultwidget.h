@@ -7,7 +7,6 @@
 class CutCollection;
 class CutSegment;
 class DataSet;
-class QMenu;
 class QTableView;
 class SegmentTableModel;
 
@@ -70,6 +69,8 @@ private:
     QWidget* makeButtons(CutSegment* segment);
     bool isInView(int row) const;
     void showInTimeSeries(CutSegment* segment);
+    void resizeSegment(CutSegment* segment);
+    bool askForEnds(const CutSegment& segment, int& from, int& to);
 
     SegmentTableModel* m_Model;
     QTableView* m_Table;
