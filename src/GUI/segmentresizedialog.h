@@ -14,6 +14,9 @@ public:
 
     SegmentResizeWidget* GetResizeWidget() const { return m_ResizeWidget; }
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void enableSave();
 
