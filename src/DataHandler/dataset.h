@@ -44,6 +44,7 @@ public:
     const DataRow* GetRow(int row) const { return m_Rows[size_t(row)].get(); }
 
     QString GetAttributeName(int attribute) const { return m_AttributeNames->at(attribute); }
+    const QStringList& GetAttributeNames() const { return *m_AttributeNames; }
     /// The first attribute of exactly that name, -1 if absent.
     int GetAttributeIndex(const QString& name) const;
     /// The first attribute of that type code, -1 if absent.

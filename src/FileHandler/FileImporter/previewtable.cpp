@@ -7,9 +7,9 @@
 namespace
 {
 
-QTableWidgetItem* makeCell(double value)
+QTableWidgetItem* makeCell(double value, int digits)
 {
-    auto* cell = new QTableWidgetItem(QString::number(value, 'g', 6));
+    auto* cell = new QTableWidgetItem(QString::number(value, 'g', digits));
     cell->setFlags(cell->flags() & ~Qt::ItemIsEditable);
     return cell;
 }
@@ -23,7 +23,7 @@ PreviewTable::PreviewTable(QWidget* parent) : QTableWidget(parent)
     horizontalHeader()->setToolTip(tr("Click a header to name its column"));
 }
 
-void PreviewTable::ShowDataSet(const DataSet* dataSet, int rows)
+void PreviewTable::ShowDataSet(const DataSet* dataSet, int rows, int digits)
 {
     clear();
     setColumnCount(dataSet ? dataSet->GetAttributeCount() : 0);
@@ -32,6 +32,6 @@ void PreviewTable::ShowDataSet(const DataSet* dataSet, int rows)
     for (int row = 0; row < filled; ++row) {
         const DataRow* values = dataSet->GetRow(row);
         for (int column = 0; column < columnCount(); ++column)
-            setItem(row, column, makeCell(values->GetValue(column)));
+            setItem(row, column, makeCell(values->GetValue(column), digits));
     }
 }
