@@ -16,6 +16,7 @@ set(SKERRYMOOR_FOLDERS_plot
 set(SKERRYMOOR_FOLDERS_ui
     FileHandler/FileImporter
     GUI
+    GroundTruith
     Visualizers/TimeIntensityGraph)
 
 # Sets OUT to the layer of FOLDER (relative to src/ or tests/), or to an empty string.

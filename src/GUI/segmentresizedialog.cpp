@@ -8,8 +8,7 @@
 namespace
 {
 
-constexpr int minimumWidth = 750;
-constexpr int minimumHeight = 300;
+constexpr QSize SMALLEST(750, 300);
 
 } // namespace
 
@@ -17,7 +16,7 @@ SegmentResizeDialog::SegmentResizeDialog(QWidget* parent)
     : QDialog(parent), m_ResizeWidget(new SegmentResizeWidget)
 {
     setWindowTitle(tr("Segment Resize Dialog"));
-    setMinimumSize(minimumWidth, minimumHeight);
+    setMinimumSize(SMALLEST);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel(tr("<h2>Resize Segment</h2>")));
     layout->addWidget(m_ResizeWidget, 1);
@@ -30,7 +29,7 @@ SegmentResizeDialog::SegmentResizeDialog(QWidget* parent)
 // The boxes are as wide as the numbers that they were limited to since.
 void SegmentResizeDialog::showEvent(QShowEvent* event)
 {
-    setMinimumSize(layout()->minimumSize().expandedTo({minimumWidth, minimumHeight}));
+    setMinimumSize(layout()->minimumSize().expandedTo(SMALLEST));
     QDialog::showEvent(event);
 }
 

@@ -1,0 +1,136 @@
+#include "groundtruithcomparisionwidget.h"
+
+#include "cuttablelineplotwidget.h"
+#include "dataset.h"
+#include "groundtruithbehaviorcollection.h"
+#include "groundtruithwidget.h"
+#include "zoomwidget.h"
+#include <QComboBox>
+#include <QEvent>
+#include <QLabel>
+#include <QLayout>
+#include <QLoggingCategory>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QToolBar>
+#include <algorithm>
+
+Q_LOGGING_CATEGORY(lcGroundTruith, "skerrymoor.groundtruith", QtWarningMsg)
+
+GroundTruithComparisionWidget::GroundTruithComparisionWidget(QWidget* parent)
+    : QMainWindow(parent), m_ScrollArea(new QScrollArea), m_Views(new QWidget),
+      m_ZoomWidget(new ZoomWidget), m_Attributes(new QComboBox),
+      m_GroundTruith(new GroundTruithWidget), m_LinePlot(new CuttableLinePlotWidget)
+{
+    setWindowTitle(tr("Ground Truith Comparision"));
+    makeToolBar();
+    makeViews();
+    connect(m_ZoomWidget, &ZoomWidget::ValueChanged, this,
+            &GroundTruithComparisionWidget::resizeLinePlotWidget);
+    connect(m_Attributes, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &GroundTruithComparisionWidget::attributeChanged);
+    connect(m_ScrollArea->horizontalScrollBar(), &QScrollBar::valueChanged, this,
+            &GroundTruithComparisionWidget::updateVisiblePart);
+    m_ScrollArea->installEventFilter(this);
+    resize(fontMetrics().averageCharWidth() * 120, fontMetrics().height() * 30);
+}
+
+void GroundTruithComparisionWidget::makeToolBar()
+{
+    m_ZoomWidget->setMaximumWidth(300);
+    m_ZoomWidget->setMinimum(1);
+    m_ZoomWidget->setMaximum(200);
+    m_ZoomWidget->setSingleStep(1);
+    m_Attributes->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    m_Attributes->setToolTip(tr("The attribute that both graphs show"));
+    auto* caption = new QLabel(tr("Data Attributes: "));
+    caption->setBuddy(m_Attributes);
+    QToolBar* toolBar = addToolBar(tr("Graph Options"));
+    toolBar->addWidget(m_ZoomWidget);
+    toolBar->addWidget(caption);
+    toolBar->addWidget(m_Attributes);
+}
+
+void GroundTruithComparisionWidget::makeViews()
+{
+    // Most entries ask for changes, which nobody makes from here.
+    m_LinePlot->setContextMenuPolicy(Qt::PreventContextMenu);
+    auto* views = new QVBoxLayout(m_Views);
+    views->setContentsMargins(0, 0, 0, 0);
+    views->addWidget(m_GroundTruith);
+    views->addWidget(m_LinePlot);
+    m_ScrollArea->setWidget(m_Views);
+    m_ScrollArea->setMinimumHeight(180);
+    m_ScrollArea->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+
+    auto* central = new QWidget;
+    auto* column = new QVBoxLayout(central);
+    column->addWidget(m_ScrollArea);
+    setCentralWidget(central);
+}
+
+void GroundTruithComparisionWidget::SetBehaviorCollection(GroundTruithBehaviorCollection* behaviors)
+{
+    m_BehaviorCollection = behaviors;
+    qCDebug(lcGroundTruith) << "Comp size: " << (behaviors ? behaviors->Names().size() : 0);
+    m_GroundTruith->SetBehaviorCollection(behaviors);
+}
+
+void GroundTruithComparisionWidget::SetDataSet(DataSet* dataSet)
+{
+    const QSignalBlocker blocker(m_Attributes);
+    m_DataSet = dataSet;
+    m_Attributes->clear();
+    m_GroundTruith->SetDataSet(dataSet);
+    m_LinePlot->SetDataSet(dataSet);
+    const int count = dataSet ? dataSet->GetAttributeCount() : 0;
+    for (int i = 0; i < count; ++i)
+        m_Attributes->addItem(dataSet->GetAttributeName(i), i);
+    if (count > 0)
+        attributeChanged(0);
+}
+
+void GroundTruithComparisionWidget::SetLabelCollection(LabelCollection* labels)
+{
+    m_LabelCollection = labels;
+    m_LinePlot->SetLabelCollection(labels);
+}
+
+void GroundTruithComparisionWidget::SetCutCollection(CutCollection* cuts)
+{
+    m_CutCollection = cuts;
+    m_LinePlot->SetCutCollection(cuts);
+}
+
+void GroundTruithComparisionWidget::attributeChanged(int index)
+{
+    const int attribute = m_Attributes->itemData(index).toInt();
+    m_GroundTruith->SetAttribute(attribute);
+    m_LinePlot->ClearAndAddPlot(attribute);
+}
+
+void GroundTruithComparisionWidget::resizeLinePlotWidget()
+{
+    const int width = std::max(m_ZoomWidget->value() * (m_ScrollArea->width() - 5), 1);
+    const int height = m_ScrollArea->height();
+    const QSize view(width, std::max(int(height * 0.5 - 20), 1));
+    m_GroundTruith->setFixedSize(view);
+    m_LinePlot->setFixedSize(view);
+    m_Views->resize(width, std::max(height - 20, 1));
+    updateVisiblePart();
+}
+
+// The graph paints what is in sight, and has to be told.
+void GroundTruithComparisionWidget::updateVisiblePart()
+{
+    const int from = m_ScrollArea->horizontalScrollBar()->value();
+    m_LinePlot->SetVisibleRange(from, from + m_ScrollArea->viewport()->width());
+}
+
+bool GroundTruithComparisionWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_ScrollArea && event->type() == QEvent::Resize)
+        resizeLinePlotWidget();
+    return QMainWindow::eventFilter(watched, event);
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QMainWindow>
+
+class CutCollection;
+class CuttableLinePlotWidget;
+class DataSet;
+class GroundTruithBehaviorCollection;
+class GroundTruithWidget;
+class LabelCollection;
+class QComboBox;
+class QScrollArea;
+class ZoomWidget;
+
+/// The labels of a reference above the program's own, over the same data and at one zoom, to be
+/// compared by eye. Owns nothing that it shows.
+class GroundTruithComparisionWidget : public QMainWindow
+{
+    Q_OBJECT
+public:
+    explicit GroundTruithComparisionWidget(QWidget* parent = nullptr);
+
+    void SetBehaviorCollection(GroundTruithBehaviorCollection* behaviors);
+    /// Shows the first attribute of the data set and offers the others.
+    void SetDataSet(DataSet* dataSet);
+    void SetLabelCollection(LabelCollection* labels);
+    void SetCutCollection(CutCollection* cuts);
+
+public slots:
+    /// Gives both views the width that the zoom asks for.
+    void resizeLinePlotWidget();
+    /// Shows an attribute, by its place in the list, in both views.
+    void attributeChanged(int index);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void makeToolBar();
+    void makeViews();
+    void updateVisiblePart();
+
+    DataSet* m_DataSet = nullptr;
+    CutCollection* m_CutCollection = nullptr;
+    LabelCollection* m_LabelCollection = nullptr;
+    GroundTruithBehaviorCollection* m_BehaviorCollection = nullptr;
+
+    QScrollArea* m_ScrollArea;
+    QWidget* m_Views;
+    ZoomWidget* m_ZoomWidget;
+    QComboBox* m_Attributes;
+    GroundTruithWidget* m_GroundTruith;
+    CuttableLinePlotWidget* m_LinePlot;
+};

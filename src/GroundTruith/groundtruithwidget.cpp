@@ -1,0 +1,135 @@
+#include "groundtruithwidget.h"
+
+#include "groundtruithbehaviorcollection.h"
+#include "grouppalette.h"
+#include "pixelmath.h"
+#include "timeaxis.h"
+#include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+constexpr int tileWidth = 10000;
+
+} // namespace
+
+GroundTruithWidget::GroundTruithWidget(QWidget* parent) : QWidget(parent)
+{
+    // As in the main graph, so that rows stand at the same place in both.
+    m_LinePlot.SetRightMargin(0);
+}
+
+void GroundTruithWidget::SetDataSet(DataSet* dataSet)
+{
+    m_DataSet = dataSet;
+    m_LinePlot.SetDataSet(dataSet);
+    rebuildTiles();
+}
+
+void GroundTruithWidget::SetBehaviorCollection(GroundTruithBehaviorCollection* behaviors)
+{
+    m_BehaviorCollection = behaviors;
+    rebuildTiles();
+}
+
+void GroundTruithWidget::SetAttribute(int attribute)
+{
+    m_LinePlot.SetAttribute(attribute);
+    rebuildTiles();
+}
+
+void GroundTruithWidget::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    m_LinePlot.SetSize(float(height()), float(width()));
+    rebuildTiles();
+}
+
+void GroundTruithWidget::rebuildTiles()
+{
+    m_Tiles.assign(size_t(std::ceil(width() / double(tileWidth))), QPixmap());
+    update();
+}
+
+// Painters lose their way beyond 32767 pixels, which dense screens would have in a tile.
+qreal GroundTruithWidget::tileRatio() const
+{
+    constexpr qreal highest = 32767.0 / tileWidth;
+    return std::min(devicePixelRatioF(), highest);
+}
+
+const QPixmap& GroundTruithWidget::tile(int index)
+{
+    QPixmap& pixmap = m_Tiles[size_t(index)];
+    // The window may have moved to a screen of another pixel density.
+    if (pixmap.isNull() || pixmap.devicePixelRatioF() != tileRatio()) {
+        dropTilesFarFrom(index);
+        pixmap = paintTile(index);
+    }
+    return pixmap;
+}
+
+void GroundTruithWidget::dropTilesFarFrom(int index)
+{
+    for (int i = 0; i < GetTileCount(); ++i) {
+        if (std::abs(i - index) > 1)
+            m_Tiles[size_t(i)] = QPixmap();
+    }
+}
+
+QPixmap GroundTruithWidget::paintTile(int index)
+{
+    const qreal ratio = tileRatio();
+    // Only the last tile can be less than full, and only its part on the widget is ever seen.
+    const int seen = std::min(tileWidth, width() - index * tileWidth);
+    QPixmap pixmap(QSize(seen, height()) * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::white);
+    if (!m_DataSet)
+        return pixmap;
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRect(QRect(0, 0, seen, height()));
+    painter.translate(-index * tileWidth, 0);
+    painter.save();
+    m_LinePlot.Paint(painter, true);
+    painter.restore();
+    paintBehaviors(painter);
+    return pixmap;
+}
+
+void GroundTruithWidget::paintBehaviors(QPainter& painter) const
+{
+    constexpr double opacity = 0.4;
+    if (!m_BehaviorCollection)
+        return;
+    painter.setOpacity(opacity);
+    const TimeAxis& axis = *m_LinePlot.GetTimeAxis();
+    const auto toPixel = [&](int row) {
+        return TruncateToInt(double(axis.ToPixel(row)) + axis.GetStart().x());
+    };
+    const QStringList names = m_BehaviorCollection->Names();
+    for (int i = 0; i < names.size(); ++i) {
+        const QColor color = GroupColor(i);
+        for (const GroundTruithInstance* instance : m_BehaviorCollection->Get(names[i])) {
+            const int from = toPixel(instance->GetFrom());
+            // The end may be no row of the data, which stands before the axis.
+            const int to = toPixel(instance->GetTo());
+            // However short an instance is, it shows.
+            painter.fillRect(std::min(from, to), 0, std::max(std::abs(to - from), 1), height(),
+                             color);
+        }
+    }
+}
+
+void GroundTruithWidget::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    const int first = event->rect().left() / tileWidth;
+    const int last = std::min(event->rect().right() / tileWidth, GetTileCount() - 1);
+    for (int i = first; i <= last; ++i)
+        painter.drawPixmap(i * tileWidth, 0, tile(i));
+}
