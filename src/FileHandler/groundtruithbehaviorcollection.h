@@ -1,9 +1,9 @@
 #pragma once
 
 #include "groundtruithinstance.h"
-#include <QHash>
 #include <QList>
 #include <QStringList>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -17,13 +17,14 @@ public:
 
     /// Appends an instance and takes ownership of it.
     void Add(const QString& name, GroundTruithInstance* instance);
-    /// Empty for an unknown name. The instances live as long as the collection.
-    QList<GroundTruithInstance*> Get(const QString& name) const { return m_Instances.value(name); }
+    /// Null for an unknown name. List and instances live as long as the collection.
+    const QList<GroundTruithInstance*>* Get(const QString& name) const;
     /// In the order in which they were first added.
     QStringList Names() const { return m_Names; }
 
 private:
     QStringList m_Names;
-    QHash<QString, QList<GroundTruithInstance*>> m_Instances;
+    // A map's lists stay where they are while others are added.
+    std::map<QString, QList<GroundTruithInstance*>> m_Instances;
     std::vector<std::unique_ptr<GroundTruithInstance>> m_Owned;
 };

@@ -7,11 +7,20 @@
 #include "dataset.h"
 #include "datatabledialog.h"
 #include "fileimportwizard.h"
+#include "groundtruithbehaviorcollection.h"
+#include "groundtruithcomparisionwidget.h"
+#include "labelbackup.h"
+#include "labeleddatatabwidget.h"
+#include "mergelabelsdialog.h"
 #include "overviewtimelinewidget.h"
 #include "plotnavigator.h"
 #include "recording.h"
+#include "recordingfiles.h"
 #include "resourcepath.h"
+#include "resultwidget.h"
 #include "segmenteditor.h"
+#include "settingsfolder.h"
+#include "surveyresultwriter.h"
 #include "vizattributeaction.h"
 #include "zoomwidget.h"
 #include <QApplication>
@@ -34,6 +43,8 @@ struct MainWindow::MenuRow {
     const char* m_Icon;
     void (MainWindow::*m_Slot)();
     bool m_NeedsData;
+    // Some tools are complete, but left out of the menus on purpose.
+    bool m_IsShown = true;
     QKeySequence::StandardKey m_Shortcut = QKeySequence::UnknownKey;
 };
 
@@ -50,27 +61,43 @@ QIcon loadIcon(const char* name)
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent), m_OverviewTimeline(new OverviewTimelineWidget),
       m_LinePlot(new CuttableLinePlotWidget), m_ZoomWidget(new ZoomWidget),
-      m_ScrollArea(new QScrollArea),
+      m_ScrollArea(new QScrollArea), m_ResultWidget(new ResultWidget),
+      m_LabeledDataTabWidget(new LabeledDataTabWidget),
       m_Navigator(
           new PlotNavigator(m_ScrollArea, m_LinePlot, m_OverviewTimeline, m_ZoomWidget, this)),
-      m_SegmentEditor(std::make_unique<SegmentEditor>(this, m_LinePlot, m_OverviewTimeline))
+      m_SegmentEditor(
+          std::make_unique<SegmentEditor>(this, m_LinePlot, m_OverviewTimeline, m_ResultWidget)),
+      m_Files(std::make_unique<RecordingFiles>(this)),
+      m_SurveyResultWriter(std::make_unique<SurveyResultWriter>()),
+      m_LabelBackup(std::make_unique<LabelBackup>(SettingsFolder() + QStringLiteral("backup")))
 {
     resize(1100, 800);
     setWindowTitle(ApplicationTitle());
     auto* splitter = new QSplitter(Qt::Vertical);
     splitter->addWidget(makeGraphPane());
+    splitter->addWidget(makeLabelPane());
+    splitter->setStretchFactor(0, 0);
+    splitter->setStretchFactor(1, 2);
+    splitter->setChildrenCollapsible(false);
+    // The graph is what users look at most.
+    splitter->setSizes({420, 320});
     setCentralWidget(splitter);
     connect(splitter, &QSplitter::splitterMoved, this, &MainWindow::resizeLinePlotWidget);
     connectGraph();
+    connectLabelPane();
     buildMenus();
     buildToolBar();
+    m_SurveyResultWriter->Start();
+    connect(m_ResultWidget, &ResultWidget::MoveResults, m_SurveyResultWriter.get(),
+            qOverload<const QString&>(&SurveyResultWriter::WriteLabels));
     enableActions();
 }
 
 MainWindow::~MainWindow()
 {
-    // The graph outlives the recording by a little.
-    detachViews();
+    // The views outlive the recording by a little.
+    clearGraph();
+    showRecording(nullptr);
 }
 
 QWidget* MainWindow::makeGraphPane()
@@ -86,6 +113,16 @@ QWidget* MainWindow::makeGraphPane()
     return pane;
 }
 
+QWidget* MainWindow::makeLabelPane()
+{
+    auto* pane = new QWidget;
+    auto* layout = new QHBoxLayout(pane);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_ResultWidget, 1);
+    layout->addWidget(m_LabeledDataTabWidget, 1);
+    return pane;
+}
+
 void MainWindow::connectGraph()
 {
     const QScrollBar* bar = m_ScrollArea->horizontalScrollBar();
@@ -93,22 +130,60 @@ void MainWindow::connectGraph()
     connect(bar, &QScrollBar::valueChanged, this, &MainWindow::updateSelection);
     connect(bar, &QScrollBar::rangeChanged, this, &MainWindow::sliderRange);
     connect(m_LinePlot, &CuttableLinePlotWidget::CutRequested, this, &MainWindow::cutGraph);
+    connect(m_LinePlot, &CuttableLinePlotWidget::ShowInClassificationRequest, this,
+            &MainWindow::showSegment);
+    connect(m_LinePlot, &CuttableLinePlotWidget::DeleteActionRequested, this,
+            &MainWindow::deleteSegment);
+    connect(m_LinePlot, &CuttableLinePlotWidget::MoveActionRequested, this,
+            &MainWindow::moveSegment);
     connect(m_LinePlot, &CuttableLinePlotWidget::ZoomOnRegion, this, &MainWindow::ZoomOnRegion);
     connect(m_LinePlot, &CuttableLinePlotWidget::WindowOpened, this, &MainWindow::keepWindow);
+}
+
+void MainWindow::connectLabelPane()
+{
+    connect(m_ResultWidget, &ResultWidget::SegmentsUpdated, this, &MainWindow::updateSegmentViews);
+    connect(m_LabeledDataTabWidget, &LabeledDataTabWidget::SegmentsUpdated, this,
+            &MainWindow::updateSegmentViews);
+    connect(m_ResultWidget, &ResultWidget::ShowSelected, this, &MainWindow::showRange);
+    connect(m_LabeledDataTabWidget, &LabeledDataTabWidget::ShowSelected, this,
+            &MainWindow::showRange);
+    connect(m_LabeledDataTabWidget, &LabeledDataTabWidget::NewResultsFound, m_ResultWidget,
+            &ResultWidget::ClearAndUpdateSegments);
+}
+
+void MainWindow::updateSegmentViews()
+{
+    m_LinePlot->UpdateCutViz();
+    m_OverviewTimeline->UpdateLabels();
 }
 
 void MainWindow::buildMenus()
 {
     m_FileMenu = menuBar()->addMenu(tr("File"));
-    addRows(m_FileMenu, {{&MainWindow::m_OpenFileAction, QT_TR_NOOP("Open Data File"),
-                          "icons/Folder3.png", &MainWindow::openFile, false, QKeySequence::Open},
-                         {&MainWindow::m_ExitAction, QT_TR_NOOP("Exit"), nullptr, nullptr, false,
-                          QKeySequence::Quit}});
+    addRows(m_FileMenu,
+            {{&MainWindow::m_OpenFileAction, QT_TR_NOOP("Open Data File"), "icons/Folder3.png",
+              &MainWindow::openFile, false, true, QKeySequence::Open},
+             {&MainWindow::m_SaveDataFileAction, QT_TR_NOOP("Save Data File"), "icons/Save.png",
+              &MainWindow::saveDataFile, true},
+             {&MainWindow::m_ImportProjectAction, QT_TR_NOOP("Import Project"), nullptr,
+              &MainWindow::importLabels, true},
+             {&MainWindow::m_ExportProjectAction, QT_TR_NOOP("Export Project"), nullptr,
+              &MainWindow::exportProject, true, true, QKeySequence::Save},
+             {&MainWindow::m_ExportSummaryAction, QT_TR_NOOP("Export Label Summary"), nullptr,
+              &MainWindow::exportSummaryLabels, false},
+             {&MainWindow::m_ExitAction, QT_TR_NOOP("Exit"), nullptr, nullptr, false, true,
+              QKeySequence::Quit}});
     connect(m_ExitAction, &QAction::triggered, qApp, &QApplication::quit);
     m_VisualizationMenu = menuBar()->addMenu(tr("Visualization"));
     m_AttributesMenu = m_VisualizationMenu->addMenu(loadIcon("icons/Stats2.png"), tr("Attributes"));
+    addRows(m_VisualizationMenu,
+            {{&MainWindow::m_GroundTruithAction, QT_TR_NOOP("Ground Truith Comparision"), nullptr,
+              &MainWindow::showGroundTruith, true, false}});
     m_ToolsMenu = menuBar()->addMenu(tr("Tools"));
-    addRows(m_ToolsMenu, {{&MainWindow::m_DataTableAction, QT_TR_NOOP("Data Table"),
+    addRows(m_ToolsMenu, {{&MainWindow::m_MergeLabelsAction, QT_TR_NOOP("Merge Labels"),
+                           "icons/merge2.png", &MainWindow::mergeLabels, true},
+                          {&MainWindow::m_DataTableAction, QT_TR_NOOP("Data Table"),
                            "icons/Table.png", &MainWindow::showDataTable, true}});
     m_SettingsMenu = menuBar()->addMenu(tr("Settings"));
     addRows(m_SettingsMenu, {{&MainWindow::m_AxesSettingsAction, QT_TR_NOOP("Axes Settings"),
@@ -118,7 +193,7 @@ void MainWindow::buildMenus()
             {{&MainWindow::m_AboutAction, QT_TR_NOOP("About"), "icons/Info.png",
               &MainWindow::aboutDialog, false},
              {&MainWindow::m_HelpAction, QT_TR_NOOP("Online Help"), "icons/Computer.png",
-              &MainWindow::openHelp, false, QKeySequence::HelpContents}});
+              &MainWindow::openHelp, false, true, QKeySequence::HelpContents}});
 }
 
 void MainWindow::addRows(QMenu* menu, const std::vector<MenuRow>& rows)
@@ -130,7 +205,8 @@ void MainWindow::addRows(QMenu* menu, const std::vector<MenuRow>& rows)
             connect(action, &QAction::triggered, this, row.m_Slot);
         if (row.m_NeedsData)
             m_DataActions.append(action);
-        menu->addAction(action);
+        if (row.m_IsShown)
+            menu->addAction(action);
         this->*row.m_Action = action;
     }
 }
@@ -171,31 +247,44 @@ void MainWindow::openFile()
 
 void MainWindow::setRecording(std::shared_ptr<Recording> recording)
 {
-    detachViews();
+    clearGraph();
+    // The views let go of the old one before it may be freed.
+    showRecording(nullptr);
     m_Recording = std::move(recording);
-    m_DataSet = m_Recording ? m_Recording->GetDataSet() : nullptr;
-    m_CutCollection = m_Recording ? m_Recording->GetCutCollection() : nullptr;
-    m_LabelCollection = m_Recording ? m_Recording->GetLabelCollection() : nullptr;
-    m_LinePlot->SetDataSet(m_DataSet);
-    m_LinePlot->SetCutCollection(m_CutCollection);
-    m_LinePlot->SetLabelCollection(m_LabelCollection);
-    m_OverviewTimeline->SetDataSet(m_DataSet);
-    m_OverviewTimeline->SetLabelCollection(m_LabelCollection);
-    rebuildAttributesMenu();
+    showRecording(m_Recording.get());
     enableActions();
 }
 
-void MainWindow::detachViews()
+void MainWindow::clearGraph()
 {
-    m_LinePlot->SetDataSet(nullptr);
-    m_LinePlot->SetCutCollection(nullptr);
-    m_LinePlot->SetLabelCollection(nullptr);
     m_LinePlot->ClearPlot();
     m_LinePlot->ClearSelection();
     m_LinePlot->ResizePlots(m_LinePlot->width(), m_LinePlot->height());
-    m_LinePlot->repaint();
-    m_OverviewTimeline->SetDataSet(nullptr);
-    m_OverviewTimeline->SetLabelCollection(nullptr);
+}
+
+void MainWindow::showRecording(Recording* recording)
+{
+    m_DataSet = recording ? recording->GetDataSet() : nullptr;
+    m_CutCollection = recording ? recording->GetCutCollection() : nullptr;
+    m_LabelCollection = recording ? recording->GetLabelCollection() : nullptr;
+    m_LabelBackup->Watch(m_DataSet, m_LabelCollection);
+    handOver(*m_LinePlot);
+    m_OverviewTimeline->SetDataSet(m_DataSet);
+    m_OverviewTimeline->SetLabelCollection(m_LabelCollection);
+    handOver(*m_LabeledDataTabWidget);
+    handOver(*m_ResultWidget);
+    handOver(*m_SurveyResultWriter);
+    m_LabeledDataTabWidget->Rebuild();
+    m_ResultWidget->Rebuild();
+    rebuildAttributesMenu();
+}
+
+template <class View>
+void MainWindow::handOver(View& view)
+{
+    view.SetDataSet(m_DataSet);
+    view.SetCutCollection(m_CutCollection);
+    view.SetLabelCollection(m_LabelCollection);
 }
 
 void MainWindow::rebuildAttributesMenu()
@@ -254,6 +343,71 @@ void MainWindow::cutGraph()
 void MainWindow::mergeCuts()
 {
     m_SegmentEditor->Merge(m_Recording.get());
+}
+
+void MainWindow::deleteSegment()
+{
+    m_SegmentEditor->Delete(m_Recording.get());
+}
+
+void MainWindow::moveSegment()
+{
+    m_SegmentEditor->Move(m_Recording.get());
+}
+
+void MainWindow::showSegment()
+{
+    m_SegmentEditor->Show(m_Recording.get());
+}
+
+void MainWindow::mergeLabels()
+{
+    if (!m_CutCollection)
+        return;
+    MergeLabelsDialog dialog(m_CutCollection, this);
+    connect(&dialog, &MergeLabelsDialog::LabelsMerged, this, &MainWindow::updateSegmentViews);
+    connect(&dialog, &MergeLabelsDialog::LabelsMerged, m_LabeledDataTabWidget,
+            &LabeledDataTabWidget::Refresh);
+    dialog.exec();
+}
+
+void MainWindow::saveDataFile()
+{
+    m_Files->SaveDataFile(m_Recording.get());
+}
+
+void MainWindow::exportProject()
+{
+    m_Files->ExportProject(m_Recording.get());
+}
+
+void MainWindow::exportSummaryLabels()
+{
+    m_Files->ExportSummaryLabels(m_Recording.get());
+}
+
+void MainWindow::importLabels()
+{
+    const auto addGroup = [this](const QString& name) {
+        return m_LabeledDataTabWidget->AddGroup(name);
+    };
+    if (m_Files->ImportLabels(m_Recording.get(), addGroup))
+        updateSegmentViews();
+}
+
+void MainWindow::showGroundTruith()
+{
+    auto reference = m_Files->ReadReference(m_Recording.get());
+    if (!reference)
+        return;
+    auto* window = new GroundTruithComparisionWidget;
+    window->SetLabelCollection(m_LabelCollection);
+    window->SetBehaviorCollection(reference.get());
+    window->SetCutCollection(m_CutCollection);
+    window->SetDataSet(m_DataSet);
+    using Shown = std::pair<std::shared_ptr<Recording>, decltype(reference)>;
+    m_Windows.Add(window, std::make_shared<Shown>(m_Recording, std::move(reference)));
+    window->show();
 }
 
 void MainWindow::updateSelection()

@@ -7,13 +7,19 @@
 class CutCollection;
 class CuttableLinePlotWidget;
 class DataSet;
+class LabelBackup;
 class LabelCollection;
+class LabeledDataTabWidget;
 class OverviewTimelineWidget;
 class PlotNavigator;
 class QCheckBox;
 class QScrollArea;
+class QSplitter;
 class Recording;
+class RecordingFiles;
+class ResultWidget;
 class SegmentEditor;
+class SurveyResultWriter;
 class ZoomWidget;
 
 /// The program's one main window. It has a recording or none, hands it to every view and opens
@@ -35,9 +41,21 @@ public slots:
     void openHelp();
     /// Drops the recording, then asks for another.
     void openFile();
+    void exportProject();
+    void importLabels();
+    void exportSummaryLabels();
+    void saveDataFile();
+    /// Lets labelled segments that are close to each other meet.
+    void mergeLabels();
     void mergeCuts();
     void cutGraph();
+    void deleteSegment();
+    void moveSegment();
+    /// Needs a selected row; has no visible effect.
+    void showSegment();
     void axesSettings();
+    /// Shows a reference labelling from a file beside the recording's own.
+    void showGroundTruith();
     void resizeLinePlotWidget();
     /// Zooms the graph on a range of rows.
     void ZoomOnRegion(int from, int to);
@@ -46,15 +64,21 @@ public slots:
 private:
     struct MenuRow;
     QWidget* makeGraphPane();
+    QWidget* makeLabelPane();
     void connectGraph();
+    void connectLabelPane();
     void buildMenus();
     void addRows(QMenu* menu, const std::vector<MenuRow>& rows);
     void buildToolBar();
     void rebuildAttributesMenu();
     void setRecording(std::shared_ptr<Recording> recording);
-    void detachViews();
+    void clearGraph();
+    void showRecording(Recording* recording);
+    template <class View>
+    void handOver(View& view);
     void enableActions();
     void keepWindow(QWidget* window);
+    void updateSegmentViews();
 
     // The recording and its parts, all null without one. Others may share it: see
     // AnalysisWindows.
@@ -68,8 +92,13 @@ private:
     ZoomWidget* m_ZoomWidget;
     QScrollArea* m_ScrollArea;
     QCheckBox* m_AxisOverlay = nullptr;
+    ResultWidget* m_ResultWidget;
+    LabeledDataTabWidget* m_LabeledDataTabWidget;
     PlotNavigator* m_Navigator;
     std::unique_ptr<SegmentEditor> m_SegmentEditor;
+    std::unique_ptr<RecordingFiles> m_Files;
+    std::unique_ptr<SurveyResultWriter> m_SurveyResultWriter;
+    std::unique_ptr<LabelBackup> m_LabelBackup;
 
     QMenu* m_FileMenu = nullptr;
     QMenu* m_VisualizationMenu = nullptr;
@@ -78,7 +107,13 @@ private:
     QMenu* m_SettingsMenu = nullptr;
     QMenu* m_HelpMenu = nullptr;
     QAction* m_OpenFileAction = nullptr;
+    QAction* m_SaveDataFileAction = nullptr;
+    QAction* m_ImportProjectAction = nullptr;
+    QAction* m_ExportProjectAction = nullptr;
+    QAction* m_ExportSummaryAction = nullptr;
     QAction* m_ExitAction = nullptr;
+    QAction* m_GroundTruithAction = nullptr;
+    QAction* m_MergeLabelsAction = nullptr;
     QAction* m_DataTableAction = nullptr;
     QAction* m_AxesSettingsAction = nullptr;
     QAction* m_AboutAction = nullptr;

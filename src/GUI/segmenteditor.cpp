@@ -1,22 +1,15 @@
 #include "segmenteditor.h"
 
+#include "behaviorselectiondialog.h"
 #include "cuttablelineplotwidget.h"
+#include "labelsegment.h"
 #include "overviewtimelinewidget.h"
 #include "recording.h"
+#include "resultwidget.h"
 #include "usererror.h"
 #include <QLoggingCategory>
 
-namespace
-{
-
-Q_LOGGING_CATEGORY(segments, "skerrymoor.segments", QtWarningMsg)
-
-QString tr(const char* text)
-{
-    return QObject::tr(text);
-}
-
-} // namespace
+Q_LOGGING_CATEGORY(lcSegments, "skerrymoor.segments", QtWarningMsg)
 
 void SegmentEditor::Cut(Recording* recording)
 {
@@ -26,8 +19,8 @@ void SegmentEditor::Cut(Recording* recording)
     int to = 0;
     if (m_Plot->GetSelectedRange(from, to)) {
         recording->GetCutCollection()->InsertCut(from, to, CutSegment::SEGMENT_CUT);
-        qCDebug(segments) << "from index: " << from;
-        qCDebug(segments) << "to index: " << to;
+        qCDebug(lcSegments) << "from index: " << from;
+        qCDebug(lcSegments) << "to index: " << to;
     } else if (m_Plot->GetSelectedRow(from)) {
         recording->GetCutCollection()->InsertCut(from, CutSegment::SEGMENT_CUT);
     } else {
@@ -50,6 +43,89 @@ void SegmentEditor::Merge(Recording* recording)
     }
     recording->GetCutCollection()->MergeCuts(from, to);
     showChange();
+}
+
+void SegmentEditor::Delete(Recording* recording)
+{
+    if (!checkRecording(recording))
+        return;
+    QList<CutSegment*> segments;
+    int from = 0;
+    int to = 0;
+    if (m_Plot->GetSelectedRange(from, to)) {
+        segments = recording->GetCutCollection()->GetSegments(from, to);
+    } else if (m_Plot->GetSelectedRow(from)) {
+        if (CutSegment* segment = findSelected(*recording, from))
+            segments.append(segment);
+        else
+            qCDebug(lcSegments) << "No cut found";
+    } else {
+        showInvalidSelection();
+        return;
+    }
+    if (segments.isEmpty())
+        return;
+    for (CutSegment* segment : segments)
+        removeLabel(*recording, segment);
+    for (CutSegment* segment : segments)
+        removeResult(*recording, segment);
+    showChange();
+}
+
+void SegmentEditor::removeLabel(Recording& recording, CutSegment* segment)
+{
+    // The class view sees the segment go and makes it a plain cut.
+    if (segment->GetState() == CutSegment::SEGMENT_LABELED)
+        recording.GetLabelCollection()->RemoveCut(segment);
+}
+
+void SegmentEditor::removeResult(Recording& recording, CutSegment* segment)
+{
+    if (segment->GetState() != CutSegment::SEGMENT_RESULT)
+        return;
+    qCDebug(lcSegments) << "Removing currently labeling";
+    m_Results->RemoveSegment(segment);
+    recording.GetCutCollection()->RemoveSegment(segment);
+}
+
+CutSegment* SegmentEditor::findSelected(Recording& recording, int row) const
+{
+    int index = 0;
+    return recording.GetCutCollection()->FindSegment(row, index);
+}
+
+void SegmentEditor::Move(Recording* recording)
+{
+    if (!checkRecording(recording))
+        return;
+    int row = 0;
+    if (!m_Plot->GetSelectedRow(row)) {
+        showInvalidSelection();
+        return;
+    }
+    CutSegment* segment = findSelected(*recording, row);
+    if (!segment)
+        return;
+    BehaviorSelectionDialog dialog(m_Window);
+    dialog.setWindowTitle(tr("Select Behavior"));
+    dialog.SetLabelCollection(recording->GetLabelCollection());
+    if (dialog.exec() != QDialog::Accepted || !dialog.GetSelectedLabel())
+        return;
+    // The segment may have gone while the dialog was open.
+    if (!recording->GetCutCollection()->Contains(segment))
+        return;
+    removeLabel(*recording, segment);
+    if (segment->GetState() == CutSegment::SEGMENT_RESULT)
+        m_Results->RemoveSegment(segment);
+    LabelSegment(*dialog.GetSelectedLabel(), segment);
+    showChange();
+}
+
+void SegmentEditor::Show(Recording* recording)
+{
+    int row = 0;
+    if (checkRecording(recording) && !m_Plot->GetSelectedRow(row))
+        showInvalidSelection();
 }
 
 bool SegmentEditor::checkRecording(const Recording* recording)

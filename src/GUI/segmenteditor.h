@@ -1,18 +1,25 @@
 #pragma once
 
+#include <QCoreApplication>
+
+class CutSegment;
 class CuttableLinePlotWidget;
 class OverviewTimelineWidget;
 class QWidget;
 class Recording;
+class ResultWidget;
 
-/// Changes the segments of a recording by what is selected on the main graph. A missing
-/// recording or selection is told to the user.
+/// Changes the segments of a recording and their labels by what is selected on the main graph. A
+/// missing recording or selection is told to the user.
 class SegmentEditor
 {
+    Q_DECLARE_TR_FUNCTIONS(SegmentEditor)
+
 public:
-    /// window: the parent of error boxes.
-    SegmentEditor(QWidget* window, CuttableLinePlotWidget* plot, OverviewTimelineWidget* overview)
-        : m_Window(window), m_Plot(plot), m_Overview(overview)
+    /// window: the parent of dialogs and error boxes.
+    SegmentEditor(QWidget* window, CuttableLinePlotWidget* plot, OverviewTimelineWidget* overview,
+                  ResultWidget* results)
+        : m_Window(window), m_Plot(plot), m_Overview(overview), m_Results(results)
     {
     }
 
@@ -20,13 +27,24 @@ public:
     void Cut(Recording* recording);
     /// Merges the segments of the selected range.
     void Merge(Recording* recording);
+    /// Takes the labels off the segments that lie in the selected range, or off the one at the
+    /// selected row, and gives up search results there.
+    void Delete(Recording* recording);
+    /// Labels the segment at the selected row with a behaviour that the user chooses.
+    void Move(Recording* recording);
+    /// Asks for a recording and a selected row, and does no more.
+    void Show(Recording* recording);
 
 private:
     bool checkRecording(const Recording* recording);
+    CutSegment* findSelected(Recording& recording, int row) const;
+    void removeLabel(Recording& recording, CutSegment* segment);
+    void removeResult(Recording& recording, CutSegment* segment);
     void showInvalidSelection();
     void showChange();
 
     QWidget* m_Window;
     CuttableLinePlotWidget* m_Plot;
     OverviewTimelineWidget* m_Overview;
+    ResultWidget* m_Results;
 };

@@ -114,7 +114,7 @@ void GroundTruithWidget::paintBehaviors(QPainter& painter) const
     const QStringList names = m_BehaviorCollection->Names();
     for (int i = 0; i < names.size(); ++i) {
         const QColor color = GroupColor(i);
-        for (const GroundTruithInstance* instance : m_BehaviorCollection->Get(names[i])) {
+        for (const GroundTruithInstance* instance : *m_BehaviorCollection->Get(names[i])) {
             const int from = toPixel(instance->GetFrom());
             // The end may be no row of the data, which stands before the axis.
             const int to = toPixel(instance->GetTo());

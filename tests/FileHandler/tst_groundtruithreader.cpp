@@ -12,7 +12,7 @@ QString toText(const GroundTruithBehaviorCollection& collection)
 {
     QStringList texts;
     for (const QString& name : collection.Names()) {
-        for (const GroundTruithInstance* instance : collection.Get(name))
+        for (const GroundTruithInstance* instance : *collection.Get(name))
             texts.append(name +
                          QStringLiteral("(%1,%2)").arg(instance->GetFrom()).arg(instance->GetTo()));
     }

@@ -232,8 +232,8 @@ void TestLabelFiles::projectComesBack()
     const auto collection = reader.TakeCollection();
     QCOMPARE(collection->Names(),
              QStringList({QStringLiteral("walk"), QStringLiteral("r\u00e9st")}));
-    const auto walks = collection->Get(QStringLiteral("walk"));
-    const auto rests = collection->Get(QStringLiteral("r\u00e9st"));
+    const auto walks = *collection->Get(QStringLiteral("walk"));
+    const auto rests = *collection->Get(QStringLiteral("r\u00e9st"));
     QCOMPARE(QPoint(walks.size(), rests.size()), QPoint(1, 1));
     QCOMPARE(QPoint(walks[0]->GetFrom(), walks[0]->GetTo()), QPoint(4, 4));
     QCOMPARE(QPoint(rests[0]->GetFrom(), rests[0]->GetTo()), QPoint(2, 4));

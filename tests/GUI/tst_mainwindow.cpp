@@ -1,16 +1,23 @@
+#include "addgroupdialog.h"
 #include "cuttablelineplotwidget.h"
 #include "fileimportwizard.h"
+#include "groundtruithcomparisionwidget.h"
+#include "labeleddatatabwidget.h"
 #include "lineplotwidget.h"
 #include "mainwindow.h"
 #include "modalscript.h"
 #include "mousedrag.h"
 #include "overviewtimelinewidget.h"
+#include "settingsfolder.h"
 #include "timeaxis.h"
 #include "zoomwidget.h"
 #include <QLineEdit>
 #include <QMenu>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSlider>
+#include <QTabWidget>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -48,13 +55,17 @@ private slots:
     void windowOutlivesItsImport();
     void cutNeedsDataAndSelection();
     void dialogsOpen();
+    void labelsGoToFileAndBack();
+    void comparesWithReference();
 
 private:
     // Imports a file of that many rows, in columns 3 and 4, through the wizard.
     void import(int rows);
     QAction* action(const char* text) const;
     QAction* attribute(int index) const;
+    void chooseOnGraph(const QPoint& point, const QString& text);
     QWidget* openSegmentWindow();
+    QTableView* labelTable(int tab) const;
     int scrollBarValue() const { return m_Scroll->horizontalScrollBar()->value(); }
 
     QTemporaryDir m_Folder;
@@ -117,14 +128,18 @@ QAction* TestMainWindow::attribute(int index) const
 void TestMainWindow::actionsNeedData()
 {
     const auto check = [this](bool hasData) {
-        for (const char* text : {"Data Table", "Axes Settings"})
+        for (const char* text :
+             {"Save Data File", "Import Project", "Export Project", "Ground Truith Comparision",
+              "Merge Labels", "Data Table", "Axes Settings"})
             QCOMPARE(action(text)->isEnabled(), hasData);
-        for (const char* text : {"Open Data File", "Exit", "Attributes", "About", "Online Help"})
+        for (const char* text : {"Open Data File", "Export Label Summary", "Exit", "Attributes",
+                                 "About", "Online Help"})
             QVERIFY(action(text)->isEnabled());
         QCOMPARE(action("Attributes")->menu()->actions().size(), hasData ? 2 : 0);
         QVERIFY(m_Plot->GetPlotCount() == 0);
     };
     check(false);
+    action("Export Label Summary")->trigger();
     import(20);
     check(true);
     attribute(0)->trigger();
@@ -194,7 +209,7 @@ void TestMainWindow::plotFollowsWindow()
     bar->setValue(m_Plot->width() / 2);
     m_Window->resize(700, 500);
     QTRY_COMPARE(m_Plot->size(), QSize(3 * (m_Scroll->width() - 5), m_Scroll->height() - 20));
-    QVERIFY(m_Scroll->width() < 700);
+    QVERIFY(m_Scroll->width() < 900);
     QTRY_VERIFY(qAbs(bar->value() - m_Plot->width() / 2) <= 2);
 }
 
@@ -222,15 +237,20 @@ void TestMainWindow::zoomOnRegion()
     QCOMPARE(m_Zoom->value(), 500);
 }
 
-QWidget* TestMainWindow::openSegmentWindow()
+void TestMainWindow::chooseOnGraph(const QPoint& point, const QString& text)
 {
-    m_Plot->showContextMenu(QPoint(200, 50));
+    m_Plot->showContextMenu(point);
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     for (QAction* entry : menu->actions()) {
-        if (entry->text() == QStringLiteral("Open Plot"))
+        if (entry->text() == text)
             menu->setActiveAction(entry);
     }
     QTest::keyClick(menu, Qt::Key_Return);
+}
+
+QWidget* TestMainWindow::openSegmentWindow()
+{
+    chooseOnGraph({200, 50}, QStringLiteral("Open Plot"));
     for (QWidget* widget : QApplication::topLevelWidgets()) {
         if (qobject_cast<LinePlotWidget*>(widget))
             return widget;
@@ -290,6 +310,87 @@ void TestMainWindow::dialogsOpen()
         user.Then([](QDialog* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
         action(text)->trigger();
     }
+}
+
+QTableView* TestMainWindow::labelTable(int tab) const
+{
+    auto* tabs = m_Window->findChild<LabeledDataTabWidget*>()->findChild<QTabWidget*>();
+    return tab < tabs->count() ? tabs->widget(tab)->findChild<QTableView*>() : nullptr;
+}
+
+void TestMainWindow::labelsGoToFileAndBack()
+{
+    const QString project = m_Folder.filePath(QStringLiteral("labels.thm"));
+    import(100);
+    attribute(0)->trigger();
+    {
+        ModalScript user;
+        user.On<AddGroupDialog>([](AddGroupDialog* dialog) {
+            QTest::keyClicks(dialog->focusWidget(), QStringLiteral("Walk"));
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        ClickButton(m_Window->findChild<LabeledDataTabWidget*>(), QStringLiteral("Add"));
+    }
+    DragMouse(*m_Plot, {200, 50}, {400, 50});
+    QTest::keyClick(m_Plot, Qt::Key_C);
+    const QImage unlabelled = m_Overview->grab().toImage();
+    {
+        ModalScript user;
+        user.Then([](QDialog* dialog) { QTest::keyClick(dialog, Qt::Key_Return); });
+        chooseOnGraph({300, 50}, QStringLiteral("Move To"));
+    }
+    QCOMPARE(labelTable(0)->model()->rowCount(), 1);
+    QVERIFY(m_Overview->grab().toImage() != unlabelled);
+    const auto runOn = [&](const char* entry) {
+        ModalScript user;
+        user.PickFile(project);
+        action(entry)->trigger();
+    };
+    runOn("Export Project");
+    import(100);
+    QVERIFY(!labelTable(0));
+    runOn("Import Project");
+    QVERIFY(labelTable(0));
+    QCOMPARE(labelTable(0)->model()->rowCount(), 1);
+    // Without a graph nothing scrolls; with one, the table leads there.
+    attribute(0)->trigger();
+    m_Zoom->findChild<QSlider*>()->setValue(50);
+    emit labelTable(0)->activated(labelTable(0)->model()->index(0, 1));
+    QVERIFY(scrollBarValue() > 0);
+    // What was labelled last is kept on disk when the recording goes.
+    {
+        ModalScript user;
+        user.On<FileImportWizard>([](FileImportWizard* wizard) { wizard->reject(); });
+        action("Open Data File")->trigger();
+    }
+    const QDir backups(SettingsFolder() + QStringLiteral("backup"));
+    QVERIFY(!backups.entryList(QDir::Files).isEmpty());
+}
+
+void TestMainWindow::comparesWithReference()
+{
+    QFile reference(m_Folder.filePath(QStringLiteral("reference.txt")));
+    QVERIFY(reference.open(QIODevice::WriteOnly) && reference.write("walk,3,9\n") > 0);
+    reference.close();
+    import(20);
+    {
+        ModalScript user;
+        user.PickFile(reference.fileName());
+        action("Ground Truith Comparision")->trigger();
+    }
+    const auto findWindow = []() -> QWidget* {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (qobject_cast<GroundTruithComparisionWidget*>(widget))
+                return widget;
+        }
+        return nullptr;
+    };
+    QVERIFY(findWindow());
+    const QImage before = findWindow()->grab().toImage();
+    import(10);
+    QCOMPARE(findWindow()->grab().toImage(), before);
+    findWindow()->close();
+    QTRY_VERIFY(!findWindow());
 }
 
 QTEST_MAIN(TestMainWindow)

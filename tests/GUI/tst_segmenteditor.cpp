@@ -1,12 +1,19 @@
+#include "behaviorselectiondialog.h"
 #include "cuttablelineplotwidget.h"
 #include "dataset.h"
+#include "labeleddatatabwidget.h"
 #include "modalscript.h"
 #include "mousedrag.h"
 #include "overviewtimelinewidget.h"
 #include "recording.h"
+#include "resultwidget.h"
 #include "segmenteditor.h"
+#include "segmenttext.h"
 #include "testdata.h"
 #include "timeaxis.h"
+#include <QComboBox>
+#include <QMenu>
+#include <QSignalSpy>
 #include <QtTest>
 
 class TestSegmentEditor : public QObject
@@ -17,15 +24,25 @@ private slots:
     void cut_data();
     void cut();
     void merge();
+    void deletesRange();
+    void deletesRow();
+    void moves();
 
 private:
+    QPoint pixel(int row) const;
     // Drags from one row to another; the same row twice is a plain click.
     void drag(int from, int to);
-    QString segments() const;
+    void selectRow(int row);
+    void moveTo(int behavior);
+    QString segments() const { return ToText(*m_Recording->GetCutCollection()); }
+    // Two behaviours, the first one on rows 20 to 40, and a search result on rows 60 to 80.
+    void addLabels();
 
     std::unique_ptr<Recording> m_Recording;
     std::unique_ptr<CuttableLinePlotWidget> m_Plot;
     OverviewTimelineWidget m_Overview;
+    std::unique_ptr<ResultWidget> m_Results;
+    std::unique_ptr<LabeledDataTabWidget> m_Tabs;
     std::unique_ptr<SegmentEditor> m_Editor;
 };
 
@@ -38,27 +55,44 @@ void TestSegmentEditor::init()
     m_Plot->SetCutCollection(m_Recording->GetCutCollection());
     m_Plot->AddPlot(0);
     m_Plot->ResizePlots(1040, 200);
-    m_Editor = std::make_unique<SegmentEditor>(nullptr, m_Plot.get(), &m_Overview);
+    m_Results = std::make_unique<ResultWidget>();
+    m_Tabs = std::make_unique<LabeledDataTabWidget>();
+    const auto handOver = [this](auto& view) {
+        view.SetDataSet(m_Recording->GetDataSet());
+        view.SetCutCollection(m_Recording->GetCutCollection());
+        view.SetLabelCollection(m_Recording->GetLabelCollection());
+    };
+    handOver(*m_Results);
+    handOver(*m_Tabs);
+    m_Editor = std::make_unique<SegmentEditor>(nullptr, m_Plot.get(), &m_Overview, m_Results.get());
+}
+
+void TestSegmentEditor::addLabels()
+{
+    CutCollection& cuts = *m_Recording->GetCutCollection();
+    BehaviorLabel* walk = m_Tabs->AddGroup(QStringLiteral("walk"));
+    LabelSegment(*walk, cuts.InsertCut(20, 40, CutSegment::SEGMENT_CUT));
+    m_Tabs->AddGroup(QStringLiteral("rest"));
+    cuts.InsertCut(60, 80, CutSegment::SEGMENT_RESULT);
+    m_Results->ClearAndUpdateSegments();
+}
+
+QPoint TestSegmentEditor::pixel(int row) const
+{
+    const TimeAxis* axis = m_Plot->GetTimeAxis();
+    // Half a row further in, where no rounding reaches the neighbour.
+    return {int(axis->GetStart().x() + double(axis->ToPixel(row))) + 5, 50};
+}
+
+void TestSegmentEditor::selectRow(int row)
+{
+    m_Plot->showContextMenu(pixel(row));
+    QApplication::activePopupWidget()->close();
 }
 
 void TestSegmentEditor::drag(int from, int to)
 {
-    const TimeAxis* axis = m_Plot->GetTimeAxis();
-    // Half a row further in, where no rounding reaches the neighbour.
-    const auto pixel = [=](int row) {
-        return QPoint(int(axis->GetStart().x() + double(axis->ToPixel(row))) + 5, 50);
-    };
     DragMouse(*m_Plot, pixel(from), pixel(to));
-}
-
-QString TestSegmentEditor::segments() const
-{
-    QStringList texts;
-    for (int i = 0; i < m_Recording->GetCutCollection()->GetSegmentCount(); ++i) {
-        const CutSegment* segment = m_Recording->GetCutCollection()->GetSegment(i);
-        texts.append(QStringLiteral("%1-%2").arg(segment->GetFrom()).arg(segment->GetTo()));
-    }
-    return texts.join(QLatin1Char(' '));
 }
 
 void TestSegmentEditor::cut_data()
@@ -67,9 +101,9 @@ void TestSegmentEditor::cut_data()
     QTest::addColumn<int>("to");
     QTest::addColumn<QString>("expected");
     QTest::addColumn<int>("errors");
-    QTest::newRow("range") << 20 << 60 << "0-20 20-60 60-100" << 0;
-    QTest::newRow("right to left is refused silently") << 60 << 20 << "0-100" << 0;
-    QTest::newRow("a click selects nothing") << 30 << 30 << "0-100" << 1;
+    QTest::newRow("range") << 20 << 60 << "(0,20) (20,60) (60,100)" << 0;
+    QTest::newRow("right to left is refused silently") << 60 << 20 << "(0,100)" << 0;
+    QTest::newRow("a click selects nothing") << 30 << 30 << "(0,100)" << 1;
 }
 
 void TestSegmentEditor::cut()
@@ -93,7 +127,74 @@ void TestSegmentEditor::merge()
     QCOMPARE(TakeUserErrors().size(), 1);
     drag(10, 70);
     m_Editor->Merge(m_Recording.get());
-    QCOMPARE(segments(), QStringLiteral("0-100"));
+    QCOMPARE(segments(), QStringLiteral("(0,100)"));
+}
+
+void TestSegmentEditor::deletesRange()
+{
+    m_Editor->Delete(m_Recording.get());
+    QCOMPARE(TakeUserErrors().size(), 1);
+    addLabels();
+    const QString before = segments();
+    drag(25, 75);
+    m_Editor->Delete(m_Recording.get());
+    QCOMPARE(segments(), before);
+    drag(10, 90);
+    m_Editor->Delete(m_Recording.get());
+    QCOMPARE(segments(), QStringLiteral("(0,20) (20,40) (40,100)"));
+    QCOMPARE(m_Recording->GetLabelCollection()->GetLabel(0)->GetInstanceCount(), 0);
+}
+
+void TestSegmentEditor::deletesRow()
+{
+    addLabels();
+    selectRow(10);
+    m_Editor->Delete(m_Recording.get());
+    QCOMPARE(segments(), QStringLiteral("(0,20) L(20,40) (40,60) R(60,80) (80,100)"));
+    selectRow(70);
+    m_Editor->Delete(m_Recording.get());
+    QCOMPARE(segments(), QStringLiteral("(0,20) L(20,40) (40,100)"));
+    selectRow(30);
+    m_Editor->Delete(m_Recording.get());
+    QCOMPARE(segments(), QStringLiteral("(0,20) (20,40) (40,100)"));
+    QCOMPARE(m_Recording->GetLabelCollection()->GetLabel(0)->GetInstanceCount(), 0);
+}
+
+void TestSegmentEditor::moveTo(int behavior)
+{
+    ModalScript user;
+    user.On<BehaviorSelectionDialog>([behavior](BehaviorSelectionDialog* dialog) {
+        QCOMPARE(dialog->windowTitle(), QStringLiteral("Select Behavior"));
+        dialog->findChild<QComboBox*>()->setCurrentIndex(behavior);
+        ClickButton(dialog, QStringLiteral("Save"));
+    });
+    m_Editor->Move(m_Recording.get());
+}
+
+void TestSegmentEditor::moves()
+{
+    addLabels();
+    const LabelCollection& labels = *m_Recording->GetLabelCollection();
+    QSignalSpy removed(labels.GetLabel(0), &BehaviorLabel::CutRemoved);
+    const auto counts = [&] {
+        return std::make_pair(labels.GetLabel(0)->GetInstanceCount(),
+                              labels.GetLabel(1)->GetInstanceCount());
+    };
+    selectRow(10);
+    moveTo(0);
+    QCOMPARE(counts(), std::make_pair(2, 0));
+    selectRow(70);
+    moveTo(1);
+    QCOMPARE(counts(), std::make_pair(2, 1));
+    QCOMPARE(removed.count(), 0);
+    selectRow(30);
+    moveTo(1);
+    QCOMPARE(counts(), std::make_pair(1, 2));
+    QCOMPARE(removed.count(), 1);
+    QCOMPARE(segments(), QStringLiteral("L(0,20) L(20,40) (40,60) L(60,80) (80,100)"));
+    int index = 0;
+    QCOMPARE(m_Recording->GetCutCollection()->FindSegment(30, index)->GetColor(),
+             labels.GetLabel(1)->GetColor());
 }
 
 QTEST_MAIN(TestSegmentEditor)
