@@ -10,3 +10,13 @@ void AddImportChapter(Guide& guide, MainWindow& window, const QString& recording
 
 /// Three attributes on the graph; zoom, scroll, selection, cuts; axes and the data table.
 void AddGraphChapter(Guide& guide, MainWindow& window);
+
+/// Two behaviours; labels by the context menu and by drag and drop; a segment resized; labels
+/// merged and restored.
+void AddLabelChapter(Guide& guide, MainWindow& window);
+
+/// Statistics, the project and the four label exports, written to folder.
+void AddExportChapter(Guide& guide, MainWindow& window, const QString& folder);
+
+/// Reads the project back over the same recording, imported anew.
+void AddReimportChapter(Guide& guide, MainWindow& window, const QString& folder);

@@ -3,34 +3,18 @@
 #include "axessettingsdialog.h"
 #include "cuttablelineplotwidget.h"
 #include "datatabledialog.h"
+#include "graphview.h"
 #include "guide.h"
 #include "mainwindow.h"
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QMenu>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QTableWidget>
 #include <QTest>
 
 namespace
 {
-
-CuttableLinePlotWidget* graph(const MainWindow& window)
-{
-    return window.findChild<CuttableLinePlotWidget*>();
-}
-
-QScrollBar* scrollBar(const MainWindow& window)
-{
-    return window.findChild<QScrollArea*>()->horizontalScrollBar();
-}
-
-// A point of the graph as it shows: x from the left edge of what is visible.
-QPoint visiblePoint(const MainWindow& window, int x)
-{
-    return {scrollBar(window)->value() + x, graph(window)->height() / 3};
-}
 
 int inkedPixels(QWidget* widget, const QRect& area)
 {
@@ -60,14 +44,14 @@ void addAttributeSteps(Guide& guide, MainWindow& window)
                         if (plots == 1)
                             guide.Picture(QStringLiteral("05b-attributes-menu"));
                     });
-                guide.Expect(graph(window)->GetPlotCount() == plots,
+                guide.Expect(Graph(window)->GetPlotCount() == plots,
                              QStringLiteral("the graph does not show ") + attribute);
             });
     }
     guide.Step(QStringLiteral("See the whole recording"), [&] {
         guide.Picture(QStringLiteral("06-attributes"));
         constexpr int leastInk = 2000;
-        guide.Expect(inkedPixels(graph(window), graph(window)->rect()) > leastInk,
+        guide.Expect(inkedPixels(Graph(window), Graph(window)->rect()) > leastInk,
                      QStringLiteral("the graph is empty"));
     });
 }
@@ -75,15 +59,15 @@ void addAttributeSteps(Guide& guide, MainWindow& window)
 void addZoomSteps(Guide& guide, MainWindow& window)
 {
     guide.Step(QStringLiteral("Zoom in"), [&] {
-        const int width = graph(window)->width();
+        const int width = Graph(window)->width();
         for (int i = 0; i < 11; ++i)
             guide.Click(guide.Button(&window, QStringLiteral("Zoom In")));
-        guide.Expect(graph(window)->width() > 10 * width,
+        guide.Expect(Graph(window)->width() > 10 * width,
                      QStringLiteral("the graph does not grow with the zoom"));
         guide.Picture(QStringLiteral("06b-zoomed"));
     });
     guide.Step(QStringLiteral("Scroll with the bar"), [&] {
-        QScrollBar* bar = scrollBar(window);
+        QScrollBar* bar = GraphScrollBar(window);
         guide.ClickAt(bar, QPoint(bar->width() * 3 / 5, bar->height() / 2));
         guide.Expect(bar->value() > 0, QStringLiteral("the graph does not scroll"));
         guide.Picture(QStringLiteral("07-zoomed"));
@@ -93,24 +77,24 @@ void addZoomSteps(Guide& guide, MainWindow& window)
 void addSelectionSteps(Guide& guide, MainWindow& window)
 {
     guide.Step(QStringLiteral("Drag a selection"), [&] {
-        guide.Drag(graph(window), visiblePoint(window, 300), visiblePoint(window, 520));
+        guide.Drag(Graph(window), VisiblePoint(window, 300), VisiblePoint(window, 520));
         int from = 0;
         int to = 0;
-        guide.Expect(graph(window)->GetSelectedRange(from, to) && from < to,
+        guide.Expect(Graph(window)->GetSelectedRange(from, to) && from < to,
                      QStringLiteral("nothing is selected"));
         guide.Picture(QStringLiteral("08-selection"));
     });
     guide.Step(QStringLiteral("Cut it out with the C key"), [&] {
-        const QRect edge(visiblePoint(window, 299).x(), 0, 3, graph(window)->height());
-        QTest::keyClick(graph(window), Qt::Key_C);
+        const QRect edge(VisiblePoint(window, 299).x(), 0, 3, Graph(window)->height());
+        QTest::keyClick(Graph(window), Qt::Key_C);
         int from = 0;
         int to = 0;
-        guide.Expect(!graph(window)->GetSelectedRange(from, to),
+        guide.Expect(!Graph(window)->GetSelectedRange(from, to),
                      QStringLiteral("the cut is not made"));
         // The outline is drawn at an opacity that leaves it gray: compare with a column beside.
         const auto gray = [&](int x) {
             return qGray(
-                graph(window)->grab(QRect(x, edge.height() - 40, 1, 1)).toImage().pixel(0, 0));
+                Graph(window)->grab(QRect(x, edge.height() - 40, 1, 1)).toImage().pixel(0, 0));
         };
         guide.Expect(std::min({gray(edge.left()), gray(edge.left() + 1), gray(edge.left() + 2)}) <
                          gray(edge.left() + 60),
@@ -118,18 +102,18 @@ void addSelectionSteps(Guide& guide, MainWindow& window)
         guide.Picture(QStringLiteral("09-cut"));
     });
     guide.Step(QStringLiteral("Select again for a closer look"), [&] {
-        guide.Drag(graph(window), visiblePoint(window, 350), visiblePoint(window, 450));
-        const QPoint inside = visiblePoint(window, 400);
-        emit graph(window)->customContextMenuRequested(inside);
+        guide.Drag(Graph(window), VisiblePoint(window, 350), VisiblePoint(window, 450));
+        const QPoint inside = VisiblePoint(window, 400);
+        emit Graph(window)->customContextMenuRequested(inside);
     });
     guide.Step(
         QStringLiteral("Zoom on the region"), [] { return Guide::Window<QMenu>() != nullptr; },
         [&] {
             auto* menu = Guide::Window<QMenu>();
-            const int width = graph(window)->width();
+            const int width = Graph(window)->width();
             guide.Picture(QStringLiteral("09b-region-menu"));
             guide.ClickAt(menu, menu->actionGeometry(menu->actions().first()).center());
-            guide.Expect(graph(window)->width() > 2 * width,
+            guide.Expect(Graph(window)->width() > 2 * width,
                          QStringLiteral("the region is not zoomed on"));
             QTest::qWait(100);
             guide.Picture(QStringLiteral("09c-region"));

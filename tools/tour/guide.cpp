@@ -94,6 +94,9 @@ void Guide::poll(int attemptsLeft)
 
 void Guide::Picture(const QString& name)
 {
+    if (m_PicturesTaken.contains(name))
+        return;
+    m_PicturesTaken.insert(name);
     QTest::qWait(100);
     QRect area;
     for (const QWidget* window : topLevels()) {
@@ -179,6 +182,39 @@ void Guide::Drag(QWidget* widget, const QPoint& from, const QPoint& to)
         QTest::qWait(5);
     }
     QTest::mouseRelease(widget, Qt::LeftButton, {}, to);
+}
+
+void Guide::OpenContextMenu(QWidget* widget, const QPoint& position)
+{
+    QTest::mouseMove(widget, position);
+    QTest::mouseClick(widget, Qt::RightButton, {}, position);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, position, widget->mapToGlobal(position));
+    QApplication::sendEvent(widget, &event);
+    QTest::qWait(50);
+    Expect(Window<QMenu>(), QStringLiteral("no context menu comes up"));
+}
+
+void Guide::ChooseFromContextMenu(const QString& title)
+{
+    auto* menu = Window<QMenu>();
+    Expect(menu, QStringLiteral("no menu is open"));
+    QAction* action = entry(menu, title);
+    Expect(action && action->isEnabled(), QStringLiteral("no entry ") + title);
+    ClickAt(menu, menu->actionGeometry(action).center());
+}
+
+void Guide::DragAndDrop(QWidget* source, const QPoint& from, QWidget* target)
+{
+    // The drag has an event loop of its own: what ends it is arranged before it starts.
+    const QPoint drop = target->mapToGlobal(target->rect().center());
+    QWindow* window = source->window()->windowHandle();
+    for (const int delay : {200, 400})
+        QTimer::singleShot(delay, this, [=] { QCursor::setPos(drop - QPoint(delay / 100, 0)); });
+    QTimer::singleShot(600, this, [=] {
+        QTest::mouseRelease(window, Qt::LeftButton, {}, window->mapFromGlobal(drop));
+    });
+    QTest::mouseMove(source, from);
+    QTest::mouseDClick(source, Qt::LeftButton, {}, from);
 }
 
 void Guide::TypeInto(QWidget* field, const QString& text)

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QObject>
 #include <QPoint>
+#include <QSet>
 #include <QString>
 #include <QWidget>
 #include <deque>
@@ -30,7 +31,8 @@ public:
     /// Returns 0 when every step did what it should, else 1.
     int Run();
 
-    /// Saves what the screen shows of the windows now open as folder/name.png.
+    /// Saves what the screen shows of the windows now open as folder/name.png. A name comes true
+    /// once: a chapter taken again leaves its pictures alone.
     void Picture(const QString& name);
     /// Ends the tour with a message when condition is false.
     void Expect(bool condition, const QString& message);
@@ -46,6 +48,12 @@ public:
     void ClickAt(QWidget* widget, const QPoint& position);
     /// Presses the left button at from and drags to to in several moves.
     void Drag(QWidget* widget, const QPoint& from, const QPoint& to);
+    /// Presses the right button and waits for the menu that comes up.
+    void OpenContextMenu(QWidget* widget, const QPoint& position);
+    /// Clicks the entry of that title in the menu that is open.
+    void ChooseFromContextMenu(const QString& title);
+    /// Presses twice on source, holds the button and lets go on target.
+    void DragAndDrop(QWidget* source, const QPoint& from, QWidget* target);
     /// Selects all text of a line edit or spin box and types over it.
     void TypeInto(QWidget* field, const QString& text);
 
@@ -71,6 +79,7 @@ private:
     static QWidgetList topLevels();
 
     QString m_Folder;
+    QSet<QString> m_PicturesTaken;
     std::deque<TourStep> m_Steps;
     QString m_Current;
     // While a step acts: the modal window it found. Steps go on only inside another one.

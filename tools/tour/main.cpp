@@ -16,7 +16,9 @@ int main(int argc, char* argv[])
     // A copy in a place of no consequence: its path shows in the pictures.
     const QString folder = QDir::tempPath() + QStringLiteral("/recordings");
     const QString recording = folder + QStringLiteral("/recording.csv");
-    QDir().mkpath(folder);
+    const QString exports = folder + QStringLiteral("/exports");
+    QDir(exports).removeRecursively();
+    QDir().mkpath(exports);
     QFile::remove(recording);
     QFile::copy(QStringLiteral(TOUR_EXAMPLES "/recording.csv"), recording);
 
@@ -25,5 +27,9 @@ int main(int argc, char* argv[])
     Guide guide(QDir(QString::fromLocal8Bit(argv[1])).absolutePath());
     AddImportChapter(guide, window, recording);
     AddGraphChapter(guide, window);
+    AddLabelChapter(guide, window);
+    AddExportChapter(guide, window, exports);
+    AddImportChapter(guide, window, recording);
+    AddReimportChapter(guide, window, exports);
     return guide.Run();
 }

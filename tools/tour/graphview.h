@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QPoint>
+
+class CuttableLinePlotWidget;
+class MainWindow;
+class QScrollBar;
+
+/// The main window's graph as the tour sees it.
+CuttableLinePlotWidget* Graph(const MainWindow& window);
+QScrollBar* GraphScrollBar(const MainWindow& window);
+
+/// A point of the graph as it shows: x from the left edge of what is visible.
+QPoint VisiblePoint(const MainWindow& window, int x);
