@@ -8,10 +8,10 @@
 #include "segmenttablemodel.h"
 #include "sparklinedelegate.h"
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QPointer>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -76,9 +76,16 @@ void TableResultWidget::connectTable()
     connect(m_Table, &QAbstractItemView::activated, this, [this](const QModelIndex& index) {
         showInTimeSeries(m_Model->GetSegment(index.row()));
     });
-    auto* remove = new QShortcut(QKeySequence::Delete, m_Table);
-    remove->setContext(Qt::WidgetShortcut);
-    connect(remove, &QShortcut::activated, this, &TableResultWidget::SelectionRejected);
+    m_Table->installEventFilter(this);
+}
+
+bool TableResultWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress ||
+        !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Delete))
+        return QWidget::eventFilter(watched, event);
+    emit SelectionRejected();
+    return true;
 }
 
 QWidget* TableResultWidget::makeButtons(CutSegment* segment)

@@ -61,6 +61,9 @@ signals:
     void ShowSelected(int from, int to);
     void NewResultsFound();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     struct MenuEntry;
     static const std::vector<MenuEntry>& menuEntries();
