@@ -3,5 +3,5 @@
 #include <QColor>
 
 /// The colour of the index-th group of labels; after sixteen they start again. The last two are
-/// invalid and paint nothing of their own.
+/// invalid colours, which painters take as black.
 QColor GroupColor(int index);

@@ -321,20 +321,21 @@ private:
         if ((found ? index : -1) != m_Plain.FindRow(row) ||
             m_Cuts.IndexOf(found) != (found ? index : -1))
             return QStringLiteral("row %1: ").arg(row) + ToText(m_Cuts);
-        QList<CutSegment*> inside;
-        QList<int> touching;
-        QList<int> foundTouching;
+        const QList<CutSegment*> inside = m_Cuts.GetSegments(row, to);
+        int foundInside = 0;
+        int touching = -1;
+        bool isRight = true;
         for (int i = 0; i < int(m_Plain.size()); ++i) {
-            if (m_Plain.At(i).m_From >= row && m_Plain.At(i).m_To <= to)
-                inside.append(m_Cuts.GetSegment(i));
-            if (m_Plain.At(i).m_From <= to && m_Plain.At(i).m_To >= row)
-                touching.append(i);
+            const Segment& p = m_Plain.At(i);
+            if (p.m_From >= row && p.m_To <= to)
+                isRight &= inside.value(foundInside++) == m_Cuts.GetSegment(i);
+            if (p.m_From <= to && p.m_To >= row)
+                isRight &= (touching = m_Cuts.FindNextTouching(row, to, touching + 1)) == i;
         }
-        for (int i = -1; (i = m_Cuts.FindNextTouching(row, to, i + 1)) != -1;)
-            foundTouching.append(i);
-        return m_Cuts.GetSegments(row, to) == inside && foundTouching == touching
-                   ? QString()
-                   : QStringLiteral("rows %1 to %2: ").arg(row).arg(to) + ToText(m_Cuts);
+        isRight &= foundInside == inside.size();
+        isRight &= m_Cuts.FindNextTouching(row, to, touching + 1) == -1;
+        return isRight ? QString()
+                       : QStringLiteral("rows %1 to %2: ").arg(row).arg(to) + ToText(m_Cuts);
     }
 
     std::mt19937 m_Random;
