@@ -3,18 +3,19 @@
 #include "dataset.h"
 #include <QComboBox>
 #include <QInputDialog>
+#include <QPointer>
 
 int AskAttribute(QWidget* parent, const DataSet& data)
 {
-    QStringList names;
-    for (int i = 0; i < data.GetAttributeCount(); ++i)
-        names.append(data.GetAttributeName(i));
-    QInputDialog dialog(parent);
-    dialog.setWindowTitle(QInputDialog::tr("Attribute to export"));
-    dialog.setLabelText(QInputDialog::tr("Attribute: "));
-    dialog.setComboBoxItems(names);
+    // On the heap: the parent may take the dialog with it.
+    const QPointer<QInputDialog> dialog(new QInputDialog(parent));
+    dialog->setWindowTitle(QInputDialog::tr("Attribute to export"));
+    dialog->setLabelText(QInputDialog::tr("Attribute: "));
+    dialog->setComboBoxItems(data.GetAttributeNames());
+    const bool isAccepted = dialog->exec() == QDialog::Accepted;
     // By its place in the box: two attributes may have one name.
-    return dialog.exec() == QDialog::Accepted && dialog.findChild<QComboBox*>()
-               ? dialog.findChild<QComboBox*>()->currentIndex()
-               : -1;
+    const auto* box = dialog ? dialog->findChild<QComboBox*>() : nullptr;
+    const int attribute = isAccepted && box ? box->currentIndex() : -1;
+    delete dialog;
+    return attribute;
 }

@@ -1,11 +1,11 @@
 #include "behaviorclassstatisticswidget.h"
 
+#include "askpath.h"
 #include "dataset.h"
 #include "instancecolumnswriter.h"
 #include "rangestatistics.h"
 #include "statisticsform.h"
 #include "usererror.h"
-#include <QFileDialog>
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -70,8 +70,7 @@ void BehaviorClassStatisticsWidget::exportSideBySide()
 {
     if (!isComplete())
         return;
-    const QString path =
-        QFileDialog::getSaveFileName(this, tr("Export Labels"), QString(), tr("CSV (*.csv)"));
+    const QString path = AskSavePath(this, tr("Export Labels"), tr("CSV (*.csv)"));
     // The behaviour may have gone while the user was choosing.
     if (path.isEmpty() || !m_Behavior)
         return;

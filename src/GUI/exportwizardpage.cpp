@@ -1,10 +1,10 @@
 #include "exportwizardpage.h"
 
+#include "askpath.h"
 #include "dataexport.h"
 #include "dataset.h"
 #include "filewriter.h"
 #include "previewtable.h"
-#include <QFileDialog>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -85,8 +85,7 @@ void ExportWizardPage::showPreview()
 
 void ExportWizardPage::locateFile()
 {
-    const QString path =
-        QFileDialog::getSaveFileName(this, tr("Export"), m_FileName->text(), tr("CSV (*.csv)"));
+    const QString path = AskSavePath(this, tr("Export"), tr("CSV (*.csv)"), m_FileName->text());
     if (!path.isEmpty())
         m_FileName->setText(path);
 }

@@ -1,6 +1,8 @@
 #include "labeleddatatabwidget.h"
 
 #include "addgroupdialog.h"
+#include "askattribute.h"
+#include "askpath.h"
 #include "behaviorclassstatisticswidget.h"
 #include "classwidget.h"
 #include "cutsegment.h"
@@ -10,15 +12,13 @@
 #include "labelwriter.h"
 #include "panelbutton.h"
 #include "usererror.h"
-#include <QComboBox>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QIcon>
-#include <QInputDialog>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QPointer>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTabWidget>
 #include <algorithm>
 
@@ -38,23 +38,6 @@ QString tabText(QString name)
     return name.replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
-// The index of the attribute that the user picks, -1 without one. Names need not be unique.
-int askForAttribute(const DataSet& data, QWidget* parent)
-{
-    QStringList names;
-    for (int i = 0; i < data.GetAttributeCount(); ++i)
-        names.append(data.GetAttributeName(i));
-    const QPointer<QInputDialog> dialog(new QInputDialog(parent));
-    dialog->setWindowTitle(QDialog::tr("Attribute to export"));
-    dialog->setLabelText(QDialog::tr("Attribute: "));
-    dialog->setComboBoxItems(names);
-    const bool isAccepted = dialog->exec() == QDialog::Accepted;
-    const auto* choice = dialog ? dialog->findChild<QComboBox*>() : nullptr;
-    const int attribute = isAccepted && choice ? choice->currentIndex() : -1;
-    delete dialog;
-    return attribute;
-}
-
 } // namespace
 
 LabeledDataTabWidget::LabeledDataTabWidget(QWidget* parent)
@@ -62,6 +45,8 @@ LabeledDataTabWidget::LabeledDataTabWidget(QWidget* parent)
 {
     m_Tabs->setElideMode(Qt::ElideNone);
     m_Tabs->setUsesScrollButtons(true);
+    // A segment that is dragged over a tab brings it to the front, to be dropped there.
+    m_Tabs->tabBar()->setChangeCurrentOnDrag(true);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(makeButtons());
     layout->addWidget(m_Tabs, 1);
@@ -252,7 +237,7 @@ void LabeledDataTabWidget::statsGroup()
     const QPointer<ClassWidget> shown(currentClass());
     if (!shown || !m_DataSet)
         return;
-    const int attribute = askForAttribute(*m_DataSet, this);
+    const int attribute = AskAttribute(this, *m_DataSet);
     if (attribute == -1 || !shown || !shown->GetLabel())
         return;
     const QPointer<BehaviorClassStatisticsWidget> statistics(
@@ -268,8 +253,7 @@ void LabeledDataTabWidget::exportGroup()
     const QPointer<ClassWidget> exported(currentClass());
     if (!exported || !m_DataSet)
         return;
-    const QString path =
-        QFileDialog::getSaveFileName(this, tr("Export Labels"), QString(), tr("Text (*.txt)"));
+    const QString path = AskSavePath(this, tr("Export Labels"), tr("Text (*.txt)"));
     if (path.isEmpty() || !exported || !exported->GetLabel())
         return;
     LabelWriter writer(path);

@@ -1,12 +1,12 @@
 #include "nodestatswidget.h"
 
+#include "askpath.h"
 #include "dataset.h"
 #include "filewriter.h"
 #include "rangestatistics.h"
 #include "statisticsform.h"
 #include "usererror.h"
 #include <QComboBox>
-#include <QFileDialog>
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -65,8 +65,7 @@ void NodeStatsWidget::computeStats(int attribute)
 
 void NodeStatsWidget::exportData()
 {
-    const QString path =
-        QFileDialog::getSaveFileName(this, tr("Save Data"), QString(), tr("csv (*.csv)"));
+    const QString path = AskSavePath(this, tr("Save Data"), tr("csv (*.csv)"));
     if (path.isEmpty())
         return;
     FileWriter writer(path);

@@ -100,9 +100,9 @@ QWidget* TableResultWidget::makeButtons(CutSegment* segment)
     connect(accept, &CutSegmentPushButton::triggered, this, &TableResultWidget::acceptItem);
     connect(reject, &CutSegmentPushButton::triggered, this, &TableResultWidget::rejectItem);
 
-    auto* layout = new QVBoxLayout(cell);
+    auto* layout = new QHBoxLayout(cell);
     layout->setContentsMargins(2, 2, 2, 2);
-    layout->setSpacing(1);
+    layout->setSpacing(2);
     for (QPushButton* button : {accept, reject}) {
         // The keyboard stays with the table, which has keys of its own for the selected rows.
         button->setFocusPolicy(Qt::NoFocus);
