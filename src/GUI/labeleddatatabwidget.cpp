@@ -63,6 +63,7 @@ LabeledDataTabWidget::LabeledDataTabWidget(QWidget* parent)
     m_Tabs->setElideMode(Qt::ElideNone);
     m_Tabs->setUsesScrollButtons(true);
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(4, 4, 4, 4);
     layout->addLayout(makeButtons());
     layout->addWidget(m_Tabs, 1);
     connect(m_Tabs, &QTabWidget::currentChanged, this, &LabeledDataTabWidget::enableButtons);
