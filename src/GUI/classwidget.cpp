@@ -50,6 +50,7 @@ ClassWidget::ClassWidget(QWidget* parent)
     inside->addWidget(m_Views, 1);
     inside->addLayout(makeButtons());
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(4, 4, 4, 4);
     layout->addWidget(group);
     setAcceptDrops(true);
     connectViews();

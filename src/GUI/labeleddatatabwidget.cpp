@@ -48,6 +48,7 @@ LabeledDataTabWidget::LabeledDataTabWidget(QWidget* parent)
     // A segment that is dragged over a tab brings it to the front, to be dropped there.
     m_Tabs->tabBar()->setChangeCurrentOnDrag(true);
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(4, 4, 4, 4);
     layout->addLayout(makeButtons());
     layout->addWidget(m_Tabs, 1);
     connect(m_Tabs, &QTabWidget::currentChanged, this, &LabeledDataTabWidget::enableButtons);

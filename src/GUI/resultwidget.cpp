@@ -31,6 +31,7 @@ ResultWidget::ResultWidget(QWidget* parent)
     inside->addWidget(m_Views, 1);
     inside->addLayout(makeButtons());
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(4, 4, 4, 4);
     layout->addWidget(group, 1);
     connectViews();
 }

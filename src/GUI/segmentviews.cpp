@@ -12,12 +12,9 @@
 namespace
 {
 
-// A box that does not ask for the width of its longest entry, which can be any name.
-QComboBox* makeChooser(int characters, const QString& toolTip)
+QComboBox* makeChooser(const QString& toolTip)
 {
     auto* chooser = new QComboBox;
-    chooser->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    chooser->setMinimumContentsLength(characters);
     chooser->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     chooser->setToolTip(toolTip);
     return chooser;
@@ -33,10 +30,14 @@ QLabel* makeLabel(const QString& text, QWidget* buddy)
 } // namespace
 
 SegmentViews::SegmentViews(QWidget* parent)
-    : QWidget(parent), m_Attribute(makeChooser(6, tr("The attribute that the lines show"))),
-      m_Layout(makeChooser(13, tr("How the segments are shown"))), m_Stack(new QStackedWidget),
+    : QWidget(parent), m_Attribute(makeChooser(tr("The attribute that the lines show"))),
+      m_Layout(makeChooser(tr("How the segments are shown"))), m_Stack(new QStackedWidget),
       m_Table(new TableResultWidget), m_Overlay(new MultipleLinePlotWidget)
 {
+    // Not the width of the longest entry, which can be any name.
+    m_Attribute->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_Attribute->setMinimumContentsLength(4);
+    m_Layout->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(makeChoosers());

