@@ -148,6 +148,8 @@ void MainWindow::connectLabelPane()
     connect(m_ResultWidget, &ResultWidget::ShowSelected, this, &MainWindow::showRange);
     connect(m_LabeledDataTabWidget, &LabeledDataTabWidget::ShowSelected, this,
             &MainWindow::showRange);
+    connect(m_ResultWidget, &ResultWidget::SegmentsMoved, m_LabeledDataTabWidget,
+            &LabeledDataTabWidget::Refresh);
     connect(m_LabeledDataTabWidget, &LabeledDataTabWidget::NewResultsFound, m_ResultWidget,
             &ResultWidget::ClearAndUpdateSegments);
 }

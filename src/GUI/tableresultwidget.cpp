@@ -17,7 +17,8 @@
 #include <algorithm>
 
 TableResultWidget::TableResultWidget(QWidget* parent)
-    : QWidget(parent), m_Model(new SegmentTableModel(this)), m_Table(new QTableView)
+    : QWidget(parent), m_Model(new SegmentTableModel(this)), m_Table(new QTableView),
+      m_ContextMenu(new QMenu(this))
 {
     m_Table->setModel(m_Model);
     m_Table->setItemDelegateForColumn(SegmentTableModel::COLUMN_SPARKLINE,
@@ -232,16 +233,15 @@ void TableResultWidget::provideContextMenu(QPoint point)
     if (!index.isValid())
         return;
     CutSegment* segment = m_Model->GetSegment(index.row());
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
+    m_ContextMenu->clear();
     for (const MenuEntry& entry : menuEntries()) {
         const auto run = entry.m_Run;
-        menu->addAction(tr(entry.m_Text), this, [=] {
+        m_ContextMenu->addAction(tr(entry.m_Text), this, [=] {
             if (Contains(segment))
                 (this->*run)(segment);
         });
     }
-    menu->popup(m_Table->viewport()->mapToGlobal(point));
+    m_ContextMenu->popup(m_Table->viewport()->mapToGlobal(point));
 }
 
 void TableResultWidget::showInTimeSeries(CutSegment* segment)

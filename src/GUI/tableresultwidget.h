@@ -77,6 +77,8 @@ private:
 
     SegmentTableModel* m_Model;
     QTableView* m_Table;
+    // Outlives its closing: an entry may open a dialog, which the menu has to survive.
+    QMenu* m_ContextMenu;
     CutCollection* m_CutCollection = nullptr;
     // The rows that have buttons; invalid ones have lost them with their row.
     QList<QPersistentModelIndex> m_ButtonRows;

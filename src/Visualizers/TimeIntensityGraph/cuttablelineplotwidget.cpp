@@ -18,7 +18,8 @@
 #include <algorithm>
 #include <cmath>
 
-CuttableLinePlotWidget::CuttableLinePlotWidget(QWidget* parent) : PlotAreaWidget(parent)
+CuttableLinePlotWidget::CuttableLinePlotWidget(QWidget* parent)
+    : PlotAreaWidget(parent), m_ContextMenu(new QMenu(this))
 {
     SetPlotType(1);
     SetViewportOnly(true);
@@ -36,7 +37,7 @@ void CuttableLinePlotWidget::SetDataSet(DataSet* dataSet)
     m_SelectedIndex = -1;
     m_Selection.Clear();
     // Its entries are about a segment of the old recording.
-    delete m_ContextMenu;
+    m_ContextMenu->close();
     PlotAreaWidget::SetDataSet(dataSet);
 }
 
@@ -258,20 +259,15 @@ void CuttableLinePlotWidget::showContextMenu(QPoint point)
     const CutSegment* segment = segmentAt(point.x(), index);
     if (!segment)
         return;
-    delete m_ContextMenu;
-    auto* menu = new QMenu(this);
-    m_ContextMenu = menu;
-    menu->setAttribute(Qt::WA_DeleteOnClose);
+    m_ContextMenu->clear();
     for (const MenuEntry& entry : menuEntries()) {
         if (!(this->*entry.m_IsVisible)(*segment))
             continue;
         const auto run = entry.m_Run;
-        menu->addAction(tr(entry.m_Text), this, [=] { (this->*run)(*segment); });
+        m_ContextMenu->addAction(tr(entry.m_Text), this, [=] { (this->*run)(*segment); });
     }
-    if (menu->isEmpty())
-        delete menu;
-    else
-        menu->popup(mapToGlobal(point));
+    if (!m_ContextMenu->isEmpty())
+        m_ContextMenu->popup(mapToGlobal(point));
 }
 
 bool CuttableLinePlotWidget::canZoom(const CutSegment&) const

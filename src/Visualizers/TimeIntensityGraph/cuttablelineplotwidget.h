@@ -2,7 +2,6 @@
 
 #include "plotareawidget.h"
 #include "selectionrange.h"
-#include <QPointer>
 
 class CutSegment;
 class LabelCollection;
@@ -91,7 +90,8 @@ private:
     int m_MouseX = 0;
     SelectionRange m_Selection;
     int m_DragX = -1;
-    QPointer<QMenu> m_ContextMenu;
+    // Outlives its closing: an entry may open a dialog, which the menu has to survive.
+    QMenu* m_ContextMenu;
     bool m_ShowLabeled = true;
     bool m_Overlay = true;
 };
