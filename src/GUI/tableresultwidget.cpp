@@ -41,6 +41,7 @@ TableResultWidget::TableResultWidget(QWidget* parent)
 void TableResultWidget::layOutColumns()
 {
     constexpr int narrowestLine = 100;
+    constexpr int lowestLine = 40;
     const std::unique_ptr<QWidget> buttons(makeButtons(nullptr));
     QHeaderView* columns = m_Table->horizontalHeader();
     const int buttonsWidth = std::max(buttons->sizeHint().width(),
@@ -53,7 +54,7 @@ void TableResultWidget::layOutColumns()
 
     QHeaderView* rows = m_Table->verticalHeader();
     rows->setSectionResizeMode(QHeaderView::Fixed);
-    rows->setDefaultSectionSize(buttons->sizeHint().height());
+    rows->setDefaultSectionSize(std::max(buttons->sizeHint().height(), lowestLine));
     rows->hide();
     m_Table->verticalScrollBar()->setSingleStep(rows->defaultSectionSize() / 2);
     m_Table->setMinimumWidth(buttonsWidth + narrowestLine);

@@ -69,8 +69,8 @@ void addExportSteps(Guide& guide, MainWindow& window, const QString& folder)
     };
     static constexpr Export exports[] = {
         {"Write Label Collection (Summary)", "summary.csv", "summary.csv"},
-        {"Write Label Collection (Data - Seperate Files)", "", "forage/cut0.txt"},
-        {"Write Label Collection (Data - Combined)", "", "forage.txt"},
+        {"Write Label Collection (Data - Seperate Files)", "", "glide/cut0.txt"},
+        {"Write Label Collection (Data - Combined)", "", "glide.txt"},
         {"Write Data Aligned With Behaviors", "aligned.csv", "aligned.csv"},
     };
     for (const Export& each : exports) {
@@ -121,7 +121,7 @@ void AddReimportChapter(Guide& guide, MainWindow& window, const QString& folder)
     addPathStep(guide, folder + QStringLiteral("/labels.thm"), QStringLiteral("Open"));
     guide.Step(QStringLiteral("See the labels again"), isNothingOpen, [&] {
         auto* tabs = window.findChild<LabeledDataTabWidget*>()->findChild<QTabWidget*>();
-        guide.Expect(tabs->count() == 2 && tabs->tabText(1) == QStringLiteral("forage"),
+        guide.Expect(tabs->count() == 2 && tabs->tabText(1) == QStringLiteral("glide"),
                      QStringLiteral("the behaviours do not come back"));
         guide.Picture(QStringLiteral("24-imported"));
     });

@@ -85,7 +85,7 @@ void addLabelSteps(Guide& guide, MainWindow& window)
     guide.Step(QStringLiteral("Choose its behaviour"), isOpen<BehaviorSelectionDialog>, [&] {
         auto* dialog = Guide::Window<BehaviorSelectionDialog>();
         guide.Choose(guide.Field<QComboBox>(dialog, QStringLiteral("Behavior")),
-                     QStringLiteral("descend"));
+                     QStringLiteral("fly"));
         guide.Click(guide.Button(dialog, QStringLiteral("Save")));
     });
     guide.Step(
@@ -94,7 +94,7 @@ void addLabelSteps(Guide& guide, MainWindow& window)
             guide.Picture(QStringLiteral("17-labelled"));
             expectLabels(guide, window, 0, 1);
         });
-    for (const int x : {550, 850}) {
+    for (const int x : {700, 850}) {
         guide.Step(QStringLiteral("Drag a segment onto a tab"), [&guide, &window, x] {
             guide.DragAndDrop(Graph(window), VisiblePoint(window, x),
                               tabs(window)->currentWidget());
@@ -157,10 +157,10 @@ void addMergeSteps(Guide& guide, MainWindow& window)
 
 void AddLabelChapter(Guide& guide, MainWindow& window)
 {
-    addGroupSteps(guide, window, QStringLiteral("descend"), QStringLiteral("13-add-group"));
-    addGroupSteps(guide, window, QStringLiteral("forage"), QStringLiteral("13-add-group"));
+    addGroupSteps(guide, window, QStringLiteral("fly"), QStringLiteral("13-add-group"));
+    addGroupSteps(guide, window, QStringLiteral("glide"), QStringLiteral("13-add-group"));
     addCutStep(guide, window, 200, 350);
-    addCutStep(guide, window, 480, 620);
+    addCutStep(guide, window, 640, 760);
     addCutStep(guide, window, 800, 950);
     addLabelSteps(guide, window);
     addResizeSteps(guide, window);
