@@ -12,7 +12,7 @@ QString AskSavePath(QWidget* parent, const QString& title, const QString& filter
     dialog->selectFile(proposal);
     dialog->setDefaultSuffix(filter.section(QLatin1Char('.'), -1).remove(QLatin1Char(')')));
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
-    const QString path = isAccepted && dialog ? dialog->selectedFiles().value(0) : QString();
+    QString path = isAccepted && dialog ? dialog->selectedFiles().value(0) : QString();
     delete dialog;
     return path;
 }

@@ -7,6 +7,7 @@
 class CutCollection;
 class CutSegment;
 class DataSet;
+class QMenu;
 class QTableView;
 class SegmentTableModel;
 
