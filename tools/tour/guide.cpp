@@ -143,7 +143,10 @@ void Guide::ChooseFromMenu(QWidget* window, const QStringList& titles,
 
 void Guide::Click(QAbstractButton* button)
 {
-    Expect(button && button->isEnabled() && button->isVisible(),
+    // A file dialog enables its button only when it has found the file.
+    constexpr int patience = 5000;
+    Expect(button && QTest::qWaitFor(
+                         [button] { return button->isEnabled() && button->isVisible(); }, patience),
            QStringLiteral("a button cannot be clicked"));
     ClickAt(button, QPoint(10, button->height() / 2));
 }
