@@ -6,13 +6,22 @@ WindowSums::WindowSums(Column values, int length)
     : m_Length(length), m_FromBlockStart(std::move(values)), m_ToBlockEnd(m_FromBlockStart)
 {
     const size_t size = m_FromBlockStart.size();
-    const auto blockLength = size_t(length);
-    for (size_t start = 0; start < size; start += blockLength) {
-        const size_t end = start + std::min(blockLength, size - start);
-        for (size_t i = start + 1; i < end; ++i)
-            m_FromBlockStart[i] += m_FromBlockStart[i - 1];
-        for (size_t i = end - 1; i > start; --i)
-            m_ToBlockEnd[i - 1] += m_ToBlockEnd[i];
+    for (size_t start = 0; start < size; start += size_t(length))
+        addUpBlock(start, start + std::min(size_t(length), size - start));
+}
+
+void WindowSums::addUpBlock(size_t start, size_t end)
+{
+    // Both ways in one loop: neither has to wait for the other's additions.
+    double* forward = m_FromBlockStart.data();
+    double* backward = m_ToBlockEnd.data();
+    double fromStart = forward[start];
+    double toEnd = backward[end - 1];
+    for (size_t up = start + 1, down = end - 1; up < end; ++up, --down) {
+        fromStart += forward[up];
+        forward[up] = fromStart;
+        toEnd += backward[down - 1];
+        backward[down - 1] = toEnd;
     }
 }
 

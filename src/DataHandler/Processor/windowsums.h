@@ -20,6 +20,8 @@ public:
     double Sum(int from, int to) const;
 
 private:
+    void addUpBlock(size_t start, size_t end);
+
     int m_Length;
     Column m_FromBlockStart;
     Column m_ToBlockEnd;
