@@ -1,5 +1,3 @@
-#include "basicfunctiondialog.h"
-#include "constantvaluedialog.h"
 #include "dataprocessor.h"
 #include "energydialog.h"
 #include "fieldlookup.h"
@@ -13,13 +11,56 @@
 #include <QLineEdit>
 #include <QSlider>
 #include <QtTest>
-#include <cmath>
-
-using Operation = bool (DataProcessor::*)();
-Q_DECLARE_METATYPE(Operation)
 
 namespace
 {
+
+// What an operation's dialog shows, what is entered and what that adds; what Cancel adds and says.
+struct OperationCase {
+    const char* m_Name;
+    bool (DataProcessor::*m_Run)();
+    const char* m_Title;
+    const char* m_Start;
+    const char* m_Fields;
+    const char* m_Result;
+    const char* m_Cancelled;
+    bool m_CancelSays;
+};
+
+const OperationCase CASES[] = {
+    {"moving average", &DataProcessor::movingAverage, "Moving Average", "Acc X|32|",
+     "Data Attribute=Acc Y|Window Size=2|Attribute Name=mean", "3 mean=7", "", false},
+    {"basic function", &DataProcessor::basicFunction, "Basic Function", "Acc X|Subtract|Acc X|",
+     "The first attribute=Acc Y|What is done with the two attributes=Division|"
+     "The second attribute=Acc X|Attribute Name=Acc X",
+     "3 Acc X=1.333", "", false},
+    {"derivative", &DataProcessor::derivative, "Derivative", "Acc X|",
+     "Data Attribute=Acc Y|Attribute Name=", "3 =-6", "", false},
+    {"normalize", &DataProcessor::normalize, "Derivative", "Acc X|",
+     "Data Attribute=Acc X|Attribute Name=z", "3 z=1.528", "", false},
+    {"normalize vector", &DataProcessor::normalizeVector, "Normalize Vector", "Acc X|Acc X|Acc X",
+     "Y Att=Acc Y|Z Att=Acc Z", "3 Acc X_norm=0.6|4 Acc Y_norm=0.8|5 Acc Z_norm=0", "", false},
+    {"energy", &DataProcessor::energy, "Energy", "Acc X|0|",
+     "Data Attribute=Acc Y|Window Size=2|Attribute Name=e", "3 e=80", "", false},
+    {"threshold", &DataProcessor::threshold, "Threshold", "Acc X|1.00|",
+     "Threshold Value=6|Attribute Name=t", "3 t=1", "", false},
+    {"pitch and roll", &DataProcessor::pitchRoll, "Pitch and Roll", "Acc X|Acc X|Acc X|80.00",
+     "Y Acc:=Acc Y|Z Acc:=Acc Z", "3 Pitch=53.13|4 Roll=36.87", "", true},
+    {"rotate", &DataProcessor::rotate, "Rotate Vector", "Acc X|Acc X|Acc X|Acc X|Acc X",
+     "Y Att=Acc Y|Z Att=Acc Z|Pitch=Acc Z|Roll=Acc Z",
+     "3 Acc X_Rotated=6|4 Acc Y_Rotated=8|5 Acc Z_Rotated=0", "", true},
+    {"VeDBA", &DataProcessor::vedba, "VeDBA", "Acc X|Acc X|Acc X|",
+     "Dynamic Y Acc: =Acc Y|Dynamic Z Acc: =Acc Z|Attribute Name=v", "3 v=10", "3 =10.39", true},
+    {"static and dynamic", &DataProcessor::staticDynAcc, "Static & Dynamic Acceleration",
+     "Acc X|Acc X|Acc X|32", "Y Acc: =Acc Y|Window Size=2|Z Acc: =Acc Z",
+     "3 Static X Acc=4.5|4 Static Y Acc=7|5 Static Z Acc=0.5|"
+     "6 Dynamic X Acc=1.5|7 Dynamic Y Acc=1|8 Dynamic Z Acc=-0.5",
+     "3 Static X Acc=6|4 Static Y Acc=6|5 Static Z Acc=6|"
+     "6 Dynamic X Acc=0|7 Dynamic Y Acc=0|8 Dynamic Z Acc=0",
+     true},
+    {"constant value", &DataProcessor::constantValue, "Constant Value", "|0.00",
+     "Attribute Name=c|Value=360", "3 c=360", "3 =0", true},
+};
 
 QStringList words(const char* text)
 {
@@ -98,96 +139,39 @@ private slots:
     void operations();
     void menu();
     void refusesWithoutDataOrAttributes();
-    void staticAfterDerivative();
     void energySlider();
-    void startValues();
+    void normalizeDialog();
     void pitchRollPreselects();
 };
 
 void TestDataProcessor::operations_data()
 {
-    QTest::addColumn<Operation>("operation");
-    QTest::addColumn<QString>("heading");
-    QTest::addColumn<QString>("start");
-    QTest::addColumn<QString>("fields");
-    QTest::addColumn<QString>("result");
-    // What Cancel adds and says.
-    QTest::addColumn<QString>("cancelled");
-    QTest::addColumn<bool>("cancelSays");
-
-    const auto row = [](const char* name, Operation operation, const char* heading,
-                        const char* start, const char* fields, const char* result,
-                        const char* cancelled, bool cancelSays) {
-        QTest::newRow(name) << operation << QString::fromLatin1(heading)
-                            << QString::fromLatin1(start) << QString::fromLatin1(fields)
-                            << QString::fromLatin1(result) << QString::fromLatin1(cancelled)
-                            << cancelSays;
-    };
-    row("moving average", &DataProcessor::movingAverage, "Moving Average", "Acc X|32|",
-        "Data Attribute=Acc Y|Window Size=2|Attribute Name=mean", "3 mean=7", "", false);
-    row("basic function", &DataProcessor::basicFunction, "Basic Function", "Acc X|Subtract|Acc X|",
-        "The first attribute=Acc Y|What is done with the two attributes=Division|"
-        "The second attribute=Acc X|Attribute Name=Acc X",
-        "3 Acc X=1.333", "", false);
-    row("derivative", &DataProcessor::derivative, "Derivative", "Acc X|",
-        "Data Attribute=Acc Y|Attribute Name=", "3 =-6", "", false);
-    row("normalize", &DataProcessor::normalize, "Derivative", "Acc X|",
-        "Data Attribute=Acc X|Attribute Name=z", "3 z=1.528", "", false);
-    row("normalize vector", &DataProcessor::normalizeVector, "Normalize Vector",
-        "Acc X|Acc X|Acc X", "Y Att=Acc Y|Z Att=Acc Z",
-        "3 Acc X_norm=0.6|4 Acc Y_norm=0.8|5 Acc Z_norm=0", "", false);
-    row("energy", &DataProcessor::energy, "Energy", "Acc X|0|",
-        "Data Attribute=Acc Y|Window Size=2|Attribute Name=e", "3 e=80", "", false);
-    row("threshold", &DataProcessor::threshold, "Threshold", "Acc X|1.00|",
-        "Threshold Value=6|Attribute Name=t", "3 t=1", "", false);
-    row("pitch and roll", &DataProcessor::pitchRoll, "Pitch and Roll", "Acc X|Acc X|Acc X|80.00",
-        "Y Acc:=Acc Y|Z Acc:=Acc Z", "3 Pitch=53.13|4 Roll=36.87", "", true);
-    row("rotate", &DataProcessor::rotate, "Rotate Vector", "Acc X|Acc X|Acc X|Acc X|Acc X",
-        "Y Att=Acc Y|Z Att=Acc Z|Pitch=Acc Z|Roll=Acc Z",
-        "3 Acc X_Rotated=6|4 Acc Y_Rotated=8|5 Acc Z_Rotated=0", "", true);
-    row("VeDBA", &DataProcessor::vedba, "VeDBA", "Acc X|Acc X|Acc X|",
-        "Dynamic Y Acc: =Acc Y|Dynamic Z Acc: =Acc Z|Attribute Name=v", "3 v=10", "3 =10.39", true);
-    row("static and dynamic", &DataProcessor::staticDynAcc, "Static & Dynamic Acceleration",
-        "Acc X|Acc X|Acc X|32", "Y Acc: =Acc Y|Window Size=2|Z Acc: =Acc Z",
-        "3 Static X Acc=4.5|4 Static Y Acc=7|5 Static Z Acc=0.5|"
-        "6 Dynamic X Acc=1.5|7 Dynamic Y Acc=1|8 Dynamic Z Acc=-0.5",
-        "3 Static X Acc=6|4 Static Y Acc=6|5 Static Z Acc=6|"
-        "6 Dynamic X Acc=0|7 Dynamic Y Acc=0|8 Dynamic Z Acc=0",
-        true);
-    row("constant value", &DataProcessor::constantValue, "Constant Value", "|0.00",
-        "Attribute Name=c|Value=360", "3 c=360", "3 =0", true);
+    QTest::addColumn<int>("index");
+    for (int i = 0; i < int(std::size(CASES)); ++i)
+        QTest::newRow(CASES[i].m_Name) << i;
 }
 
 void TestDataProcessor::operations()
 {
-    QFETCH(Operation, operation);
+    QFETCH(int, index);
+    const OperationCase& test = CASES[index];
     for (const bool isCancelled : {false, true}) {
         const auto data = recording();
         DataProcessor processor;
         processor.setDataSet(data.get());
         ModalScript script;
-        script.Then([=](QDialog* dialog) {
-            QFETCH(QString, heading);
-            QFETCH(QString, fields);
+        script.Then([&](QDialog* dialog) {
             QCOMPARE(dialog->findChild<QLabel*>()->text(),
-                     QStringLiteral("<h2>%1</h2>").arg(heading));
-            QTEST(shown(*dialog), "start");
-            QVERIFY(dialog->isModal());
-            if (isCancelled) {
-                ClickButton(dialog, QStringLiteral("Cancel"));
-                return;
-            }
-            for (const QString& field : fields.split(QLatin1Char('|')))
+                     QStringLiteral("<h2>%1</h2>").arg(QLatin1String(test.m_Title)));
+            QCOMPARE(shown(*dialog), QString::fromLatin1(test.m_Start));
+            for (const QString& field : words(isCancelled ? "" : test.m_Fields))
                 fill(dialog, field.section(QLatin1Char('='), 0, 0),
                      field.section(QLatin1Char('='), 1));
-            QTest::keyClick(dialog, Qt::Key_Return);
+            QTest::keyClick(dialog, isCancelled ? Qt::Key_Escape : Qt::Key_Return);
         });
-        const bool says = (processor.*operation)();
-        QTEST(added(processor, *data), isCancelled ? "cancelled" : "result");
-        if (!isCancelled)
-            QVERIFY(says);
-        else
-            QTEST(says, "cancelSays");
+        QCOMPARE((processor.*test.m_Run)(), !isCancelled || test.m_CancelSays);
+        QCOMPARE(added(processor, *data),
+                 QString::fromLatin1(isCancelled ? test.m_Cancelled : test.m_Result));
         QCOMPARE(data->GetAttributeCount(), 3 + processor.getAddedAttributes().size());
         for (const AddedAttribute& attribute : processor.getAddedAttributes()) {
             QCOMPARE(data->GetAttributeType(attribute.m_Index), 15);
@@ -253,22 +237,6 @@ void TestDataProcessor::refusesWithoutDataOrAttributes()
     QCOMPARE(row->GetValueCount(), 0);
 }
 
-void TestDataProcessor::staticAfterDerivative()
-{
-    // Three rows, of which the derivative has left the first long and the last short.
-    const auto data = MakeDataSet("1\n4\n9\n");
-    DataProcessor processor;
-    processor.setDataSet(data.get());
-    ModalScript script;
-    script.Then([](QDialog* dialog) { dialog->accept(); });
-    QVERIFY(processor.derivative());
-    QCOMPARE(processor.computeDifference(QStringLiteral("D"), 0, 1), 2);
-    QCOMPARE(data->GetRow(0)->GetValue(2), 3.0);
-    QCOMPARE(data->GetRow(0)->GetValue(3), 1.0);
-    QCOMPARE(data->GetRow(1)->GetValue(2), -1.0);
-    QVERIFY(std::isnan(data->GetRow(2)->GetValue(1)) && std::isnan(data->GetRow(2)->GetValue(2)));
-}
-
 void TestDataProcessor::energySlider()
 {
     const auto data = MakeColumn(std::vector<double>(500, 1.0));
@@ -282,15 +250,9 @@ void TestDataProcessor::energySlider()
     QCOMPARE(MovingAverageDialog(*recording()).findChild<QSpinBox*>()->maximum(), 99);
 }
 
-void TestDataProcessor::startValues()
+void TestDataProcessor::normalizeDialog()
 {
     const auto data = recording();
-    QCOMPARE(shown(MovingAverageDialog(*data, {1, 7, QStringLiteral("m")})),
-             QStringLiteral("Acc Y|7|m"));
-    QCOMPARE(shown(BasicFunctionDialog(*data, {2, 3, 1, QStringLiteral("q")})),
-             QStringLiteral("Acc Z|Division|Acc Y|q"));
-    QCOMPARE(shown(ConstantValueDialog(*data, {QStringLiteral("c"), 180.5})),
-             QStringLiteral("c|180.50"));
     const NormalizeDialog normalize(*data, {2, QStringLiteral("n")});
     QCOMPARE(normalize.windowTitle(), QStringLiteral("Normalize"));
     QCOMPARE(normalize.GetParams().m_Attribute, 2);
