@@ -5,6 +5,7 @@
 set(SKERRYMOOR_FOLDERS_core
     CutHandler
     DataHandler
+    DataHandler/Processor
     DataMiningTools/TemplateMatcher/Data
     FileHandler
     LabelHandler)
@@ -16,6 +17,7 @@ set(SKERRYMOOR_FOLDERS_plot
 set(SKERRYMOOR_FOLDERS_ui
     FileHandler/FileImporter
     GUI
+    GUI/DataProcessor
     GroundTruith
     Visualizers/TimeIntensityGraph)
 

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "derivedcolumn.h"
+
+/// What BasicFunction does with two values; the numbers are the places in the dialog.
+enum BasicOperator {
+    OPERATOR_SUBTRACT = 0,
+    OPERATOR_ADD = 1,
+    OPERATOR_MULTIPLY = 2,
+    OPERATOR_DIVIDE = 3
+};
+
+/// first op second in every row, 0 for an operator that there is none of. Division by zero gives
+/// an infinity or not-a-number.
+Column BasicFunction(const DataSet& data, int first, int op, int second);
+
+/// a - b in every row; the dynamic part of an acceleration when b is its static part.
+Column Difference(const DataSet& data, int a, int b);
+
+/// 1 where the value is at the threshold or above, else -1, also for not-a-number.
+Column Threshold(const DataSet& data, int attribute, double threshold);
+
+/// The value in every row but the first, which gets 0: kept.
+Column ConstantValue(int rows, double value);

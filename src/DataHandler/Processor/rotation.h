@@ -1,0 +1,11 @@
+#pragma once
+
+#include "derivedcolumn.h"
+
+/// The three columns X, Y, Z of the vector turned in each row by the row's angles, computed in
+/// single precision: the vector as a row is multiplied by a rotation of minus pitch about the x
+/// axis and that by one of minus roll about the y axis.
+///
+/// vector: any unit, lengths are kept. pitch, roll: attributes in degrees, of any size.
+std::vector<Column> RotateVector(const DataSet& data, const VectorAttributes& vector, int pitch,
+                                 int roll);

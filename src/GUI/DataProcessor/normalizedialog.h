@@ -1,0 +1,12 @@
+#pragma once
+
+#include "singlecolumndialog.h"
+
+/// Asks which attribute to normalise. Never shown, DerivativeDialog asks instead: kept.
+class NormalizeDialog : public SingleColumnDialog
+{
+    Q_OBJECT
+public:
+    explicit NormalizeDialog(const DataSet& dataSet, const SingleColumnParams& start = {},
+                             QWidget* parent = nullptr);
+};
