@@ -4,6 +4,7 @@
 
 set(SKERRYMOOR_FOLDERS_core
     CutHandler
+    CutHandler/PIPHandler
     DataHandler
     DataMiningTools/TemplateMatcher/Data
     FileHandler
@@ -14,6 +15,7 @@ set(SKERRYMOOR_FOLDERS_plot
     Visualizers/TimeIntensityGraph/Plot)
 
 set(SKERRYMOOR_FOLDERS_ui
+    CutHandler/Ui
     FileHandler/FileImporter
     GUI
     Visualizers/TimeIntensityGraph)
