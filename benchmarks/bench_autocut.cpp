@@ -102,4 +102,4 @@ BENCHMARK(importantPoints)
     ->ArgsProduct({{1'000'000}, {WAVES, NOISE, WALK, FLAT}, {0, 1, 2}})
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(sharpTransitions)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
-BENCHMARK(insertPeriodicCuts)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(insertPeriodicCuts)->Arg(100'000)->Unit(benchmark::kMillisecond);

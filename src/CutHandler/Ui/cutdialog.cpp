@@ -77,4 +77,6 @@ void CutDialog::addField(const QString& label, QWidget* field, const QString& to
 {
     field->setToolTip(toolTip);
     m_Form->addRow(label, field);
+    if (!focusWidget())
+        field->setFocus();
 }

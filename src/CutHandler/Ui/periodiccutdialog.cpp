@@ -30,6 +30,7 @@ PeriodicCutDialog::PeriodicCutDialog(const PeriodicCutParameters& start, QWidget
     row->addWidget(slider, 1);
     form()->addRow(label, row);
     addButtons();
+    m_CutSize->setFocus();
     m_CutSize->selectAll();
 }
 

@@ -1,14 +1,16 @@
 #include "cutautomation.h"
 
 #include "fieldlookup.h"
+#include "localvariancedialog.h"
 #include "modalscript.h"
+#include "periodiccutdialog.h"
+#include "pipcutdialog.h"
 #include "segmenttext.h"
 #include "testdata.h"
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QSlider>
 #include <QtTest>
-#include <cmath>
 
 namespace
 {
@@ -31,16 +33,16 @@ void fill(QDialog* dialog, const QString& label, const QString& value)
 }
 
 // The dialog's title and heading, and "label=value" of all fields.
-QStringList describe(const QDialog* dialog)
+QString describe(const QDialog* dialog)
 {
     QStringList texts{dialog->windowTitle()};
     for (const QLabel* label : dialog->findChildren<QLabel*>()) {
         const QWidget* field = label->buddy();
         QString value = label->text();
         if (const auto* box = qobject_cast<const QSpinBox*>(field))
-            value += QStringLiteral("=%1..%2").arg(box->value()).arg(box->maximum());
+            value += QStringLiteral("=%1 to %2").arg(box->text()).arg(box->maximum());
         if (const auto* box = qobject_cast<const QDoubleSpinBox*>(field))
-            value += QStringLiteral("=") + box->text();
+            value += QStringLiteral("=%1 to %2").arg(box->text()).arg(box->maximum());
         if (const auto* box = qobject_cast<const QComboBox*>(field)) {
             QStringList choices;
             for (int i = 0; i < box->count(); ++i)
@@ -49,22 +51,19 @@ QStringList describe(const QDialog* dialog)
         }
         texts.append(value);
     }
-    return texts;
+    return texts.join(QLatin1Char('\n'));
 }
 
-// Answers the dialog of a method with "label=value" texts and returns the cuts.
-QString generate(int method, const DataSet& data, const QStringList& answers,
-                 const char* ends = nullptr)
+// Answers the dialog of a method, a line "label=value" for each field, and returns the cuts.
+QString generate(int method, const DataSet& data, const QString& answers, const QByteArray& ends)
 {
     CutCollection cuts;
-    const QByteArray all = QByteArray::number(data.GetRowCount());
-    MakeCuts(cuts, ends ? ends : all.constData());
+    MakeCuts(cuts, ends.constData());
     ModalScript script;
     script.Then([=](QDialog* dialog) {
-        for (const QString& answer : answers) {
-            const QStringList pair = answer.split(QLatin1Char('='));
-            fill(dialog, pair[0], pair[1]);
-        }
+        for (const QString& answer : answers.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+            fill(dialog, answer.section(QLatin1Char('='), 0, 0),
+                 answer.section(QLatin1Char('='), 1));
         QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
     });
     CutAutomation automation;
@@ -88,8 +87,7 @@ private slots:
     void generates_data();
     void generates();
     void sizeFollowsSlider();
-    void importantPoints();
-    void sharpTransitions();
+    void startValues();
 };
 
 void TestCutAutomation::refusals()
@@ -123,45 +121,33 @@ void TestCutAutomation::names()
 void TestCutAutomation::dialogs_data()
 {
     QTest::addColumn<int>("method");
-    QTest::addColumn<QStringList>("texts");
-    QTest::newRow("important points")
-        << int(IMPORTANT_POINTS)
-        << QStringList{
-               "PIP Cut",
-               "<h2>Perceptually Important Points (PIP) Cuts</h2>",
-               "Attribute=A|B",
-               "Distance Measure=Euclidean Distance|Vertical Distance|Perpendicular Distance",
-               "Stopping Parameter=Number Partitions|Minimum Distance|Partition and Distance",
-               "Minimum Distance=0.00",
-               "Number Partitions=0..99"};
-    QTest::newRow("periodic") << int(PERIODIC)
-                              << QStringList{"Periodic Cuts", "<h2>Peroidic Cuts</h2>",
-                                             "Cut Size=0..1000"};
-    QTest::newRow("sharp transitions")
-        << int(SHARP_TRANSITIONS)
-        << QStringList{"",
-                       "<h2>Local Variance</h2>",
-                       "X Acc Attribute=A|B",
-                       "Y Acc Attribute=A|B",
-                       "Z Acc Attribute=A|B",
-                       "Smoothing Window=10..99",
-                       "Smoothing Window Overlap=5..99",
-                       "Variance Window Size=100..100",
-                       "Variance Threshold=0.10"};
-    QTest::newRow("extrema") << int(MINIMA_MAXIMA)
-                             << QStringList{"", "<h2>Local Minima / Maxima Cuts</h2>",
-                                            "Attribute=A|B", "Persistance=0.00"};
+    QTest::addColumn<QString>("texts");
+    const auto row = [](const char* name, int method, const char* texts) {
+        QTest::newRow(name) << method << QString::fromLatin1(texts);
+    };
+    row("important points", IMPORTANT_POINTS,
+        "PIP Cut\n<h2>Perceptually Important Points (PIP) Cuts</h2>\nAttribute=A|B\n"
+        "Distance Measure=Euclidean Distance|Vertical Distance|Perpendicular Distance\n"
+        "Stopping Parameter=Number Partitions|Minimum Distance|Partition and Distance\n"
+        "Minimum Distance=0.00 to 99.99\nNumber Partitions=0 to 99");
+    row("periodic", PERIODIC, "Periodic Cuts\n<h2>Peroidic Cuts</h2>\nCut Size=0 to 1000");
+    row("sharp transitions", SHARP_TRANSITIONS,
+        "\n<h2>Local Variance</h2>\nX Acc Attribute=A|B\nY Acc Attribute=A|B\n"
+        "Z Acc Attribute=A|B\nSmoothing Window=10 to 120\nSmoothing Window Overlap=5 to 120\n"
+        "Variance Window Size=100 to 120\nVariance Threshold=0.10 to 99.99");
+    row("extrema", MINIMA_MAXIMA,
+        "\n<h2>Local Minima / Maxima Cuts</h2>\nAttribute=A|B\nPersistance=0.00 to 99.99");
 }
 
 // Each shows what it should, has the focus in its first field, and Cancel leaves all as it was.
 void TestCutAutomation::dialogs()
 {
     QFETCH(int, method);
-    QFETCH(QStringList, texts);
-    const auto data = MakeDataSet("1 2\n5 1\n2 7\n4 3\n");
+    QFETCH(QString, texts);
+    const auto data = MakeDataSet(QByteArray("1 2\n5 1\n").repeated(60).constData());
     CutCollection cuts;
-    MakeCuts(cuts, "4");
-    QStringList shown;
+    MakeCuts(cuts, "120");
+    QString shown;
     bool isFirstFocused = false;
     ModalScript script;
     script.Then([&](QDialog* dialog) {
@@ -176,59 +162,88 @@ void TestCutAutomation::dialogs()
     QVERIFY(automation.generateCuts(method));
     QCOMPARE(shown, texts);
     QVERIFY(isFirstFocused);
-    QCOMPARE(ToText(cuts), QStringLiteral("(0,4)"));
+    QCOMPARE(ToText(cuts), QStringLiteral("(0,120)"));
     QCOMPARE(automation.getErrorMessage(), QString());
 }
 
 void TestCutAutomation::generates_data()
 {
     QTest::addColumn<int>("method");
-    QTest::addColumn<QString>("values");
-    QTest::addColumn<QStringList>("answers");
+    QTest::addColumn<QByteArray>("values");
+    QTest::addColumn<QString>("answers");
     QTest::addColumn<QByteArray>("ends");
     QTest::addColumn<QString>("cuts");
-    const QString ten = "1 1 1 1 1 1 1 1 1 1";
-    const auto row = [](const char* name, int method, const QString& values,
-                        const QStringList& answers, const char* ends, const QString& cuts) {
-        QTest::newRow(name) << method << values << answers << QByteArray(ends) << cuts;
+    const auto row = [](const char* name, int method, const QByteArray& values, const char* answers,
+                        const char* ends, const char* cuts) {
+        QTest::newRow(name) << method << values << QString::fromLatin1(answers) << QByteArray(ends)
+                            << QString::fromLatin1(cuts);
     };
-    row("every 4", PERIODIC, ten, {"Cut Size=4"}, "10", "(0,4) (4,8) (8,10)");
-    row("not at the end", PERIODIC, ten, {"Cut Size=5"}, "10", "(0,5) (5,10)");
-    row("every 0", PERIODIC, ten, {"Cut Size=0"}, "10", "(0,10)");
-    row("beyond the end", PERIODIC, ten, {"Cut Size=1000"}, "10", "(0,10)");
-    row("a label stays", PERIODIC, ten, {"Cut Size=4"}, "2 9L 10", "(0,2) L(2,4) (4,8) (8,9) (9,10)");
-    row("refused cuts are passed over", PERIODIC, ten, {"Cut Size=2"}, "5",
-        "(0,2) (2,4) (4,5)");
-    // Pairs (maximum 2, minimum 3) of 2 and (5, 6) of 6; the minimum at 0 is the lowest.
-    row("all extrema", MINIMA_MAXIMA, "0 2 4 2 6 9 3 5", {"Persistance=0"}, "8",
-        "(0,2) (2,3) (3,5) (5,6) (6,8)");
-    row("persistent extrema", MINIMA_MAXIMA, "0 2 4 2 6 9 3 5", {"Persistance=2.01"}, "8",
-        "(0,5) (5,6) (6,8)");
-    row("monotonic", MINIMA_MAXIMA, "1 2 3 4 5", {}, "5", "(0,5)");
-    row("gaps", MINIMA_MAXIMA, "nan 5 nan 1 nan 3", {}, "6", "(0,6)");
-    row("one row", MINIMA_MAXIMA, "1", {}, "1", "(0,1)");
-    row("no rows", MINIMA_MAXIMA, "", {}, "0", "(0,0)");
-    // Splits at 3, the farthest from the line, and once only, since 9 is not reached again.
-    row("one point", IMPORTANT_POINTS, "0 0 0 9 0 0 0 0",
-        {"Distance Measure=Vertical Distance", "Stopping Parameter=Number Partitions",
-         "Minimum Distance=9", "Number Partitions=5"},
-        "8", "(0,0) (0,3) (3,3) (3,7) (7,8)");
-    row("a window larger than the recording", SHARP_TRANSITIONS, ten, {"Variance Threshold=0"},
-        "10", "(0,10)");
+    const QByteArray ten = QByteArray("1\n").repeated(10);
+    row("every 4", PERIODIC, ten, "Cut Size=4", "10", "(0,4) (4,8) (8,10)");
+    row("not at the end", PERIODIC, ten, "Cut Size=5", "10", "(0,5) (5,10)");
+    row("every 0", PERIODIC, ten, "Cut Size=0", "10", "(0,10)");
+    row("beyond the end", PERIODIC, ten, "Cut Size=1000", "10", "(0,10)");
+    row("through a label", PERIODIC, ten, "Cut Size=4", "2 9L 10",
+        "(0,2) L(2,4) (4,8) (8,9) (9,10)");
+    row("refused cuts", PERIODIC, ten, "Cut Size=2", "5", "(0,2) (2,4) (4,5)");
+    // The lowest minimum, in row 0, has no maximum.
+    const QByteArray curve = "0\n2\n4\n2\n6\n9\n3\n5\n";
+    row("all extrema", MINIMA_MAXIMA, curve, "Persistance=0", "8", "(0,2) (2,3) (3,5) (5,6) (6,8)");
+    row("persistent extrema", MINIMA_MAXIMA, curve, "Persistance=2.01", "8", "(0,5) (5,6) (6,8)");
+    row("extrema between gaps", MINIMA_MAXIMA, "nan\n1\nnan\n5\nnan\n3\n", "", "6",
+        "(0,3) (3,5) (5,6)");
+    row("no rows", MINIMA_MAXIMA, "", "", "0", "(0,0)");
+    const char* points = "Distance Measure=Vertical Distance\nMinimum Distance=9\n"
+                         "Number Partitions=5";
+    const QByteArray peak = "0\n0\n0\n9\n0\n0\n0\n0\n";
+    // Row 3 is 9 from the line, no other row as far from the next lines.
+    row("one point", IMPORTANT_POINTS, peak, points, "8", "(0,0) (0,3) (3,3) (3,7) (7,8)");
+    row("one point, cut across", IMPORTANT_POINTS, peak, points, "2 8", "(0,2) (2,3) (3,7) (7,8)");
+    // A window lies half on either side of the step.
+    const QByteArray step = QByteArray("0\n").repeated(200) + QByteArray("8\n").repeated(200);
+    row("step", SHARP_TRANSITIONS, step, "Variance Window Size=50\nVariance Threshold=1", "400",
+        "(0,172) (172,400)");
+    row("window beyond the recording", SHARP_TRANSITIONS, ten, "Variance Threshold=0", "10",
+        "(0,10)");
 }
 
 void TestCutAutomation::generates()
 {
     QFETCH(int, method);
-    QFETCH(QString, values);
-    QFETCH(QStringList, answers);
+    QFETCH(QByteArray, values);
+    QFETCH(QString, answers);
     QFETCH(QByteArray, ends);
     QFETCH(QString, cuts);
-    std::vector<double> column;
-    for (const QString& value : values.split(QLatin1Char(' '), Qt::SkipEmptyParts))
-        column.push_back(value.toDouble());
-    const auto data = MakeColumn(column);
-    QCOMPARE(generate(method, *data, answers, ends.constData()), cuts);
+    const auto data = MakeDataSet(values.constData());
+    QCOMPARE(generate(method, *data, answers, ends), cuts);
+}
+
+void TestCutAutomation::sizeFollowsSlider()
+{
+    PeriodicCutDialog dialog({});
+    auto* slider = dialog.findChild<QSlider*>();
+    auto* box = FindField<QSpinBox>(&dialog, QStringLiteral("Cut Size"));
+    slider->setValue(700);
+    QCOMPARE(dialog.GetParameters().m_CutSize, 700);
+    box->setValue(30);
+    QCOMPARE(slider->value(), 30);
+    QCOMPARE(PeriodicCutDialog({250}).GetParameters().m_CutSize, 250);
+}
+
+// Each value comes back from its own field.
+void TestCutAutomation::startValues()
+{
+    const auto data = MakeDataSet("1 2 3\n");
+    const PipCutParameters points = PipCutDialog({2, 1, 2, 3.5, 42}, *data).GetParameters();
+    QCOMPARE(points.m_Attribute * 100 + points.m_Measure * 10 + points.m_Stopping, 212);
+    QCOMPARE(points.m_MinimumDistance + points.m_Partitions, 45.5);
+    const auto variance = LocalVarianceDialog({2, 0, 1, 300, 20, 7000, 1.5}, *data).GetParameters();
+    QCOMPARE(variance.m_X * 100 + variance.m_Y * 10 + variance.m_Z, 201);
+    QCOMPARE(variance.m_SmoothingWindow + variance.m_SmoothingOverlap + variance.m_VarianceWindow,
+             7320);
+    QCOMPARE(variance.m_Threshold, 1.5);
+    QVERIFY(variance.m_VarianceWindow > variance.m_SmoothingWindow);
+    QVERIFY(variance.m_SmoothingWindow > variance.m_SmoothingOverlap);
 }
 
 QTEST_MAIN(TestCutAutomation)
