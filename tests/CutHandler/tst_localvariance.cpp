@@ -66,7 +66,6 @@ class TestLocalVariance : public QObject
 private slots:
     void sumsInSinglePrecision_data();
     void sumsInSinglePrecision();
-    void findsTransitions_data();
     void findsTransitions();
 };
 
@@ -76,21 +75,15 @@ void TestLocalVariance::sumsInSinglePrecision_data()
     QTest::addColumn<int>("smoothing");
     QTest::addColumn<int>("step");
     QTest::addColumn<int>("window");
-    const auto row = [](const char* name, int rows, int smoothing, int step, int window) {
-        QTest::newRow(name) << rows << smoothing << step << window;
-    };
-    row("as proposed", 1000, 10, 5, 100);
-    row("step larger than window", 203, 3, 7, 4);
-    row("step of one", 150, 12, 1, 9);
-    row("one block, one window", 21, 20, 5, 20);
-    row("windows of the recording", 20, 20, 5, 20);
-    row("windows beyond the recording", 20, 99, 5, 99);
-    row("windows of 1", 30, 1, 1, 1);
-    row("windows of 0", 30, 0, 5, 0);
-    row("no step", 30, 3, 0, 4);
-    row("no rows", 0, 1, 1, 1);
-    row("one row", 1, 1, 1, 1);
-    row("two rows", 2, 1, 1, 1);
+    QTest::newRow("as proposed") << 1000 << 10 << 5 << 100;
+    QTest::newRow("step larger than window") << 203 << 3 << 7 << 4;
+    QTest::newRow("one block, one window") << 21 << 20 << 5 << 20;
+    QTest::newRow("windows of the recording") << 20 << 20 << 5 << 20;
+    QTest::newRow("windows beyond the recording") << 20 << 99 << 5 << 99;
+    QTest::newRow("windows of 1") << 30 << 1 << 1 << 1;
+    QTest::newRow("windows of 0") << 30 << 0 << 5 << 0;
+    QTest::newRow("no step") << 30 << 3 << 0 << 4;
+    QTest::newRow("no rows") << 0 << 1 << 1 << 1;
 }
 
 // Value by value the same, on a level where single precision tells.
@@ -110,47 +103,34 @@ void TestLocalVariance::sumsInSinglePrecision()
     QCOMPARE(LocalVariances(means, window), plainVariances(means, window));
 }
 
-void TestLocalVariance::findsTransitions_data()
-{
-    QTest::addColumn<double>("burst");
-    QTest::addColumn<double>("threshold");
-    QTest::addColumn<int>("axis");
-    QTest::addColumn<int>("cuts");
-    QTest::newRow("on X") << 10.0 << 1.0 << 0 << 1;
-    QTest::newRow("on Z") << 10.0 << 1.0 << 2 << 1;
-    QTest::newRow("too weak") << 10.0 << 40.0 << 2 << 0;
-    QTest::newRow("nothing happens") << 0.0 << 0.0 << 1 << 0;
-    QTest::newRow("gap") << missing << 0.1 << 1 << 0;
-    QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << 0.1 << 1 << 0;
-    QTest::newRow("no such attribute") << 10.0 << 1.0 << 3 << 0;
-    QTest::newRow("threshold below zero") << 10.0 << -1.0 << 0 << 0;
-}
-
-// One step from 0 to a level: the variance has one maximum, of a quarter of the squared level,
-// where the window lies half on either side.
+// A step of 10, with 5 rows of 5 from smoothing, has its largest variance where the window lies
+// half on either side: 95 squares of 5 by 100, or 23.75.
 void TestLocalVariance::findsTransitions()
 {
-    QFETCH(double, burst);
-    QFETCH(double, threshold);
-    QFETCH(int, axis);
-    QFETCH(int, cuts);
-    std::vector<double> values(600, 0.0);
-    std::fill(values.begin() + 300, values.end(), burst);
-    const auto data = MakeColumn(values);
-    for (const char* name : {"B", "C"}) {
-        data->AddAttribute(QLatin1String(name), ATTRIBUTE_OTHER);
+    const auto cuts = [](double level, LocalVarianceParameters parameters) {
+        std::vector<double> values(600, 0.0);
+        std::fill(values.begin() + 300, values.end(), level);
+        const auto data = MakeColumn(values);
+        data->AddAttribute(QStringLiteral("B"), ATTRIBUTE_OTHER);
         for (int row = 0; row < data->GetRowCount(); ++row)
             data->GetRow(row)->AddValue(0.0);
-    }
-    LocalVarianceParameters parameters{1, 1, 1};
-    (axis == 0 ? parameters.m_X : axis == 1 ? parameters.m_Y : parameters.m_Z) = axis == 3 ? 3 : 0;
-    parameters.m_Threshold = threshold;
-    LocalVarianceExtractor extractor;
-    extractor.setDataSet(data.get());
-    extractor.extract(parameters);
-    QCOMPARE(int(extractor.getIndices().size()), cuts);
-    if (cuts > 0)
-        QVERIFY(std::abs(extractor.getIndices().front() - 250) <= 5);
+        LocalVarianceExtractor extractor;
+        extractor.setDataSet(data.get());
+        extractor.extract(parameters);
+        return extractor.getIndices();
+    };
+    const std::vector<int> none;
+    const std::vector<int> middle = cuts(10.0, {0, 1, 1, 10, 5, 100, 23.7});
+    QVERIFY(middle.size() == 1 && std::abs(middle[0] - 247) <= 1);
+    QCOMPARE(cuts(10.0, {1, 0, 1, 10, 5, 100, 23.7}), middle);
+    QCOMPARE(cuts(10.0, {1, 1, 0, 10, 5, 100, 23.7}), middle);
+    QCOMPARE(cuts(10.0, {1, 1, 0, 10, 5, 100, 23.8}), none);
+    // The root of three times the square of 23.75 is 41.136.
+    QCOMPARE(cuts(10.0, {0, 0, 0, 10, 5, 100, 41.1}), middle);
+    QCOMPARE(cuts(10.0, {0, 0, 0, 10, 5, 100, 41.2}), none);
+    QCOMPARE(cuts(0.0, {0, 0, 0, 10, 5, 100, 0.0}), none);
+    QCOMPARE(cuts(missing, {0, 1, 1, 10, 5, 100, 0.0}), none);
+    QCOMPARE(cuts(10.0, {0, 1, 2, 10, 5, 100, 0.0}), none);
 }
 
 QTEST_MAIN(TestLocalVariance)

@@ -1,7 +1,5 @@
 #include "persistenceextractor.h"
 
-#include <QString>
-#include <QStringList>
 #include <QtTest>
 #include <limits>
 #include <random>
@@ -15,13 +13,11 @@ constexpr float infinite = std::numeric_limits<float>::infinity();
 // "minimum-maximum:persistence" of all pairs, in their order.
 QString pairsText(const std::vector<PairedExtrema>& pairs)
 {
-    QStringList texts;
+    QString text;
     for (const PairedExtrema& pair : pairs)
-        texts.append(QStringLiteral("%1-%2:%3")
-                         .arg(pair.m_MinIndex)
-                         .arg(pair.m_MaxIndex)
-                         .arg(double(pair.m_Persistence)));
-    return texts.join(QLatin1Char(' '));
+        text += QString::asprintf("%d-%d:%g ", pair.m_MinIndex, pair.m_MaxIndex,
+                                  double(pair.m_Persistence));
+    return text.trimmed();
 }
 
 QString pairsText(const std::vector<float>& data, float threshold)
@@ -84,21 +80,16 @@ void TestPersistenceExtractor::pairs_data()
     const Values example{3, 7, 2, 9, 4, 6, 5, 8, 1, 6, 2, 3, 0, 5, 4, 7};
     row("example", example, 0, "6-5:1 10-11:1 14-13:1 0-1:4 4-7:4 8-9:5 2-3:7");
     row("at the threshold", example, 4, "0-1:4 4-7:4 8-9:5 2-3:7");
-    row("above all", example, 7.5F, "");
     row("below zero", example, -1, "");
     row("no threshold", example, missing, "");
     row("empty", {}, 0, "");
     row("one value", {4}, 0, "");
-    row("two values", {4, 2}, 0, "");
     row("equal values", {2, 2, 2, 2, 2}, 0, "");
     row("rising", {1, 2, 3, 4, 5}, 0, "");
-    row("falling", {5, 4, 3, 2, 1}, 0, "");
     row("equal minima: the right one goes", {1, 5, 1}, 0, "2-1:4");
     row("equal minima one after the other", {1, 5, 1, 3, 1, 5, 1}, 0, "4-3:2 2-1:4 6-5:4");
     row("plateau as maximum", {1, 5, 5, 5, 2}, 0, "4-3:3");
-    row("both ends maxima", {9, 1, 5, 2, 9}, 0, "3-2:3");
     row("gaps are passed over", {missing, 1, missing, 5, missing, missing, 2, missing}, 0, "6-3:3");
-    row("only gaps", {missing, missing, missing}, 0, "");
     row("infinite", {1, infinite, 2, -infinite, 3, 1}, 0, "5-4:2 0-1:inf");
     row("equal infinities", {infinite, infinite, infinite, 1}, 0, "0-2:0");
 }
