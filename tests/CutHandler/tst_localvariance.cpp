@@ -107,9 +107,9 @@ void TestLocalVariance::sumsInSinglePrecision()
 // half on either side: 95 squares of 5 by 100, or 23.75.
 void TestLocalVariance::findsTransitions()
 {
-    const auto cuts = [](double level, LocalVarianceParameters parameters) {
+    const auto cuts = [](double level, LocalVarianceParameters parameters, int length = 300) {
         std::vector<double> values(600, 0.0);
-        std::fill(values.begin() + 300, values.end(), level);
+        std::fill_n(values.begin() + 300, length, level);
         const auto data = MakeColumn(values);
         data->AddAttribute(QStringLiteral("B"), ATTRIBUTE_OTHER);
         for (int row = 0; row < data->GetRowCount(); ++row)
@@ -130,7 +130,9 @@ void TestLocalVariance::findsTransitions()
     QCOMPARE(cuts(10.0, {0, 0, 0, 10, 5, 100, 41.2}), none);
     QCOMPARE(cuts(0.0, {0, 0, 0, 10, 5, 100, 0.0}), none);
     QCOMPARE(cuts(missing, {0, 1, 1, 10, 5, 100, 0.0}), none);
-    QCOMPARE(cuts(10.0, {0, 1, 2, 10, 5, 100, 0.0}), none);
+    QCOMPARE(cuts(10.0, {0, 1, 99, 10, 5, 100, 0.0}), none);
+    // Between two steps 80 rows apart the variance falls to 16 only, which does not count.
+    QCOMPARE(int(cuts(10.0, {0, 1, 1, 10, 5, 100, 20.0}, 80).size()), 2);
 }
 
 QTEST_MAIN(TestLocalVariance)
