@@ -4,6 +4,7 @@
 
 set(SKERRYMOOR_FOLDERS_core
     CutHandler
+    CutHandler/PIPHandler
     DataHandler
     DataHandler/Processor
     DataMiningTools/TemplateMatcher/Data
@@ -15,6 +16,7 @@ set(SKERRYMOOR_FOLDERS_plot
     Visualizers/TimeIntensityGraph/Plot)
 
 set(SKERRYMOOR_FOLDERS_ui
+    CutHandler/Ui
     FileHandler/FileImporter
     GUI
     GUI/DataProcessor

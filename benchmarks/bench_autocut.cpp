@@ -1,0 +1,105 @@
+#include "cutcollection.h"
+#include "dataset.h"
+#include "localvarianceextractor.h"
+#include "persistenceextractor.h"
+#include "pipextractor.h"
+#include "simplecuts.h"
+#include <benchmark/benchmark.h>
+#include <cmath>
+#include <random>
+
+namespace
+{
+
+enum Shape { WAVES, NOISE, WALK, FLAT };
+
+// Columns of one shape, from a fixed seed: a swell with jitter, noise, a random walk, zeros.
+std::vector<double> makeValues(int rows, Shape shape)
+{
+    std::mt19937 random(1);
+    std::normal_distribution<double> jitter;
+    std::vector<double> values(size_t(rows), 0.0);
+    double walk = 0.0;
+    for (size_t i = 0; i < values.size() && shape != FLAT; ++i) {
+        const double noise = jitter(random);
+        walk += noise;
+        values[i] = shape == WAVES   ? 40.0 * std::sin(double(i) / 5000.0) + 0.1 * noise
+                    : shape == NOISE ? noise
+                                     : walk;
+    }
+    return values;
+}
+
+std::unique_ptr<DataSet> makeColumns(int rows, int columns, Shape shape)
+{
+    auto data = std::make_unique<DataSet>();
+    for (int i = 0; i < columns; ++i)
+        data->AddAttribute(QString::number(i), ATTRIBUTE_OTHER);
+    for (const double value : makeValues(rows, shape)) {
+        auto* row = new DataRow;
+        for (int i = 0; i < columns; ++i)
+            row->AddValue(value);
+        data->AddRow(row);
+    }
+    return data;
+}
+
+void persistence(benchmark::State& state)
+{
+    const std::vector<double> values = makeValues(int(state.range(0)), Shape(state.range(1)));
+    const std::vector<float> data(values.begin(), values.end());
+    for (auto _ : state) {
+        PersistenceExtractor extractor;
+        extractor.extract(data);
+        state.counters["pairs"] = double(extractor.getPairs(0.0F).size());
+    }
+}
+
+void importantPoints(benchmark::State& state)
+{
+    const auto data = makeColumns(int(state.range(0)), 1, Shape(state.range(1)));
+    PIPExtractor extractor;
+    extractor.setDataSet(data.get());
+    extractor.setMeasure(int(state.range(2)));
+    for (auto _ : state) {
+        extractor.extract(0, 1000, 0.0, PIPExtractor::NUMBER_PARTITIONS);
+        state.counters["segments"] = double(extractor.getSegments().size());
+    }
+}
+
+void sharpTransitions(benchmark::State& state)
+{
+    const auto data = makeColumns(int(state.range(0)), 3, NOISE);
+    LocalVarianceParameters parameters;
+    parameters.m_Y = 1;
+    parameters.m_Z = 2;
+    LocalVarianceExtractor extractor;
+    extractor.setDataSet(data.get());
+    for (auto _ : state) {
+        extractor.extract(parameters);
+        state.counters["cuts"] = double(extractor.getIndices().size());
+    }
+}
+
+void insertPeriodicCuts(benchmark::State& state)
+{
+    const auto data = makeColumns(int(state.range(0)) * 10, 1, FLAT);
+    for (auto _ : state) {
+        CutCollection cuts;
+        cuts.InsertCut(0, data->GetRowCount(), CutSegment::SEGMENT_CUT);
+        for (const int row : PeriodicCuts(*data, {10}))
+            cuts.InsertCut(row, CutSegment::SEGMENT_CUT);
+        state.counters["segments"] = cuts.GetSegmentCount();
+    }
+}
+
+} // namespace
+
+BENCHMARK(persistence)
+    ->ArgsProduct({{10'000'000}, {WAVES, NOISE, WALK}})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(importantPoints)
+    ->ArgsProduct({{1'000'000}, {WAVES, NOISE, WALK, FLAT}, {0, 1, 2}})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(sharpTransitions)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(insertPeriodicCuts)->Arg(100'000)->Unit(benchmark::kMillisecond);

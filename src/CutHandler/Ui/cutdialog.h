@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QDialog>
+
+class DataSet;
+class QComboBox;
+class QDoubleSpinBox;
+class QFormLayout;
+class QSpinBox;
+
+/// What all dialogs of automatic cutting have in common: a heading, a form of labelled fields,
+/// and the buttons "Compute" and "Cancel". The first field has the focus.
+class CutDialog : public QDialog
+{
+    Q_OBJECT
+protected:
+    CutDialog(const QString& heading, QWidget* parent);
+
+    QComboBox* addChoice(const QString& label, const QStringList& choices, int current,
+                         const QString& toolTip);
+    /// A choice of all attributes in column order.
+    QComboBox* addAttribute(const QString& label, const DataSet& dataSet, int current,
+                            const QString& toolTip);
+    /// A whole number from 0 to maximum.
+    QSpinBox* addNumber(const QString& label, int value, int maximum, const QString& toolTip);
+    QDoubleSpinBox* addReal(const QString& label, double value, const QString& toolTip);
+    /// A number of rows; all of the data set's and the value itself fit in.
+    QSpinBox* addRowCount(const QString& label, int value, const DataSet& dataSet,
+                          const QString& toolTip);
+    QFormLayout* form() const { return m_Form; }
+    /// Closes the dialog's layout, after all fields: Tab walks in the order of creation.
+    void addButtons();
+
+private:
+    void addField(const QString& label, QWidget* field, const QString& toolTip);
+
+    QFormLayout* m_Form;
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "cutdialog.h"
+#include "cutparameters.h"
+
+/// Asks for what cutting at local minima and maxima needs.
+class MinimaMaximaDialog : public CutDialog
+{
+    Q_OBJECT
+public:
+    MinimaMaximaDialog(const MinimaMaximaParameters& start, const DataSet& dataSet,
+                       QWidget* parent = nullptr);
+
+    MinimaMaximaParameters GetParameters() const;
+
+private:
+    QComboBox* m_Attribute;
+    QDoubleSpinBox* m_Persistence;
+};

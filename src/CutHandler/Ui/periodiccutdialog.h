@@ -1,0 +1,17 @@
+#pragma once
+
+#include "cutdialog.h"
+#include "cutparameters.h"
+
+/// Asks for the number of rows between two cuts.
+class PeriodicCutDialog : public CutDialog
+{
+    Q_OBJECT
+public:
+    explicit PeriodicCutDialog(const PeriodicCutParameters& start, QWidget* parent = nullptr);
+
+    PeriodicCutParameters GetParameters() const;
+
+private:
+    QSpinBox* m_CutSize;
+};

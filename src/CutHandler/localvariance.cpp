@@ -1,0 +1,96 @@
+#include "localvariance.h"
+
+#include <algorithm>
+#include <array>
+
+namespace
+{
+
+// Sums in single precision are chains of additions that wait for one another. Those of several
+// windows side by side don't, and give the same numbers.
+template <size_t Lanes>
+using Sums = std::array<float, Lanes>;
+
+template <size_t Lanes>
+Sums<Lanes> meansOfBlocks(const double* values, size_t window, size_t step)
+{
+    Sums<Lanes> sums{};
+    for (size_t i = 0; i < window; ++i) {
+        for (size_t lane = 0; lane < Lanes; ++lane)
+            sums[lane] = float(double(sums[lane]) + values[lane * step + i]);
+    }
+    for (float& sum : sums)
+        sum /= float(window);
+    return sums;
+}
+
+template <size_t Lanes>
+Sums<Lanes> variancesFrom(const float* values, size_t window)
+{
+    Sums<Lanes> means{};
+    for (size_t i = 0; i < window; ++i) {
+        for (size_t lane = 0; lane < Lanes; ++lane)
+            means[lane] += values[lane + i];
+    }
+    for (float& mean : means)
+        mean /= float(window);
+    Sums<Lanes> squares{};
+    for (size_t i = 0; i < window; ++i) {
+        for (size_t lane = 0; lane < Lanes; ++lane) {
+            const float difference = values[lane + i] - means[lane];
+            squares[lane] += difference * difference;
+        }
+    }
+    for (float& square : squares)
+        square /= float(window);
+    return squares;
+}
+
+// The number of starts 0, step, ... that lie more than window before the end.
+size_t countBlocks(size_t values, int window, int step)
+{
+    if (window < 1 || step < 1 || values <= size_t(window))
+        return 0;
+    return (values - size_t(window) - 1) / size_t(step) + 1;
+}
+
+} // namespace
+
+std::vector<float> BlockMeans(const std::vector<double>& values, int window, int step)
+{
+    constexpr size_t lanes = 8;
+    std::vector<float> smooth(values.size(), 0.0F);
+    std::vector<float> means(countBlocks(values.size(), window, step));
+    if (means.empty())
+        return smooth;
+    const auto width = size_t(window);
+    const auto stride = size_t(step);
+    size_t block = 0;
+    for (; block + lanes <= means.size(); block += lanes) {
+        const auto found = meansOfBlocks<lanes>(&values[block * stride], width, stride);
+        std::copy(found.begin(), found.end(), means.begin() + std::ptrdiff_t(block));
+    }
+    for (; block < means.size(); ++block)
+        means[block] = meansOfBlocks<1>(&values[block * stride], width, stride)[0];
+    for (size_t i = 0; i < smooth.size(); ++i)
+        smooth[i] = means[std::min(i / stride, means.size() - 1)];
+    return smooth;
+}
+
+std::vector<float> LocalVariances(const std::vector<float>& values, int window)
+{
+    constexpr size_t lanes = 16;
+    std::vector<float> variances(values.size(), 0.0F);
+    const size_t windows = countBlocks(values.size(), window, 1);
+    if (windows == 0)
+        return variances;
+    size_t start = 0;
+    for (; start + lanes <= windows; start += lanes) {
+        const auto found = variancesFrom<lanes>(&values[start], size_t(window));
+        std::copy(found.begin(), found.end(), variances.begin() + std::ptrdiff_t(start));
+    }
+    for (; start < windows; ++start)
+        variances[start] = variancesFrom<1>(&values[start], size_t(window))[0];
+    std::fill(variances.begin() + std::ptrdiff_t(windows), variances.end(), variances[windows - 1]);
+    return variances;
+}

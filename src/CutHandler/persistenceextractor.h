@@ -1,0 +1,45 @@
+#pragma once
+
+#include "pairedextrema.h"
+#include <utility>
+#include <vector>
+
+/// Pairs the local minima and maxima of a curve by topological persistence.
+///
+/// The curve is flooded from its lowest value up. Each local minimum starts a component; where
+/// two meet, that local maximum is paired with the higher one of their minima. The global
+/// minimum is left without a pair. One sort apart, the work grows linearly.
+class PersistenceExtractor
+{
+public:
+    /// Pairs the extrema of data. Values that are not numbers are passed over, their neighbours
+    /// stand side by side then.
+    void extract(const std::vector<float>& data);
+    /// The pairs of at least that persistence, the least persistent first, ties by the minimum's
+    /// index; all for a threshold of 0, none for one below.
+    std::vector<PairedExtrema> getPairs(float threshold) const;
+
+private:
+    struct Component {
+        int m_LeftEdge;
+        int m_RightEdge;
+        int m_MinIndex;
+        float m_MinValue;
+        bool m_Alive;
+    };
+
+    void sortIndices();
+    void flood(int index);
+    void createComponent(int index);
+    void extendComponent(int component, int index);
+    int mergeComponents(int first, int second);
+    void createPair(int a, int b);
+
+    std::vector<float> m_Data;
+    std::vector<std::pair<int, float>> m_SortedIndices;
+    // The component that holds an index, -1 for none so far. Kept up at the edges of components
+    // only: nothing else is looked at.
+    std::vector<int> m_Colors;
+    std::vector<Component> m_Components;
+    std::vector<PairedExtrema> m_Pairs;
+};
