@@ -17,6 +17,8 @@ namespace
 constexpr int pollInterval = 20; // ms
 constexpr int maxPolls = 1500;   // 30 s: a step may wait for an import
 constexpr int dragMoves = 12;
+// A file dialog names and enables its button only when it has looked for the file.
+constexpr int patience = 5000; // ms
 
 QString withoutMnemonic(QString text)
 {
@@ -143,8 +145,6 @@ void Guide::ChooseFromMenu(QWidget* window, const QStringList& titles,
 
 void Guide::Click(QAbstractButton* button)
 {
-    // A file dialog enables its button only when it has found the file.
-    constexpr int patience = 5000;
     Expect(button && QTest::qWaitFor(
                          [button] { return button->isEnabled() && button->isVisible(); }, patience),
            QStringLiteral("a button cannot be clicked"));
@@ -231,13 +231,17 @@ void Guide::TypeInto(QWidget* field, const QString& text)
 
 QAbstractButton* Guide::Button(QWidget* parent, const QString& text)
 {
-    for (QAbstractButton* button : parent->findChildren<QAbstractButton*>()) {
-        if (button->isVisible() &&
-            (withoutMnemonic(button->text()) == text || button->accessibleName() == text))
-            return button;
-    }
-    Expect(false, QStringLiteral("no button ") + text);
-    return nullptr;
+    QAbstractButton* found = nullptr;
+    const auto find = [&] {
+        for (QAbstractButton* button : parent->findChildren<QAbstractButton*>()) {
+            if (button->isVisible() &&
+                (withoutMnemonic(button->text()) == text || button->accessibleName() == text))
+                found = button;
+        }
+        return found != nullptr;
+    };
+    Expect(QTest::qWaitFor(find, patience), QStringLiteral("no button ") + text);
+    return found;
 }
 
 QWidget* Guide::fieldBeside(QWidget* parent, const QString& label)
