@@ -2,8 +2,11 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QClipboard>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
@@ -117,6 +120,7 @@ void Guide::Expect(bool condition, const QString& message)
     if (condition || m_Failed)
         return;
     m_Failed = true;
+    QGuiApplication::primaryScreen()->grabWindow(0).save(m_Folder + QStringLiteral("/failed.png"));
     QTextStream(stderr) << "The tour failed at or after \"" << m_Current << "\": " << message
                         << '\n';
     // A modal dialog may be open: leaving through the event loop could wait for it for ever.
@@ -227,6 +231,21 @@ void Guide::TypeInto(QWidget* field, const QString& text)
     field->setFocus();
     QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(field, text);
+}
+
+void Guide::PickFile(const QString& path, const QString& button)
+{
+    auto* dialog = Window<QFileDialog>();
+    Expect(dialog, QStringLiteral("no file dialog is open"));
+    auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    // At once: while a path is typed, the dialog looks into every folder on the way.
+    QApplication::clipboard()->setText(path);
+    name->setFocus();
+    QTest::keyClick(name, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(name, Qt::Key_V, Qt::ControlModifier);
+    Expect(name->text() == path, QStringLiteral("the path does not stand in the dialog"));
+    // Not the Return key: the list of completions may be open and take it.
+    Click(Button(dialog, button));
 }
 
 QAbstractButton* Guide::Button(QWidget* parent, const QString& text)
