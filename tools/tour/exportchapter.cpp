@@ -36,11 +36,8 @@ void addMenuStep(Guide& guide, MainWindow& window, const QString& entry)
 
 void addPathStep(Guide& guide, const QString& path, const QString& button)
 {
-    guide.Step(QStringLiteral("Give a path"), isOpen<QFileDialog>, [&guide, path, button] {
-        auto* dialog = Guide::Window<QFileDialog>();
-        guide.TypeInto(dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")), path);
-        guide.Click(guide.Button(dialog, button));
-    });
+    guide.Step(QStringLiteral("Give a path"), isOpen<QFileDialog>,
+               [&guide, path, button] { guide.PickFile(path, button); });
 }
 
 void addChoiceStep(Guide& guide, const QString& text, const QString& picture)

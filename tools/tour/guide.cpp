@@ -2,8 +2,11 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QClipboard>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
@@ -17,6 +20,8 @@ namespace
 constexpr int pollInterval = 20; // ms
 constexpr int maxPolls = 1500;   // 30 s: a step may wait for an import
 constexpr int dragMoves = 12;
+// A file dialog names and enables its button only when it has looked for the file.
+constexpr int patience = 5000; // ms
 
 QString withoutMnemonic(QString text)
 {
@@ -115,6 +120,7 @@ void Guide::Expect(bool condition, const QString& message)
     if (condition || m_Failed)
         return;
     m_Failed = true;
+    QGuiApplication::primaryScreen()->grabWindow(0).save(m_Folder + QStringLiteral("/failed.png"));
     QTextStream(stderr) << "The tour failed at or after \"" << m_Current << "\": " << message
                         << '\n';
     // A modal dialog may be open: leaving through the event loop could wait for it for ever.
@@ -143,8 +149,6 @@ void Guide::ChooseFromMenu(QWidget* window, const QStringList& titles,
 
 void Guide::Click(QAbstractButton* button)
 {
-    // A file dialog enables its button only when it has found the file.
-    constexpr int patience = 5000;
     Expect(button && QTest::qWaitFor(
                          [button] { return button->isEnabled() && button->isVisible(); }, patience),
            QStringLiteral("a button cannot be clicked"));
@@ -229,15 +233,34 @@ void Guide::TypeInto(QWidget* field, const QString& text)
     QTest::keyClicks(field, text);
 }
 
+void Guide::PickFile(const QString& path, const QString& button)
+{
+    auto* dialog = Window<QFileDialog>();
+    Expect(dialog, QStringLiteral("no file dialog is open"));
+    auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    // At once: while a path is typed, the dialog looks into every folder on the way.
+    QApplication::clipboard()->setText(path);
+    name->setFocus();
+    QTest::keyClick(name, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(name, Qt::Key_V, Qt::ControlModifier);
+    Expect(name->text() == path, QStringLiteral("the path does not stand in the dialog"));
+    // Not the Return key: the list of completions may be open and take it.
+    Click(Button(dialog, button));
+}
+
 QAbstractButton* Guide::Button(QWidget* parent, const QString& text)
 {
-    for (QAbstractButton* button : parent->findChildren<QAbstractButton*>()) {
-        if (button->isVisible() &&
-            (withoutMnemonic(button->text()) == text || button->accessibleName() == text))
-            return button;
-    }
-    Expect(false, QStringLiteral("no button ") + text);
-    return nullptr;
+    QAbstractButton* found = nullptr;
+    const auto find = [&] {
+        for (QAbstractButton* button : parent->findChildren<QAbstractButton*>()) {
+            if (button->isVisible() &&
+                (withoutMnemonic(button->text()) == text || button->accessibleName() == text))
+                found = button;
+        }
+        return found != nullptr;
+    };
+    Expect(QTest::qWaitFor(find, patience), QStringLiteral("no button ") + text);
+    return found;
 }
 
 QWidget* Guide::fieldBeside(QWidget* parent, const QString& label)

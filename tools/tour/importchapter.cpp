@@ -41,13 +41,8 @@ void addFileSteps(Guide& guide, MainWindow& window, const QString& recording)
     guide.Step(QStringLiteral("Look for the file"), isOpen<FileImportWizard>, [&] {
         guide.Click(guide.Button(Guide::Window<FileImportWizard>(), QStringLiteral("...")));
     });
-    guide.Step(QStringLiteral("Choose the recording"), isOpen<QFileDialog>, [&, recording] {
-        auto* dialog = Guide::Window<QFileDialog>();
-        auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        guide.TypeInto(name, recording);
-        // Not the Return key: the list of completions may be open and take it.
-        guide.Click(guide.Button(dialog, QStringLiteral("Open")));
-    });
+    guide.Step(QStringLiteral("Choose the recording"), isOpen<QFileDialog>,
+               [&, recording] { guide.PickFile(recording, QStringLiteral("Open")); });
 }
 
 void addSettingSteps(Guide& guide, const QString& recording)

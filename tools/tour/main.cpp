@@ -3,6 +3,7 @@
 #include "mainwindow.h"
 #include <QApplication>
 #include <QDir>
+#include <QTemporaryDir>
 #include <QTextStream>
 
 // tour FOLDER: takes the guided tour and leaves its pictures in FOLDER.
@@ -16,20 +17,19 @@ int main(int argc, char* argv[])
     // A copy in a place of no consequence: its path shows in the pictures.
     const QString folder = QDir::tempPath() + QStringLiteral("/recordings");
     const QString recording = folder + QStringLiteral("/recording.csv");
-    const QString exports = folder + QStringLiteral("/exports");
-    QDir(exports).removeRecursively();
-    QDir().mkpath(exports);
+    QDir().mkpath(folder);
     QFile::remove(recording);
     QFile::copy(QStringLiteral(TOUR_EXAMPLES "/recording.csv"), recording);
 
+    const QTemporaryDir exports;
     MainWindow window;
     window.show();
     Guide guide(QDir(QString::fromLocal8Bit(argv[1])).absolutePath());
     AddImportChapter(guide, window, recording);
     AddGraphChapter(guide, window);
     AddLabelChapter(guide, window);
-    AddExportChapter(guide, window, exports);
+    AddExportChapter(guide, window, exports.path());
     AddImportChapter(guide, window, recording);
-    AddReimportChapter(guide, window, exports);
+    AddReimportChapter(guide, window, exports.path());
     return guide.Run();
 }
