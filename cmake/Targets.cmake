@@ -28,8 +28,10 @@ function(skerrymoor_add_layer LAYER)
   add_library(${target} STATIC ${sources})
   target_include_directories(${target} PUBLIC ${includes})
   skerrymoor_compile_settings(${target})
-  # Ninja looks for changes only in the files that moc saw last time; this names the new ones.
-  set_target_properties(${target} PROPERTIES AUTOGEN_TARGET_DEPENDS "${sources}")
+  # Ninja looks for changes only in the files that moc saw last time; this names the new ones, and
+  # the list of all files, which is the first to know of a new folder.
+  set(list ${CMAKE_CURRENT_BINARY_DIR}/CMakeFiles/${target}_autogen.dir/AutogenInfo.json)
+  set_target_properties(${target} PROPERTIES AUTOGEN_TARGET_DEPENDS "${sources};${list}")
 endfunction()
 
 # Adds a test that never touches the settings and data of the user: it has a home of its own.

@@ -3,12 +3,15 @@
 #include "aboutdialog.h"
 #include "applicationinfo.h"
 #include "axessettingsdialog.h"
+#include "cutautomation.h"
 #include "cuttablelineplotwidget.h"
+#include "dataprocessor.h"
 #include "dataset.h"
 #include "datatabledialog.h"
 #include "fileimportwizard.h"
 #include "groundtruithbehaviorcollection.h"
 #include "groundtruithcomparisionwidget.h"
+#include "intmappedaction.h"
 #include "labelbackup.h"
 #include "labeleddatatabwidget.h"
 #include "mergelabelsdialog.h"
@@ -21,6 +24,7 @@
 #include "segmenteditor.h"
 #include "settingsfolder.h"
 #include "surveyresultwriter.h"
+#include "usererror.h"
 #include "vizattributeaction.h"
 #include "zoomwidget.h"
 #include <QApplication>
@@ -183,10 +187,12 @@ void MainWindow::buildMenus()
             {{&MainWindow::m_GroundTruithAction, QT_TR_NOOP("Ground Truith Comparision"), nullptr,
               &MainWindow::showGroundTruith, true, false}});
     m_ToolsMenu = menuBar()->addMenu(tr("Tools"));
+    m_DeriveMenu = addDeriveMenu();
     addRows(m_ToolsMenu, {{&MainWindow::m_MergeLabelsAction, QT_TR_NOOP("Merge Labels"),
                            "icons/merge2.png", &MainWindow::mergeLabels, true},
                           {&MainWindow::m_DataTableAction, QT_TR_NOOP("Data Table"),
                            "icons/Table.png", &MainWindow::showDataTable, true}});
+    m_AutomaticCutsMenu = addAutomaticCutsMenu();
     m_SettingsMenu = menuBar()->addMenu(tr("Settings"));
     addRows(m_SettingsMenu, {{&MainWindow::m_AxesSettingsAction, QT_TR_NOOP("Axes Settings"),
                               "icons/Gear.png", &MainWindow::axesSettings, true}});
@@ -196,6 +202,33 @@ void MainWindow::buildMenus()
               &MainWindow::aboutDialog, false},
              {&MainWindow::m_HelpAction, QT_TR_NOOP("Online Help"), "icons/Computer.png",
               &MainWindow::openHelp, false, true, QKeySequence::HelpContents}});
+}
+
+QMenu* MainWindow::addDeriveMenu()
+{
+    QMenu* menu = m_ToolsMenu->addMenu(loadIcon("icons/Tool2.png"), tr("Derive Attributes"));
+    for (int i = 0; !DataProcessor::getOperationName(i).isEmpty(); ++i) {
+        auto* action = new IntMappedAction(i, DataProcessor::getOperationName(i), menu);
+        connect(action, qOverload<int>(&IntMappedAction::triggered), this,
+                &MainWindow::processAttribute);
+        menu->addAction(action);
+    }
+    m_DataActions.append(menu->menuAction());
+    return menu;
+}
+
+QMenu* MainWindow::addAutomaticCutsMenu()
+{
+    QMenu* menu = m_ToolsMenu->addMenu(loadIcon("icons/cut.png"), tr("Automatic Cuts"));
+    // The first method does nothing.
+    for (int i = 1; i < CutAutomation::MethodCount; ++i) {
+        auto* action = new IntMappedAction(i, CutAutomation::getMethodName(i), menu);
+        connect(action, qOverload<int>(&IntMappedAction::triggered), this,
+                &MainWindow::cutAutomationAttribute);
+        menu->addAction(action);
+    }
+    m_DataActions.append(menu->menuAction());
+    return menu;
 }
 
 void MainWindow::addRows(QMenu* menu, const std::vector<MenuRow>& rows)
@@ -292,13 +325,17 @@ void MainWindow::handOver(View& view)
 void MainWindow::rebuildAttributesMenu()
 {
     m_AttributesMenu->clear();
-    for (int i = 0; m_DataSet && i < m_DataSet->GetAttributeCount(); ++i) {
-        auto* action = new VizAttributeAction(i, m_DataSet->GetAttributeName(i), m_AttributesMenu);
-        action->setCheckable(true);
-        connect(action, &VizAttributeAction::triggered, m_LinePlot,
-                &CuttableLinePlotWidget::TogglePlot);
-        m_AttributesMenu->addAction(action);
-    }
+    for (int i = 0; m_DataSet && i < m_DataSet->GetAttributeCount(); ++i)
+        addAttributeAction(i, m_DataSet->GetAttributeName(i));
+}
+
+void MainWindow::addAttributeAction(int index, const QString& name)
+{
+    auto* action = new VizAttributeAction(index, name, m_AttributesMenu);
+    action->setCheckable(true);
+    connect(action, &VizAttributeAction::triggered, m_LinePlot,
+            &CuttableLinePlotWidget::TogglePlot);
+    m_AttributesMenu->addAction(action);
 }
 
 void MainWindow::enableActions()
@@ -410,6 +447,36 @@ void MainWindow::showGroundTruith()
     using Shown = std::pair<std::shared_ptr<Recording>, decltype(reference)>;
     m_Windows.Add(window, std::make_shared<Shown>(m_Recording, std::move(reference)));
     window->show();
+}
+
+void MainWindow::processAttribute(int operation)
+{
+    if (!m_DataSet)
+        return;
+    DataProcessor processor(this);
+    processor.setDataSet(m_DataSet);
+    if (!processor.runOperation(operation))
+        return;
+    for (const AddedAttribute& added : processor.getAddedAttributes()) {
+        addAttributeAction(added.m_Index, added.m_Name);
+        m_ResultWidget->AddAttribute(added.m_Index, added.m_Name);
+        m_LabeledDataTabWidget->AddAttribute(added.m_Index, added.m_Name);
+    }
+}
+
+void MainWindow::cutAutomationAttribute(int method)
+{
+    if (!m_DataSet || !m_CutCollection)
+        return;
+    CutAutomation cutter(this);
+    cutter.setDataSet(m_DataSet);
+    cutter.setCutCollection(m_CutCollection);
+    if (!cutter.generateCuts(method)) {
+        ShowUserError(this, tr("Error Generating Cuts"), cutter.getErrorMessage());
+        return;
+    }
+    updateSegmentViews();
+    m_LabeledDataTabWidget->Refresh();
 }
 
 void MainWindow::updateSelection()

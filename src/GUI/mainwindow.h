@@ -53,6 +53,11 @@ public slots:
     void moveSegment();
     /// Needs a selected row; has no visible effect.
     void showSegment();
+    /// Runs an operation that derives attributes, by its place in the menu, and offers what it
+    /// added.
+    void processAttribute(int operation);
+    /// Runs a method of automatic cutting.
+    void cutAutomationAttribute(int method);
     void axesSettings();
     /// Shows a reference labelling from a file beside the recording's own.
     void showGroundTruith();
@@ -69,8 +74,11 @@ private:
     void connectLabelPane();
     void buildMenus();
     void addRows(QMenu* menu, const std::vector<MenuRow>& rows);
+    QMenu* addDeriveMenu();
+    QMenu* addAutomaticCutsMenu();
     void buildToolBar();
     void rebuildAttributesMenu();
+    void addAttributeAction(int index, const QString& name);
     void setRecording(std::shared_ptr<Recording> recording);
     void clearGraph();
     void showRecording(Recording* recording);
@@ -104,6 +112,8 @@ private:
     QMenu* m_VisualizationMenu = nullptr;
     QMenu* m_AttributesMenu = nullptr;
     QMenu* m_ToolsMenu = nullptr;
+    QMenu* m_DeriveMenu = nullptr;
+    QMenu* m_AutomaticCutsMenu = nullptr;
     QMenu* m_SettingsMenu = nullptr;
     QMenu* m_HelpMenu = nullptr;
     QAction* m_OpenFileAction = nullptr;

@@ -14,6 +14,8 @@ class CutAutomation
 {
     Q_DECLARE_TR_FUNCTIONS(CutAutomation)
 public:
+    static constexpr int MethodCount = 5;
+
     /// Dialogs open on top of parent.
     explicit CutAutomation(QWidget* parent = nullptr) : m_Parent(parent) {}
 

@@ -5,7 +5,7 @@
 
 LocalVarianceDialog::LocalVarianceDialog(const LocalVarianceParameters& start,
                                          const DataSet& dataSet, QWidget* parent)
-    : CutDialog(tr("<h2>Local Variance</h2>"), parent),
+    : FormDialog(tr("<h2>Local Variance</h2>"), parent),
       m_X(addAttribute(tr("X Acc Attribute"), dataSet, start.m_X, tr("Acceleration along X"))),
       m_Y(addAttribute(tr("Y Acc Attribute"), dataSet, start.m_Y, tr("Acceleration along Y"))),
       m_Z(addAttribute(tr("Z Acc Attribute"), dataSet, start.m_Z, tr("Acceleration along Z"))),

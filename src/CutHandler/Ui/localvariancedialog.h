@@ -1,10 +1,10 @@
 #pragma once
 
-#include "cutdialog.h"
 #include "cutparameters.h"
+#include "formdialog.h"
 
 /// Asks for what cutting at sharp transitions needs.
-class LocalVarianceDialog : public CutDialog
+class LocalVarianceDialog : public FormDialog
 {
     Q_OBJECT
 public:

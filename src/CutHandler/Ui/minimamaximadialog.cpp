@@ -5,7 +5,7 @@
 
 MinimaMaximaDialog::MinimaMaximaDialog(const MinimaMaximaParameters& start, const DataSet& dataSet,
                                        QWidget* parent)
-    : CutDialog(tr("<h2>Local Minima / Maxima Cuts</h2>"), parent),
+    : FormDialog(tr("<h2>Local Minima / Maxima Cuts</h2>"), parent),
       m_Attribute(addAttribute(tr("Attribute"), dataSet, start.m_Attribute,
                                tr("The curve to cut at its minima and maxima"))),
       m_Persistence(addReal(tr("Persistance"), start.m_Persistence,

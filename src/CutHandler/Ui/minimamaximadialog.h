@@ -1,10 +1,10 @@
 #pragma once
 
-#include "cutdialog.h"
 #include "cutparameters.h"
+#include "formdialog.h"
 
 /// Asks for what cutting at local minima and maxima needs.
-class MinimaMaximaDialog : public CutDialog
+class MinimaMaximaDialog : public FormDialog
 {
     Q_OBJECT
 public:

@@ -11,7 +11,7 @@ constexpr int largestSize = 1000;
 }
 
 PeriodicCutDialog::PeriodicCutDialog(const PeriodicCutParameters& start, QWidget* parent)
-    : CutDialog(tr("<h2>Peroidic Cuts</h2>"), parent), m_CutSize(new QSpinBox)
+    : FormDialog(tr("<h2>Peroidic Cuts</h2>"), parent), m_CutSize(new QSpinBox)
 {
     setWindowTitle(tr("Periodic Cuts"));
     auto* slider = new QSlider(Qt::Horizontal);

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "cutdialog.h"
 #include "cutparameters.h"
+#include "formdialog.h"
 
 /// Asks for the number of rows between two cuts.
-class PeriodicCutDialog : public CutDialog
+class PeriodicCutDialog : public FormDialog
 {
     Q_OBJECT
 public:

@@ -17,7 +17,7 @@ QStringList names(QString (*nameOf)(int))
 } // namespace
 
 PipCutDialog::PipCutDialog(const PipCutParameters& start, const DataSet& dataSet, QWidget* parent)
-    : CutDialog(tr("<h2>Perceptually Important Points (PIP) Cuts</h2>"), parent),
+    : FormDialog(tr("<h2>Perceptually Important Points (PIP) Cuts</h2>"), parent),
       m_Attribute(addAttribute(tr("Attribute"), dataSet, start.m_Attribute,
                                tr("The curve to cut where it departs most from straight lines"))),
       m_Measure(addChoice(tr("Distance Measure"), names(&PIPExtractor::GetMeasureName),

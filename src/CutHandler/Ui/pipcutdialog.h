@@ -1,10 +1,10 @@
 #pragma once
 
-#include "cutdialog.h"
 #include "cutparameters.h"
+#include "formdialog.h"
 
 /// Asks for what cutting at perceptually important points needs.
-class PipCutDialog : public CutDialog
+class PipCutDialog : public FormDialog
 {
     Q_OBJECT
 public:

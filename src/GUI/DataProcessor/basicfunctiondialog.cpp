@@ -29,7 +29,7 @@ void BasicFunctionDialog::addOperation(const BasicFunctionParams& start)
         box->setAccessibleName(box->toolTip());
         row->addWidget(box);
     }
-    getForm()->addRow(row);
+    form()->addRow(row);
 }
 
 BasicFunctionParams BasicFunctionDialog::GetParams() const

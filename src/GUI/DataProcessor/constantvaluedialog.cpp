@@ -8,7 +8,7 @@ ConstantValueDialog::ConstantValueDialog(const DataSet& dataSet, const ConstantV
     : DerivationDialog(dataSet, tr("Constant Value"), parent)
 {
     m_Name = addName(start.m_Name);
-    m_Value = addNumber(tr("Value"), 0, tr("The value of all rows but the first"));
+    m_Value = addReal(tr("Value"), 0, tr("The value of all rows but the first"));
     m_Value->setRange(0, 360);
     m_Value->setValue(start.m_Value);
     addButtons();

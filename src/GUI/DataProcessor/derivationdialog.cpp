@@ -1,25 +1,15 @@
 #include "derivationdialog.h"
 
-#include "dialogbuttons.h"
 #include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QFormLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <algorithm>
 
 DerivationDialog::DerivationDialog(const DataSet& dataSet, const QString& title, QWidget* parent)
-    : QDialog(parent), m_DataSet(dataSet), m_Layout(new QVBoxLayout(this)), m_Form(new QFormLayout)
+    : FormDialog(QStringLiteral("<h2>%1</h2>").arg(title), parent), m_DataSet(dataSet)
 {
     setModal(true);
     setWindowTitle(title);
-    auto* heading = new QLabel(QStringLiteral("<h2>%1</h2>").arg(title));
-    heading->setAlignment(Qt::AlignCenter);
-    m_Form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    m_Layout->addWidget(heading);
-    m_Layout->addLayout(m_Form);
-    m_Layout->addStretch();
 }
 
 VectorAttributes DerivationDialog::VectorBoxes::Get() const
@@ -30,17 +20,14 @@ VectorAttributes DerivationDialog::VectorBoxes::Get() const
 QComboBox* DerivationDialog::makeAttributeBox(int start) const
 {
     auto* box = new QComboBox;
-    for (int i = 0; i < m_DataSet.GetAttributeCount(); ++i)
-        box->addItem(m_DataSet.GetAttributeName(i));
+    box->addItems(m_DataSet.GetAttributeNames());
     box->setCurrentIndex(start);
     return box;
 }
 
 QComboBox* DerivationDialog::addAttribute(const QString& label, int start)
 {
-    QComboBox* box = makeAttributeBox(start);
-    addRow(label, box, tr("The attribute that is read"));
-    return box;
+    return FormDialog::addAttribute(label, m_DataSet, start, tr("The attribute that is read"));
 }
 
 DerivationDialog::VectorBoxes DerivationDialog::addVector(const QString& labels,
@@ -67,30 +54,9 @@ QSpinBox* DerivationDialog::addWindow(int start)
     return box;
 }
 
-QDoubleSpinBox* DerivationDialog::addNumber(const QString& label, double start,
-                                            const QString& toolTip)
-{
-    auto* box = new QDoubleSpinBox;
-    box->setMaximum(std::max(box->maximum(), start));
-    box->setValue(start);
-    addRow(label, box, toolTip);
-    return box;
-}
-
 QLineEdit* DerivationDialog::addName(const QString& start)
 {
     auto* edit = new QLineEdit(start);
     addRow(tr("Attribute Name"), edit, tr("The name of the new attribute"));
     return edit;
-}
-
-void DerivationDialog::addRow(const QString& label, QWidget* field, const QString& toolTip)
-{
-    field->setToolTip(toolTip);
-    m_Form->addRow(label, field);
-}
-
-void DerivationDialog::addButtons(const QString& acceptText)
-{
-    m_Layout->addLayout(MakeDialogButtons(this, acceptText));
 }

@@ -1,18 +1,16 @@
 #pragma once
 
 #include "derivedcolumn.h"
-#include <QDialog>
+#include "formdialog.h"
 
 class QComboBox;
 class QDoubleSpinBox;
-class QFormLayout;
 class QLineEdit;
 class QSpinBox;
-class QVBoxLayout;
 
-/// What the dialogs of derived attributes have in common: a heading, a form and two buttons.
-/// Derived classes add their rows from top to bottom, then the buttons.
-class DerivationDialog : public QDialog
+/// What the dialogs of derived attributes have in common: a form over the attributes of a data
+/// set.
+class DerivationDialog : public FormDialog
 {
     Q_OBJECT
 protected:
@@ -34,15 +32,7 @@ protected:
     /// A box for a window up to the length of the recording.
     QSpinBox* makeWindowBox(int start) const;
     QSpinBox* addWindow(int start);
-    QDoubleSpinBox* addNumber(const QString& label, double start, const QString& toolTip);
     QLineEdit* addName(const QString& start);
-    void addRow(const QString& label, QWidget* field, const QString& toolTip);
-    QFormLayout* getForm() { return m_Form; }
-    void addButtons(const QString& acceptText = tr("Compute"));
 
     const DataSet& m_DataSet;
-
-private:
-    QVBoxLayout* m_Layout;
-    QFormLayout* m_Form;
 };

@@ -32,7 +32,7 @@ QSpinBox* EnergyDialog::addWindowWithSlider(int start)
     row->addWidget(slider, 1);
     auto* label = new QLabel(tr("Window Size"));
     label->setBuddy(box);
-    getForm()->addRow(label, row);
+    form()->addRow(label, row);
     return box;
 }
 

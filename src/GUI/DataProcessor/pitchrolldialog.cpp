@@ -18,8 +18,8 @@ PitchRollDialog::PitchRollDialog(const DataSet& dataSet, bool withCompass, QWidg
     m_Acceleration = addVector(tr("%1 Acc:"), findStandardVector(CORRECTED_ACCELERATION));
     if (withCompass)
         m_Compass = addVector(tr("%1 Comp:"), findStandardVector(CORRECTED_COMPASS));
-    m_SmoothingRate = addNumber(tr("Smoothing Rate:"), 2.0 * dataSet.m_SamplingRate,
-                                tr("Rows to smooth over; pitch and roll from the menu ignore it"));
+    m_SmoothingRate = addReal(tr("Smoothing Rate:"), 2.0 * dataSet.m_SamplingRate,
+                              tr("Rows to smooth over; pitch and roll from the menu ignore it"));
     addButtons(tr("Save"));
 }
 

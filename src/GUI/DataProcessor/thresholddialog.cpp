@@ -9,8 +9,8 @@ ThresholdDialog::ThresholdDialog(const DataSet& dataSet, const ThresholdParams& 
     : DerivationDialog(dataSet, tr("Threshold"), parent)
 {
     m_Attribute = addAttribute(tr("Data Attribute"), start.m_Attribute);
-    m_Threshold = addNumber(tr("Threshold Value"), start.m_Threshold,
-                            tr("Rows at this value or above get 1, all others -1"));
+    m_Threshold = addReal(tr("Threshold Value"), start.m_Threshold,
+                          tr("Rows at this value or above get 1, all others -1"));
     m_Name = addName(start.m_Name);
     addButtons();
 }

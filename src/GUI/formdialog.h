@@ -8,14 +8,16 @@ class QDoubleSpinBox;
 class QFormLayout;
 class QSpinBox;
 
-/// What all dialogs of automatic cutting have in common: a heading, a form of labelled fields,
-/// and the buttons "Compute" and "Cancel". The first field has the focus.
-class CutDialog : public QDialog
+/// What dialogs that ask for the inputs of a computation have in common: a heading, a form of
+/// labelled fields, and two buttons. Derived classes add their rows from top to bottom, then the
+/// buttons. The first field has the focus.
+class FormDialog : public QDialog
 {
     Q_OBJECT
 protected:
-    CutDialog(const QString& heading, QWidget* parent);
+    FormDialog(const QString& heading, QWidget* parent);
 
+    void addRow(const QString& label, QWidget* field, const QString& toolTip);
     QComboBox* addChoice(const QString& label, const QStringList& choices, int current,
                          const QString& toolTip);
     /// A choice of all attributes in column order.
@@ -29,10 +31,8 @@ protected:
                           const QString& toolTip);
     QFormLayout* form() const { return m_Form; }
     /// Closes the dialog's layout, after all fields: Tab walks in the order of creation.
-    void addButtons();
+    void addButtons(const QString& acceptText = tr("Compute"));
 
 private:
-    void addField(const QString& label, QWidget* field, const QString& toolTip);
-
     QFormLayout* m_Form;
 };
