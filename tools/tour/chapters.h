@@ -20,3 +20,6 @@ void AddExportChapter(Guide& guide, MainWindow& window, const QString& folder);
 
 /// Reads the project back over the same recording, imported anew.
 void AddReimportChapter(Guide& guide, MainWindow& window, const QString& folder);
+
+/// Static and dynamic acceleration, VeDBA, pitch and roll; cuts at the dives.
+void AddDeriveChapter(Guide& guide, MainWindow& window);

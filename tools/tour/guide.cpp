@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTest>
 #include <QTextStream>
@@ -23,9 +24,11 @@ constexpr int dragMoves = 12;
 // A file dialog names and enables its button only when it has looked for the file.
 constexpr int patience = 5000; // ms
 
+// The text as it shows: of two ampersands one.
 QString withoutMnemonic(QString text)
 {
-    return text.remove(QLatin1Char('&'));
+    static const QRegularExpression mnemonic(QStringLiteral("&(.)"));
+    return text.replace(mnemonic, QStringLiteral("\\1"));
 }
 
 QAction* entry(const QWidget* menu, const QString& title)

@@ -31,5 +31,6 @@ int main(int argc, char* argv[])
     AddExportChapter(guide, window, exports.path());
     AddImportChapter(guide, window, recording);
     AddReimportChapter(guide, window, exports.path());
+    AddDeriveChapter(guide, window);
     return guide.Run();
 }
