@@ -1,5 +1,6 @@
 #include "addgroupdialog.h"
 #include "cuttablelineplotwidget.h"
+#include "fieldlookup.h"
 #include "fileimportwizard.h"
 #include "groundtruithcomparisionwidget.h"
 #include "labeleddatatabwidget.h"
@@ -7,15 +8,20 @@
 #include "mainwindow.h"
 #include "modalscript.h"
 #include "mousedrag.h"
+#include "movingaveragedialog.h"
 #include "overviewtimelinewidget.h"
+#include "periodiccutdialog.h"
+#include "resultwidget.h"
 #include "settingsfolder.h"
 #include "timeaxis.h"
 #include "zoomwidget.h"
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSlider>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -57,6 +63,8 @@ private slots:
     void dialogsOpen();
     void labelsGoToFileAndBack();
     void comparesWithReference();
+    void derivesAttributes();
+    void cutsByItself();
 
 private:
     // Imports a file of that many rows, in columns 3 and 4, through the wizard.
@@ -64,6 +72,9 @@ private:
     QAction* action(const char* text) const;
     QAction* attribute(int index) const;
     void chooseOnGraph(const QPoint& point, const QString& text);
+    QImage plotOf(int attributeIndex);
+    QStringList offeredAttributes() const;
+    void cancelDialogOf(const char* entry);
     QWidget* openSegmentWindow();
     QTableView* labelTable(int tab) const;
     int scrollBarValue() const { return m_Scroll->horizontalScrollBar()->value(); }
@@ -391,6 +402,103 @@ void TestMainWindow::comparesWithReference()
     QCOMPARE(findWindow()->grab().toImage(), before);
     findWindow()->close();
     QTRY_VERIFY(!findWindow());
+}
+
+// The graph with that attribute alone.
+QImage TestMainWindow::plotOf(int attributeIndex)
+{
+    attribute(attributeIndex)->trigger();
+    const QImage image = m_Plot->grab().toImage();
+    attribute(attributeIndex)->trigger();
+    return image;
+}
+
+// The attributes in the menu, in the result view and in the first tab, all of which agree.
+QStringList TestMainWindow::offeredAttributes() const
+{
+    QStringList names;
+    for (const QAction* entry : action("Attributes")->menu()->actions())
+        names.append(entry->text());
+    for (const QWidget* view : {static_cast<QWidget*>(m_Window->findChild<ResultWidget*>()),
+                                m_Window->findChild<QTabWidget*>()->widget(0)}) {
+        const auto* box = FindField<QComboBox>(view, QStringLiteral("Attribute"));
+        for (int i = 0; i < qMax(box->count(), names.size()); ++i) {
+            if (box->itemText(i) != names.value(i))
+                return {box->itemText(i) + QStringLiteral(" is not ") + names.value(i)};
+        }
+    }
+    return names;
+}
+
+void TestMainWindow::cancelDialogOf(const char* entry)
+{
+    ModalScript user;
+    user.Then([](QDialog* dialog) { ClickButton(dialog, QStringLiteral("Cancel")); });
+    action(entry)->trigger();
+}
+
+void TestMainWindow::derivesAttributes()
+{
+    import(100);
+    m_Window->findChild<LabeledDataTabWidget*>()->AddGroup(QStringLiteral("Walk"));
+    const QStringList imported{QStringLiteral("Col_1"), QStringLiteral("Col_2")};
+    action("ODBA")->trigger();
+    cancelDialogOf("Moving Average");
+    // It reports success without a result.
+    cancelDialogOf("Pitch and Roll");
+    QCOMPARE(offeredAttributes(), imported);
+    {
+        // A copy of the first attribute under the name of the second.
+        ModalScript user;
+        user.On<MovingAverageDialog>([](MovingAverageDialog* dialog) {
+            FindField<QSpinBox>(dialog, QStringLiteral("Window Size"))->setValue(1);
+            QTest::keyClicks(FindField<QLineEdit>(dialog, QStringLiteral("Attribute Name")),
+                             QStringLiteral("Col_2"));
+            ClickButton(dialog, QStringLiteral("Compute"));
+        });
+        action("Moving Average")->trigger();
+    }
+    {
+        ModalScript user;
+        user.Then([](QDialog* dialog) { ClickButton(dialog, QStringLiteral("Save")); });
+        action("Pitch and Roll")->trigger();
+    }
+    const QStringList derived{QStringLiteral("Col_2"), QStringLiteral("Pitch"),
+                              QStringLiteral("Roll")};
+    QCOMPARE(offeredAttributes(), imported + derived);
+    const auto withoutName = [](const QImage& image) {
+        return image.copy(image.rect().adjusted(60, 0, 0, 0));
+    };
+    QCOMPARE(withoutName(plotOf(2)), withoutName(plotOf(0)));
+    QVERIFY(plotOf(2) != plotOf(1));
+}
+
+void TestMainWindow::cutsByItself()
+{
+    import(100);
+    attribute(0)->trigger();
+    const QImage uncut = m_Plot->grab().toImage();
+    cancelDialogOf("Periodic");
+    QCOMPARE(m_Plot->grab().toImage(), uncut);
+    {
+        ModalScript user;
+        user.On<PeriodicCutDialog>([](PeriodicCutDialog* dialog) {
+            QTest::keyClicks(dialog->focusWidget(), QStringLiteral("30"));
+            ClickButton(dialog, QStringLiteral("Compute"));
+        });
+        action("Periodic")->trigger();
+    }
+    const QImage cut = m_Plot->grab().toImage();
+    QList<int> changedRows;
+    for (int x = 0; x < cut.width(); ++x) {
+        // Below the tops of the outlines, which overlap in their corners.
+        const QRect column(x, 5, 1, cut.height() - 5);
+        // An outline may lie on the last pixel of the row before.
+        const int row = m_Plot->GetTimeAxis()->ToIndex(float(x + 2));
+        if (cut.copy(column) != uncut.copy(column) && !changedRows.contains(row))
+            changedRows.append(row);
+    }
+    QCOMPARE(changedRows, (QList<int>{30, 60, 90}));
 }
 
 QTEST_MAIN(TestMainWindow)
