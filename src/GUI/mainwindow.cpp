@@ -207,7 +207,7 @@ void MainWindow::buildMenus()
 QMenu* MainWindow::addDeriveMenu()
 {
     QMenu* menu = m_ToolsMenu->addMenu(loadIcon("icons/Tool2.png"), tr("Derive Attributes"));
-    for (int i = 0; !DataProcessor::getOperationName(i).isEmpty(); ++i) {
+    for (int i = 0; i < DataProcessor::OperationCount; ++i) {
         auto* action = new IntMappedAction(i, DataProcessor::getOperationName(i), menu);
         connect(action, qOverload<int>(&IntMappedAction::triggered), this,
                 &MainWindow::processAttribute);

@@ -49,11 +49,11 @@ constexpr Operation OPERATIONS[] = {
      &DataProcessor::staticDynAcc},
 };
 
-constexpr int OPERATION_COUNT = int(std::size(OPERATIONS));
+static_assert(std::size(OPERATIONS) == DataProcessor::OperationCount);
 
 bool isOperation(int index)
 {
-    return 0 <= index && index < OPERATION_COUNT;
+    return 0 <= index && index < DataProcessor::OperationCount;
 }
 
 // What the user chose, nothing on Cancel.
