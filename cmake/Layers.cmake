@@ -5,6 +5,7 @@
 set(SKERRYMOOR_FOLDERS_core
     CutHandler
     DataHandler
+    DataMiningTools/TemplateMatcher
     DataMiningTools/TemplateMatcher/Data
     FileHandler
     LabelHandler)
