@@ -1,15 +1,13 @@
 #include "blockcorrelation.h"
 
 #include "blocktransform.h"
+#include "rowwindow.h"
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <vector>
 
 namespace
 {
-
-using Spectrum = std::vector<std::complex<double>>;
 
 /// The power of two that takes the least time for each value of the data.
 int chooseBlockLength(int dataLength, int filterLength)
@@ -28,45 +26,53 @@ int chooseBlockLength(int dataLength, int filterLength)
     return int(length);
 }
 
-/// The filter's conjugate spectrum, with the factor that the way back leaves out.
-Spectrum transformFilter(BlockTransform& transform, const double* filter, int length)
+/// The compiler's own product looks for infinities and takes longer than the transforms.
+void multiply(std::complex<double>* values, const std::vector<std::complex<double>>& factors)
 {
-    transform.SetValues(filter, length);
-    transform.Forward();
-    Spectrum result(transform.GetSpectrum().GetSize());
-    for (size_t i = 0; i < result.size(); ++i)
-        result[i] = std::conj(transform.GetSpectrum()[i]) * transform.GetScale();
-    return result;
-}
-
-void multiply(AlignedArray<std::complex<double>>& spectrum, const Spectrum& filter)
-{
-    for (size_t i = 0; i < filter.size(); ++i) {
-        // Written out: the operator looks for infinities, which takes longer than the transform.
-        const std::complex<double> a = spectrum[i];
-        const std::complex<double> b = filter[i];
-        spectrum[i] = {a.real() * b.real() - a.imag() * b.imag(),
-                       a.real() * b.imag() + a.imag() * b.real()};
+    auto* parts = reinterpret_cast<double*>(values);
+    const auto* others = reinterpret_cast<const double*>(factors.data());
+    for (size_t i = 0; i < 2 * factors.size(); i += 2) {
+        const double real = parts[i] * others[i] - parts[i + 1] * others[i + 1];
+        const double imaginary = parts[i] * others[i + 1] + parts[i + 1] * others[i];
+        parts[i] = real;
+        parts[i + 1] = imaginary;
     }
 }
 
 } // namespace
 
-void CorrelateByBlocks(const double* data, int dataLength, const double* filter, int filterLength,
-                       float* results)
+BlockCorrelation::BlockCorrelation(int dataLength, const double* filter, int filterLength)
+    : m_FilterLength(filterLength),
+      m_Transform(BlockTransform::OfLength(chooseBlockLength(dataLength, filterLength)))
 {
-    const auto transform = BlockTransform::OfLength(chooseBlockLength(dataLength, filterLength));
-    const Spectrum filterSpectrum = transformFilter(*transform, filter, filterLength);
-    const int windows = dataLength - filterLength + 1;
-    const int step = transform->GetLength() - filterLength + 1;
+    m_Transform->Forward(filter, filterLength);
+    const AlignedArray<std::complex<double>>& spectrum = m_Transform->GetSpectrum();
+    // The conjugate, with the factor that the way back leaves out.
+    for (size_t i = 0; i < spectrum.GetSize(); ++i)
+        m_FilterSpectrum.push_back(std::conj(spectrum[i]) * m_Transform->GetScale());
+}
+
+int BlockCorrelation::GetStep() const
+{
+    return m_Transform->GetLength() - m_FilterLength + 1;
+}
+
+const double* BlockCorrelation::Correlate(const double* data, int count)
+{
+    m_Transform->Forward(data, count + m_FilterLength - 1);
+    multiply(m_Transform->GetSpectrum().GetData(), m_FilterSpectrum);
+    return m_Transform->Backward();
+}
+
+void CorrelateByBlocks(RowWindow& rows, const double* filter, int filterLength, float* results)
+{
+    BlockCorrelation correlation(rows.GetLength(), filter, filterLength);
+    const int windows = rows.GetLength() - filterLength + 1;
     float* middle = results + (filterLength - 1) / 2;
     for (int done = 0, count = 0; done < windows; done += count) {
-        count = std::min(step, windows - done);
-        transform->SetValues(data + done, count + filterLength - 1);
-        transform->Forward();
-        multiply(transform->GetSpectrum(), filterSpectrum);
-        transform->Backward();
-        std::transform(transform->GetValues().GetData(), transform->GetValues().GetData() + count,
-                       middle + done, [](double value) { return float(value); });
+        count = std::min(correlation.GetStep(), windows - done);
+        const double* sums =
+            correlation.Correlate(rows.Get(done, done + count + filterLength - 1), count);
+        std::transform(sums, sums + count, middle + done, [](double sum) { return float(sum); });
     }
 }

@@ -35,8 +35,15 @@ std::shared_ptr<BlockTransform> BlockTransform::OfLength(int length)
     return transform;
 }
 
-void BlockTransform::SetValues(const double* values, int count)
+void BlockTransform::Forward(const double* values, int count)
 {
     std::copy_n(values, count, m_Values.GetData());
     std::fill(m_Values.GetData() + count, m_Values.GetData() + m_Values.GetSize(), 0.0);
+    m_Forward.Transform(m_Values.GetData(), m_Spectrum.GetData());
+}
+
+const double* BlockTransform::Backward()
+{
+    m_Backward.Transform(m_Spectrum.GetData(), m_Values.GetData());
+    return m_Values.GetData();
 }

@@ -15,14 +15,12 @@ public:
     static std::shared_ptr<BlockTransform> OfLength(int length);
 
     int GetLength() const { return m_Forward.GetLength(); }
-    void Forward() { m_Forward.Transform(m_Values.GetData(), m_Spectrum.GetData()); }
-    /// Values times GetScale are those that Forward started from; destroys the spectrum.
-    void Backward() { m_Backward.Transform(m_Spectrum.GetData(), m_Values.GetData()); }
+    /// Transforms count values and zeros behind them.
+    void Forward(const double* values, int count);
+    /// Values times GetScale are those that Forward started from; destroys the spectrum. Good
+    /// until the next transform.
+    const double* Backward();
     double GetScale() const { return m_Backward.GetScale(); }
-
-    /// Takes count values and fills up with zeros.
-    void SetValues(const double* values, int count);
-    const AlignedArray<double>& GetValues() const { return m_Values; }
     AlignedArray<std::complex<double>>& GetSpectrum() { return m_Spectrum; }
 
 private:

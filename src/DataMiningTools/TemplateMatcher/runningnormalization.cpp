@@ -1,62 +1,69 @@
 #include "runningnormalization.h"
 
+#include "rowwindow.h"
 #include <algorithm>
 #include <cmath>
 
 namespace
 {
 
-/// A sum in single precision, each step of which is taken in double.
-class RunningSum
-{
-public:
-    void Add(double value) { m_Sum = float(double(m_Sum) + value); }
-    void Subtract(double value) { m_Sum = float(double(m_Sum) - value); }
-    void HoldAtZero() { m_Sum = m_Sum < 0.0F ? 0.0F : m_Sum; }
-    float Get() const { return m_Sum; }
-
-private:
-    float m_Sum = 0.0F;
-};
-
 double square(double value)
 {
     return value * value;
 }
 
+/// Takes the mean off the middle of a window of data, to which the sum goes on.
+double centre(const double* middle, int half, int width, RunningSum& sum)
+{
+    sum.Subtract(middle[-half]);
+    sum.Add(middle[half]);
+    return *middle - double(sum.Get() / float(width));
+}
+
 } // namespace
 
-RunningNormalization NormalizeRunning(const double* data, int length, int window)
+RunningNormalization::RunningNormalization(RowWindow& rows, int width, int windows)
+    : m_Rows(rows), m_Width(width), m_Half((width - 1) / 2),
+      m_Centred(size_t(windows) + size_t(width) - 1), m_Roots(size_t(windows))
 {
-    const int half = (window - 1) / 2;
-    const int meanEnd = length - window / 2;
-    const auto width = float(window);
-    RunningNormalization result;
-    result.m_Centred.assign(data, data + length);
-    result.m_RootMeanSquare.resize(size_t(length));
-    double* centred = result.m_Centred.data();
-    float* roots = result.m_RootMeanSquare.data();
-
-    RunningSum sum;
-    std::for_each(data, data + window, [&](double value) { sum.Add(value); });
-    const auto centre = [&](int row) {
-        sum.Subtract(data[row - half]);
-        sum.Add(data[row + half]);
-        centred[row] = data[row] - double(sum.Get() / width);
-    };
-    for (int row = half; row < std::min(window, meanEnd); ++row)
-        centre(row);
-
-    RunningSum squares;
-    std::for_each(centred, centred + window, [&](double value) { squares.Add(square(value)); });
-    // Both sums wait for their last step most of the time: in one loop they wait together.
-    for (int row = 2 * half; row < length; ++row) {
-        if (row >= window && row < meanEnd)
-            centre(row);
-        squares.Subtract(square(centred[row - 2 * half]));
-        squares.Add(square(centred[row]));
-        squares.HoldAtZero();
-        roots[row - half] = std::sqrt(squares.Get() / width);
+    const double* data = readRows(1);
+    std::for_each(data, data + width, [this](double value) { m_Sum.Add(value); });
+    const int meanEnd = rows.GetLength() - width / 2;
+    for (int row = 0; row < width; ++row) {
+        const bool isMiddle = row >= m_Half && row < meanEnd;
+        const double value = isMiddle ? centre(data + row, m_Half, width, m_Sum) : data[row];
+        m_Centred[size_t(row)] = value;
+        m_Squares.Add(square(value));
     }
-    return result;
+}
+
+/// The rows of the next count windows, and those that the means of their last ones look at.
+const double* RunningNormalization::readRows(int count)
+{
+    const int end = m_Start + count + m_Width - 1;
+    return m_Rows.Get(m_Start, std::min(end + m_Half, m_Rows.GetLength()));
+}
+
+void RunningNormalization::Advance(int count)
+{
+    const double* data = readRows(count);
+    double* centred = m_Centred.data();
+    std::copy_n(centred + m_Count, m_Width - 1, centred);
+    const int meanEnd = m_Rows.GetLength() - m_Width / 2 - m_Start;
+    // Both sums wait for their last step most of the time: in one loop they wait together.
+    RunningSum sum = m_Sum;
+    RunningSum squares = m_Squares;
+    for (int i = 0; i < count; ++i) {
+        const int last = i + m_Width - 1;
+        if (m_Start + i > 0)
+            centred[last] = last < meanEnd ? centre(data + last, m_Half, m_Width, sum) : data[last];
+        squares.Subtract(square(centred[i]));
+        squares.Add(square(centred[i + 2 * m_Half]));
+        squares.HoldAtZero();
+        m_Roots[size_t(i)] = std::sqrt(squares.Get() / float(m_Width));
+    }
+    m_Sum = sum;
+    m_Squares = squares;
+    m_Start += count;
+    m_Count = count;
 }

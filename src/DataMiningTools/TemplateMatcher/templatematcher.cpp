@@ -4,11 +4,12 @@
 #include "blockcorrelation.h"
 #include "cutcollection.h"
 #include "dataset.h"
+#include "datatransformer.h"
 #include "directcorrelation.h"
 #include "exclusionmark.h"
 #include "patternsdataobject.h"
+#include "rowwindow.h"
 #include "runningnormalization.h"
-#include "searchcolumns.h"
 #include "wholecorrelation.h"
 #include <QElapsedTimer>
 #include <QLoggingCategory>
@@ -33,26 +34,40 @@ bool canMatch(const DataSet* data, const SignalTemplateDataObject* signal, int a
            signal->GetLength() <= end - start;
 }
 
-void correlate(const double* data, int length, const SignalTemplateDataObject& signal,
-               float* results)
+std::unique_ptr<double[]> copySignal(const SignalTemplateDataObject& signal)
 {
-    CorrelateByBlocks(data, length, signal.GetSignal(), signal.GetLength(), results);
+    int length = 0;
+    return DataTransformer(DataTransformer::TRANSFORM_NONE)
+        .TransformData(signal.GetSignal(), signal.GetLength(), length);
 }
 
-void correlateNormalized(const double* data, int length, const SignalTemplateDataObject& signal,
-                         float* results)
+void correlate(RowWindow& rows, const SignalTemplateDataObject& signal, float* results)
+{
+    const auto filter = copySignal(signal);
+    CorrelateByBlocks(rows, filter.get(), signal.GetLength(), results);
+}
+
+void correlateNormalized(RowWindow& rows, const SignalTemplateDataObject& signal, float* results)
 {
     const int width = signal.GetLength();
     const auto mean = double(float(signal.GetMean()));
-    std::vector<double> centred(signal.GetSignal(), signal.GetSignal() + width);
-    std::for_each(centred.begin(), centred.end(), [=](double& value) { value -= mean; });
+    const auto filter = copySignal(signal);
+    std::for_each(filter.get(), filter.get() + width, [=](double& value) { value -= mean; });
 
-    const RunningNormalization running = NormalizeRunning(data, length, width);
-    CorrelateByBlocks(running.m_Centred.data(), length, centred.data(), width, results);
     const auto deviation = float(signal.GetSd());
-    for (int i = 0; i < length; ++i) {
-        const float scale = deviation * running.m_RootMeanSquare[size_t(i)];
-        results[i] = results[i] / (scale == 0.0F ? 1.0F : scale) / float(width);
+    BlockCorrelation correlation(rows.GetLength(), filter.get(), width);
+    const int windows = rows.GetLength() - width + 1;
+    const int step = std::min(correlation.GetStep(), windows);
+    RunningNormalization running(rows, width, step);
+    float* middle = results + (width - 1) / 2;
+    for (int done = 0, count = 0; done < windows; done += count) {
+        count = std::min(step, windows - done);
+        running.Advance(count);
+        const double* sums = correlation.Correlate(running.GetCentred(), count);
+        for (int i = 0; i < count; ++i) {
+            const float scale = deviation * running.GetRootMeanSquares()[i];
+            middle[done + i] = float(sums[i]) / (scale == 0.0F ? 1.0F : scale) / float(width);
+        }
     }
 }
 
@@ -167,14 +182,13 @@ void TemplateMatcher::makeResults(int length)
 bool TemplateMatcher::matchAll(int start, int end, const QHash<QString, int>& attributeMap,
                                Progress& progress)
 {
-    SearchColumns columns(*m_DataSet, start, end);
     int done = 0;
     for (size_t c = 0; c < m_Results.size(); ++c) {
         const auto& collection = m_Pattern->GetSignalCollections()[int(c)]->GetSignals();
         for (const auto* signal : collection) {
             const int attribute = attributeMap.value(signal->GetAttributeName(), 0);
             if (canMatch(m_DataSet, signal, attribute, start, end) &&
-                !addMatches(columns.Get(attribute), *signal, m_Results[c]))
+                !addMatches(RowWindow(*m_DataSet, attribute, start, end), *signal, m_Results[c]))
                 return false;
             progress.SetValue(++done);
         }
@@ -185,16 +199,16 @@ bool TemplateMatcher::matchAll(int start, int end, const QHash<QString, int>& at
     return true;
 }
 
-bool TemplateMatcher::addMatches(const double* data, const SignalTemplateDataObject& signal,
+bool TemplateMatcher::addMatches(RowWindow rows, const SignalTemplateDataObject& signal,
                                  std::vector<float>& sum) const
 {
     if (getMeasureName(m_Measure).isEmpty())
         return false;
     std::vector<float> confidences(sum.size());
     if (m_Measure == MEASURE_CORRELATION)
-        correlate(data, int(sum.size()), signal, confidences.data());
+        correlate(rows, signal, confidences.data());
     else
-        correlateNormalized(data, int(sum.size()), signal, confidences.data());
+        correlateNormalized(rows, signal, confidences.data());
     addPositive(confidences, sum);
     return true;
 }
@@ -247,8 +261,8 @@ void TemplateMatcher::fastNormalizedRunningCorrelation(const DataSet* dataSet,
 {
     if (!canMatch(dataSet, signal, attribute, startIndex, endIndex))
         return;
-    SearchColumns columns(*dataSet, startIndex, endIndex);
-    correlateNormalized(columns.Get(attribute), columns.GetLength(), *signal, results);
+    RowWindow rows(*dataSet, attribute, startIndex, endIndex);
+    correlateNormalized(rows, *signal, results);
 }
 
 void TemplateMatcher::directCorrelation(const DataSet* dataSet,
@@ -257,8 +271,8 @@ void TemplateMatcher::directCorrelation(const DataSet* dataSet,
 {
     if (!canMatch(dataSet, signal, attribute, startIndex, endIndex))
         return;
-    SearchColumns columns(*dataSet, startIndex, endIndex);
-    CorrelateDirectly(columns.Get(attribute), columns.GetLength(), *signal, results);
+    RowWindow rows(*dataSet, attribute, startIndex, endIndex);
+    CorrelateDirectly(rows.Get(0, rows.GetLength()), rows.GetLength(), *signal, results);
 }
 
 void TemplateMatcher::normalizedCorrelation(const DataSet* dataSet,
@@ -267,10 +281,10 @@ void TemplateMatcher::normalizedCorrelation(const DataSet* dataSet,
 {
     if (!canMatch(dataSet, signal, attribute, startIndex, endIndex))
         return;
-    const int rows = dataSet->GetRowCount();
-    SearchColumns columns(*dataSet, 0, rows);
-    const double* column = columns.Get(attribute);
-    CorrelateNormalized(column + startIndex, endIndex - startIndex, *signal, {column, rows},
+    const int length = dataSet->GetRowCount();
+    RowWindow rows(*dataSet, attribute, 0, length);
+    const double* column = rows.Get(0, length);
+    CorrelateNormalized(column + startIndex, endIndex - startIndex, *signal, {column, length},
                         results);
 }
 
@@ -281,6 +295,6 @@ void TemplateMatcher::normalizedRunningCorrelation(const DataSet* dataSet,
 {
     if (!canMatch(dataSet, signal, attribute, startIndex, endIndex))
         return;
-    SearchColumns columns(*dataSet, startIndex, endIndex);
-    CorrelateNormalizedByWindow(columns.Get(attribute), columns.GetLength(), *signal, results);
+    RowWindow rows(*dataSet, attribute, startIndex, endIndex);
+    CorrelateNormalizedByWindow(rows.Get(0, rows.GetLength()), rows.GetLength(), *signal, results);
 }

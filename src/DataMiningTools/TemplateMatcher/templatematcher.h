@@ -9,6 +9,7 @@
 class CutCollection;
 class DataSet;
 class PatternsDataObject;
+class RowWindow;
 class SignalTemplateDataObject;
 
 /// Slides the signals of a template over a data set and tells, for each of the template's
@@ -88,7 +89,7 @@ public:
 private:
     bool match(int start, int end, const QHash<QString, int>& attributeMap, Progress& progress);
     bool matchAll(int start, int end, const QHash<QString, int>& attributeMap, Progress& progress);
-    bool addMatches(const double* data, const SignalTemplateDataObject& signal,
+    bool addMatches(RowWindow rows, const SignalTemplateDataObject& signal,
                     std::vector<float>& sum) const;
     bool refuse(const QString& message);
     void makeResults(int length);

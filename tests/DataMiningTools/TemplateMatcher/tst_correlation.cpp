@@ -1,4 +1,5 @@
 #include "blockcorrelation.h"
+#include "rowwindow.h"
 #include "signaltemplatedataobject.h"
 #include "templatematcher.h"
 #include "testdata.h"
@@ -149,7 +150,9 @@ void TestCorrelation::sumsProducts()
     TemplateMatcher::convolveFast(data.data(), length, filter.data(), filterLength, whole.data());
     QVERIFY2(worstDistance(whole, expected) <= 1, "whole");
     Confidences blocks(data.size(), 7.0F);
-    CorrelateByBlocks(data.data(), length, filter.data(), filterLength, blocks.data());
+    const auto table = MakeColumn(data);
+    RowWindow rows(*table, 0, 0, length);
+    CorrelateByBlocks(rows, filter.data(), filterLength, blocks.data());
     QVERIFY2(worstDistance(blocks, expected) <= 1, "blocks");
 }
 
