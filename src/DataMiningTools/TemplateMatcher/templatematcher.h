@@ -22,7 +22,7 @@ class TemplateMatcher
 public:
     enum Measure {
         MEASURE_CORRELATION = 0,           ///< sum of products, not scaled
-        MEASURE_NORMALIZED_CORRELATION = 1 ///< -1 to 1, up to rounding
+        MEASURE_NORMALIZED_CORRELATION = 1 ///< mostly -1 to 1, a little beyond at times
     };
 
     /// Borrows both. option is the caller's, the matcher only keeps it.
@@ -64,11 +64,12 @@ public:
                              int filterLength, float* results);
 
     /// All of these take rows startIndex to endIndex - 1, which exist, and a signal that is not
-    /// longer; otherwise they do nothing. An index into results counts from startIndex.
+    /// longer; otherwise they do nothing. Results are counted from startIndex.
     ///
     /// The correlation of the signal, centred by its stored mean, with the data without its
     /// running mean, over the stored deviation and the running root mean square. Where that is 0
-    /// the correlation is only divided by the length. See NormalizeRunning.
+    /// the correlation is only divided by the length. See RunningNormalization. Results of no
+    /// window stay as they are.
     static void fastNormalizedRunningCorrelation(const DataSet* dataSet,
                                                  const SignalTemplateDataObject* signal,
                                                  int attribute, float* results, int startIndex,
