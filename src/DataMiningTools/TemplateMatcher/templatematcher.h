@@ -27,6 +27,8 @@ public:
 
     /// Borrows both. option is the caller's, the matcher only keeps it.
     TemplateMatcher(DataSet* dataSet, PatternsDataObject* pattern, int option, int measure);
+    TemplateMatcher(const TemplateMatcher&) = delete;
+    TemplateMatcher& operator=(const TemplateMatcher&) = delete;
 
     /// Matches rows start to end - 1. attributeMap gives the attribute for a signal's attribute
     /// name: attribute 0 for a name that is not in it; a signal whose attribute does not exist

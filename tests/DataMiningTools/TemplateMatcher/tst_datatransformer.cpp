@@ -28,8 +28,6 @@ void TestDataTransformer::copiesAndDifferences()
     QCOMPARE(toVector(copy, size), Values({6, 8, 7}));
     const auto steps = DataTransformer(1).TransformData(data.get(), 1, 4, 0, size);
     QCOMPARE(toVector(steps, size), Values({5, 7}));
-    const auto derivative = DataTransformer(0).computeDerivative(data.get(), 0, 1, 0, size);
-    QCOMPARE(toVector(derivative, size), Values());
     QVERIFY(!DataTransformer(3).TransformData(data.get(), 0, 4, 0, size));
     const int outside[][3] = {{-1, 2, 0}, {0, 5, 0}, {3, 2, 0}, {0, 4, 2}, {0, 4, -1}};
     for (const auto& range : outside) {
@@ -67,9 +65,6 @@ void TestDataTransformer::warpsTime()
     std::vector<float> results(7, 7.0F);
     DTW(data.get(), &signal).ComputeDTW(0, results.data(), 0, 6);
     QCOMPARE(results, std::vector<float>({6e-20F, 6e-20F, 6e-20F, 0.0F, 3e-19F, 1.0F, 7.0F}));
-    DTW(data.get(), &signal).ComputeDTW(0, results.data(), 3, 5);
-    QCOMPARE(results[0], 0.0F);
-    QCOMPARE(results[1], 1.0F);
     DTW(data.get(), &signal).ComputeDTW(1, results.data(), 0, 6);
     QCOMPARE(results, std::vector<float>({0, 0, 0, 0, 0, 0, 7}));
 }
