@@ -7,6 +7,7 @@ set(SKERRYMOOR_FOLDERS_core
     CutHandler/PIPHandler
     DataHandler
     DataHandler/Processor
+    DataMiningTools/TemplateMatcher
     DataMiningTools/TemplateMatcher/Data
     FileHandler
     LabelHandler)
