@@ -14,6 +14,7 @@ set(SKERRYMOOR_FOLDERS_plot
     Visualizers/TimeIntensityGraph/Plot)
 
 set(SKERRYMOOR_FOLDERS_ui
+    DataMiningTools/TemplateMatcher/Data/Ui
     FileHandler/FileImporter
     GUI
     GroundTruith

@@ -52,6 +52,7 @@ public:
     void SetCollectionId(int id) { m_CollectionId = id; }
     int GetLength() const { return int(m_Signal.size()); }
     const double* GetSignal() const { return m_Signal.data(); }
+    const std::vector<double>& GetValues() const { return m_Signal; }
     double GetMean() const { return m_Mean; }
     void SetMean(double mean) { m_Mean = mean; }
     double GetSd() const { return m_Sd; }
