@@ -18,6 +18,7 @@ DatabaseControlPanel::DatabaseControlPanel(QWidget* parent)
     lists->addWidget(m_Collections, 1);
     lists->addWidget(m_Patterns, 1);
     auto* close = new QDialogButtonBox(QDialogButtonBox::Close);
+    close->button(QDialogButtonBox::Close)->setDefault(true);
     connect(close, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* layout = new QVBoxLayout(this);

@@ -29,7 +29,6 @@ RowList::RowList(const QString& caption, QWidget* parent)
 QPushButton* RowList::AddButton(const QString& text, const QString& toolTip, const QString& icon)
 {
     QPushButton* button = MakePanelButton(text, toolTip, icon);
-    button->setAutoDefault(false);
     m_Buttons->insertWidget(m_Buttons->count() - 1, button);
     return button;
 }

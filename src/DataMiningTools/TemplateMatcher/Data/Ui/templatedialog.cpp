@@ -60,8 +60,8 @@ void TemplateDialog::addSmoothing(QFormLayout* form)
     m_Smooth->setToolTip(tr("Store the signals smoothed"));
     m_Window->setValue(8);
     m_Window->setEnabled(false);
-    m_Window->setToolTip(tr("Rows on each side that a smoothed value depends on; as many times "
-                            "two at both ends stay as they are"));
+    m_Window->setToolTip(tr("Rows on each side that a value is smoothed over; twice as many at "
+                            "both ends stay raw"));
     connect(m_Smooth, &QCheckBox::toggled, m_Window, &QWidget::setEnabled);
     form->addRow(tr("Smooth "), m_Smooth);
     form->addRow(tr("Window Size "), m_Window);

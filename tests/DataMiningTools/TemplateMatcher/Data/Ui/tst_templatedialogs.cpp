@@ -400,6 +400,13 @@ void TestTemplateDialogs::survivesOthers()
     clickBelow(patterns, "View");
     QCOMPARE(TakeUserErrors(),
              QStringList(QStringLiteral("Error: Error: The pattern can't be read.")));
+
+    QVERIFY(run(otherConnection, "BEGIN EXCLUSIVE"));
+    panel.populateListWidget();
+    QCOMPARE(TakeUserErrors(),
+             QStringList(QStringLiteral(
+                 "Error: Error: The collections can't be read. (database is locked)")));
+    QCOMPARE(textsOf(listOf(&panel, "Collections")), QStringList(QStringLiteral("Templates")));
 }
 
 QTEST_MAIN(TestTemplateDialogs)
