@@ -5,7 +5,6 @@
 #include "databasequery.h"
 #include "rowlist.h"
 #include "viewpatternform.h"
-#include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -17,14 +16,14 @@ DatabaseControlPanel::DatabaseControlPanel(QWidget* parent)
     auto* lists = new QHBoxLayout;
     lists->addWidget(m_Collections, 1);
     lists->addWidget(m_Patterns, 1);
-    auto* close = new QDialogButtonBox(QDialogButtonBox::Close);
-    close->button(QDialogButtonBox::Close)->setDefault(true);
-    connect(close, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* close = new QPushButton(tr("Close"));
+    close->setDefault(true);
+    connect(close, &QPushButton::clicked, this, &QDialog::reject);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel(tr("<h2>Database Control Panel</h2>")));
     layout->addLayout(lists, 1);
-    layout->addWidget(close);
+    layout->addWidget(close, 0, Qt::AlignRight);
     resize(640, 400);
     populateListWidget();
     m_Collections->setFocus();

@@ -2,7 +2,6 @@
 
 #include "databasemessages.h"
 #include "databasequery.h"
-#include "dialogbuttons.h"
 #include "oldlineplotwidget.h"
 #include "rowlist.h"
 #include <QFormLayout>
