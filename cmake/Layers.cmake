@@ -18,6 +18,7 @@ set(SKERRYMOOR_FOLDERS_plot
 
 set(SKERRYMOOR_FOLDERS_ui
     CutHandler/Ui
+    DataMiningTools/TemplateMatcher/Data/Ui
     FileHandler/FileImporter
     GUI
     GUI/DataProcessor
