@@ -5,6 +5,7 @@
 set(SKERRYMOOR_FOLDERS_core
     CutHandler
     DataHandler
+    DataMiningTools/TemplateMatcher
     DataMiningTools/TemplateMatcher/Data
     FileHandler
     LabelHandler)
@@ -14,10 +15,13 @@ set(SKERRYMOOR_FOLDERS_plot
     Visualizers/TimeIntensityGraph/Plot)
 
 set(SKERRYMOOR_FOLDERS_ui
+    DataMiningTools/TemplateMatcher/TemplateWizard
     FileHandler/FileImporter
     GUI
     GroundTruith
-    Visualizers/TimeIntensityGraph)
+    Visualizers/HeatMap
+    Visualizers/TimeIntensityGraph
+    Visualizers/TimeIntensityGraph/TemplateMatcher)
 
 # Sets OUT to the layer of FOLDER (relative to src/ or tests/), or to an empty string.
 function(skerrymoor_layer_of FOLDER OUT)
