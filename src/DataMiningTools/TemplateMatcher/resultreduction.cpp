@@ -65,6 +65,16 @@ std::vector<int> computeMatchPixels(const std::vector<int>& centers, const StepS
     return pixels;
 }
 
+std::vector<int> computeMatchPixels(const CenterPoints& matches, const StepScale& scale)
+{
+    std::vector<int> all;
+    for (const std::vector<int>& centers : matches) {
+        const std::vector<int> pixels = computeMatchPixels(centers, scale);
+        all.insert(all.end(), pixels.begin(), pixels.end());
+    }
+    return all;
+}
+
 std::vector<int> computeMatchDistribution(const CenterPoints& matches, const StepScale& scale,
                                           int binWidth)
 {

@@ -25,6 +25,9 @@ std::vector<PositionValue> computePositionValueList(const SearchResults& results
 /// left out.
 std::vector<int> computeMatchPixels(const std::vector<int>& centers, const StepScale& scale);
 
+/// The pixels of all frequency factors, one factor after the other.
+std::vector<int> computeMatchPixels(const CenterPoints& matches, const StepScale& scale);
+
 /// How many of all matches stand in each bin of that many pixels, counted from the first step's
 /// pixel.
 std::vector<int> computeMatchDistribution(const CenterPoints& matches, const StepScale& scale,
