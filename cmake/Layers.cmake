@@ -15,6 +15,7 @@ set(SKERRYMOOR_FOLDERS_plot
     Visualizers/TimeIntensityGraph/Plot)
 
 set(SKERRYMOOR_FOLDERS_ui
+    DataMiningTools/TemplateMatcher/Data/Ui
     DataMiningTools/TemplateMatcher/TemplateWizard
     FileHandler/FileImporter
     GUI
