@@ -1,5 +1,6 @@
 #include "templatematcher.h"
 
+#include "alignedarray.h"
 #include "blockcorrelation.h"
 #include "cutcollection.h"
 #include "dataset.h"
@@ -35,7 +36,7 @@ bool canMatch(const DataSet* data, const SignalTemplateDataObject* signal, int a
 void correlate(const double* data, int length, const SignalTemplateDataObject& signal,
                float* results)
 {
-    BlockCorrelation(length, signal.GetLength()).Correlate(data, signal.GetSignal(), results);
+    CorrelateByBlocks(data, length, signal.GetSignal(), signal.GetLength(), results);
 }
 
 void correlateNormalized(const double* data, int length, const SignalTemplateDataObject& signal,
@@ -47,7 +48,7 @@ void correlateNormalized(const double* data, int length, const SignalTemplateDat
     std::for_each(centred.begin(), centred.end(), [=](double& value) { value -= mean; });
 
     const RunningNormalization running = NormalizeRunning(data, length, width);
-    BlockCorrelation(length, width).Correlate(running.m_Centred.data(), centred.data(), results);
+    CorrelateByBlocks(running.m_Centred.data(), length, centred.data(), width, results);
     const auto deviation = float(signal.GetSd());
     for (int i = 0; i < length; ++i) {
         const float scale = deviation * running.m_RootMeanSquare[size_t(i)];

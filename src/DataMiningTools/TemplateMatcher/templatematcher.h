@@ -58,7 +58,7 @@ public:
 
     /// The correlation of data with a filter not longer than it, in one transform of all data:
     /// results[s + (filterLength - 1) / 2] becomes the sum of data[s + j] * filter[j]. Other
-    /// results stay as they are. What BlockCorrelation gives is measured by this one.
+    /// results stay as they are. What CorrelateByBlocks gives is measured by this one.
     static void convolveFast(const double* data, int dataLength, const double* filter,
                              int filterLength, float* results);
 

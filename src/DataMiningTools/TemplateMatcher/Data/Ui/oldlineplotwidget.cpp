@@ -7,5 +7,7 @@ OldLinePlotWidget::OldLinePlotWidget(const std::vector<double>& values, const QS
     setWindowTitle(name);
     setMinimumSize(200, 120);
     resize(600, 300);
+    // Ends the time axis inside the window.
+    SetRightMargin(40);
     SetData(m_Values.data(), int(m_Values.size()), name);
 }

@@ -2,6 +2,7 @@
 
 #include "idlistwidgetitem.h"
 #include "panelbutton.h"
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -13,6 +14,7 @@ RowList::RowList(const QString& caption, QWidget* parent)
 {
     auto* label = new QLabel(caption);
     label->setBuddy(m_List);
+    setFocusProxy(m_List);
     m_Buttons->addStretch();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -69,6 +71,12 @@ int RowList::GetId(const QListWidgetItem* item)
 {
     const auto* row = dynamic_cast<const IDListWidgetItem*>(item);
     return row ? row->GetId() : -1;
+}
+
+void RowList::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        QWidget::keyPressEvent(event);
 }
 
 void RowList::updateButtons()

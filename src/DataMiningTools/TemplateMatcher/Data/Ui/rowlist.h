@@ -4,11 +4,9 @@
 #include <QVector>
 #include <QWidget>
 
-class QLabel;
-class QListWidget;
-
-class QPushButton;
 class QHBoxLayout;
+class QListWidget;
+class QPushButton;
 
 /// A captioned list of rows of the template database, with buttons under it.
 class RowList : public QWidget
@@ -42,6 +40,10 @@ public:
 signals:
     /// The user went to another row or activated one; null for none.
     void RowChosen(QListWidgetItem* item);
+
+protected:
+    /// Keeps an Enter that activated a row from the buttons of the dialog.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void updateButtons();

@@ -92,6 +92,8 @@ QWidget* TemplateDialog::makePlots()
     for (int i = 0; i < m_DataSet->GetAttributeCount(); ++i) {
         auto* plot = new LinePlotWidget(i);
         plot->setMinimumSize(250, 300);
+        // Ends the time axis inside the plot, so that the whole segment shows.
+        plot->SetRightMargin(40);
         plot->SetDataSet(m_DataSet);
         plot->SetRange(m_From, m_To);
         column->addWidget(plot);
