@@ -33,6 +33,8 @@ MatchPositionsBox::MatchPositionsBox(DataSet* dataSet, QWidget* parent)
     legend->addWidget(m_ColorMap, 1);
     legend->addStretch();
     auto* layout = new QVBoxLayout(this);
+    // Plot and maps are one picture; and a small screen has to hold them all.
+    layout->setSpacing(2);
     layout->addLayout(form);
     layout->addWidget(m_Plot, 1);
     layout->addLayout(legend);

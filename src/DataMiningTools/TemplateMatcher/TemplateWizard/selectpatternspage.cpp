@@ -12,10 +12,12 @@
 namespace
 {
 
-auto findRow(const QVector<RowList::Row>& rows, int id)
+// -1 when there is none.
+int findRow(const QVector<RowList::Row>& rows, int id)
 {
-    return std::find_if(rows.begin(), rows.end(),
-                        [id](const RowList::Row& row) { return row.m_Id == id; });
+    const auto found = std::find_if(rows.begin(), rows.end(),
+                                    [id](const RowList::Row& row) { return row.m_Id == id; });
+    return found == rows.end() ? -1 : int(found - rows.begin());
 }
 
 } // namespace
@@ -73,28 +75,27 @@ void SelectPatternsPage::populatePatternsList(QListWidgetItem* collection)
 void SelectPatternsPage::showRows()
 {
     QVector<RowList::Row> rows;
-    std::copy_if(m_Rows.begin(), m_Rows.end(), std::back_inserter(rows), [this](const auto& row) {
-        return findRow(m_ChosenRows, row.m_Id) == m_ChosenRows.end();
-    });
+    std::copy_if(m_Rows.begin(), m_Rows.end(), std::back_inserter(rows),
+                 [this](const auto& row) { return findRow(m_ChosenRows, row.m_Id) == -1; });
     m_Patterns->SetRows(rows);
     m_ChosenPatterns->SetRows(m_ChosenRows);
 }
 
 void SelectPatternsPage::addTemplate()
 {
-    const auto row = findRow(m_Rows, m_Patterns->GetCurrentId());
-    if (row == m_Rows.end())
+    const int row = findRow(m_Rows, m_Patterns->GetCurrentId());
+    if (row == -1)
         return;
-    m_ChosenRows.append(*row);
+    m_ChosenRows.append(m_Rows[row]);
     showRows();
 }
 
 void SelectPatternsPage::removeTemplate()
 {
-    const auto row = findRow(m_ChosenRows, m_ChosenPatterns->GetCurrentId());
-    if (row == m_ChosenRows.end())
+    const int row = findRow(m_ChosenRows, m_ChosenPatterns->GetCurrentId());
+    if (row == -1)
         return;
-    m_ChosenRows.remove(int(row - m_ChosenRows.begin()));
+    m_ChosenRows.remove(row);
     showRows();
 }
 

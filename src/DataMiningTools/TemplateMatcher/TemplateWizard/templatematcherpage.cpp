@@ -67,12 +67,16 @@ QGroupBox* TemplateMatcherPage::makeResultBox()
     auto* layout = new QVBoxLayout(box);
     layout->addLayout(makeResultFields());
     layout->addWidget(m_Plot, 1);
-    for (ResultMapWidget* map : {static_cast<ResultMapWidget*>(m_HeatMap),
-                                 static_cast<ResultMapWidget*>(m_ThresholdMap)}) {
+    for (ResultMapWidget* map : maps()) {
         map->SetDataSet(dataSet());
         layout->addWidget(map);
     }
     return box;
+}
+
+QList<ResultMapWidget*> TemplateMatcherPage::maps() const
+{
+    return {m_HeatMap, m_ThresholdMap};
 }
 
 QLayout* TemplateMatcherPage::makeResultFields()
@@ -87,6 +91,9 @@ QLayout* TemplateMatcherPage::makeResultFields()
             &TemplateMatcherPage::colorMapChanged);
     connect(attributes, QOverload<int>::of(&QComboBox::activated), m_Plot,
             &PlotAreaWidget::ClearAndAddPlot);
+    for (ResultMapWidget* map : maps())
+        connect(attributes, QOverload<int>::of(&QComboBox::activated), map,
+                &ResultMapWidget::SetAttribute);
     connect(m_ThresholdSlider, &ThresholdSlider::ValueChanged, this,
             &TemplateMatcherPage::setNormThreshold);
     auto* form = new QFormLayout;
@@ -100,8 +107,8 @@ void TemplateMatcherPage::clearResults()
 {
     m_Name->clear();
     m_Description->clear();
-    m_HeatMap->SetResults(nullptr, 0, 0);
-    m_ThresholdMap->SetResults(nullptr, 0, 0);
+    for (ResultMapWidget* map : maps())
+        map->SetResults(nullptr, 0, 0);
 }
 
 void TemplateMatcherPage::showResults()
@@ -109,8 +116,8 @@ void TemplateMatcherPage::showResults()
     const SearchResults found = searchResults();
     m_Name->setText(pattern()->GetName());
     m_Description->setText(pattern()->GetDesc());
-    m_HeatMap->SetResults(found.m_Values, found.m_Factors, found.m_Steps);
-    m_ThresholdMap->SetResults(found.m_Values, found.m_Factors, found.m_Steps);
+    for (ResultMapWidget* map : maps())
+        map->SetResults(found.m_Values, found.m_Factors, found.m_Steps);
 }
 
 void TemplateMatcherPage::setNormThreshold(int value)
@@ -120,8 +127,8 @@ void TemplateMatcherPage::setNormThreshold(int value)
 
 void TemplateMatcherPage::colorMapChanged(int scheme)
 {
-    m_HeatMap->SetColorMap(scheme);
-    m_ThresholdMap->SetColorMap(scheme);
+    for (ResultMapWidget* map : maps())
+        map->SetColorMap(scheme);
 }
 
 void TemplateMatcherPage::viewSignal()

@@ -6,6 +6,7 @@ class PlotAreaWidget;
 class QGroupBox;
 class QLabel;
 class ResultFilterPage;
+class ResultMapWidget;
 class ThresholdMap;
 class ThresholdSlider;
 class TwoDimensionalHeatMapViz;
@@ -38,6 +39,7 @@ private:
     QGroupBox* makeTemplateBox();
     QGroupBox* makeResultBox();
     QLayout* makeResultFields();
+    QList<ResultMapWidget*> maps() const;
 
     ResultFilterPage* m_ResultPage;
     QLabel* m_Name;

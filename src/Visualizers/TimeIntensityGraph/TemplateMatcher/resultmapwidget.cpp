@@ -21,7 +21,7 @@ constexpr int legendColorMap = 3;
 
 ResultMapWidget::ResultMapWidget(QWidget* parent) : QWidget(parent), m_ColorMap(legendColorMap)
 {
-    setMinimumHeight(30);
+    setMinimumHeight(24);
     setCursor(Qt::CrossCursor);
     setToolTip(tr("Drag with the left button to reject matches, with the right button to see the "
                   "data."));
