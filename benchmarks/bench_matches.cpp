@@ -1,6 +1,12 @@
+#include "cutcollection.h"
 #include "matchextraction.h"
+#include "patternsdataobject.h"
+#include "recordingfile.h"
+#include "resultfilterpage.h"
 #include "resultreduction.h"
 #include "stepscale.h"
+#include <QCoreApplication>
+#include <QSlider>
 #include <benchmark/benchmark.h>
 #include <random>
 
@@ -44,5 +50,50 @@ void BM_ComputePositionValueList(benchmark::State& state)
         benchmark::DoNotOptimize(computePositionValueList(results, StepScale::OverAll(steps, 800)));
 }
 BENCHMARK(BM_ComputePositionValueList)->Unit(benchmark::kMillisecond);
+
+// A template of three attributes at three frequency factors.
+std::unique_ptr<PatternsDataObject> makePattern(const DataSet& data)
+{
+    auto pattern = std::make_unique<PatternsDataObject>();
+    for (const int length : {200, 400, 800}) {
+        auto* collection = new SignalTemplateCollectionDataObject(length / 200.0);
+        for (int attribute = 0; attribute < data.GetAttributeCount(); ++attribute) {
+            auto* signal = new SignalTemplateDataObject;
+            signal->SetSignal(std::vector<double>(size_t(length), 1.0).data(), length);
+            signal->setAttributeName(data.GetAttributeName(attribute));
+            collection->AddSignal(signal);
+        }
+        pattern->AddSignalCollection(collection);
+    }
+    return pattern;
+}
+
+// From the move of the slider to the repainted page.
+void BM_MoveThreshold(benchmark::State& state)
+{
+    const SearchResults results = longResults();
+    const auto data = MakeRecording(steps, 3);
+    data->SetAttributeNames(
+        new QStringList{QStringLiteral("X"), QStringLiteral("Y"), QStringLiteral("Z")});
+    data->ComputeRanges();
+    const auto pattern = makePattern(*data);
+    QHash<QString, int> attributes;
+    for (int i = 0; i < data->GetAttributeCount(); ++i)
+        attributes.insert(data->GetAttributeName(i), i);
+    const QList<int> nothing;
+    ResultFilterPage page(data.get(), nullptr, CutSegment::SEGMENT_CUT, &nothing);
+    page.resize(900, 600);
+    page.show();
+    page.SetResults(results.m_Values, factors, steps, pattern.get(), 0.8F, attributes);
+    QCoreApplication::processEvents();
+    auto* slider = page.findChild<QSlider*>();
+    bool isUp = false;
+    for (auto _ : state) {
+        isUp = !isUp;
+        slider->setValue(int(state.range(0)) + (isUp ? 1 : -1));
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(BM_MoveThreshold)->Arg(5)->Arg(80)->Arg(99)->Unit(benchmark::kMillisecond);
 
 } // namespace

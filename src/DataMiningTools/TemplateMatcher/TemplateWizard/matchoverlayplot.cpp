@@ -13,7 +13,9 @@ MatchOverlayPlot::MatchOverlayPlot(DataSet* dataSet, const SignalTemplateDataObj
 {
     setMinimumHeight(150);
     setCursor(Qt::CrossCursor);
-    setToolTip(tr("Drag a box over the lines of matches to reject them."));
+    setToolTip(
+        tr("The signal of the template in colour, and the matches. Of many matches only some "
+           "are drawn, evenly chosen. Drag a box over lines to reject those matches."));
 }
 
 void MatchOverlayPlot::ShowMatches(const std::vector<Match>& matches,

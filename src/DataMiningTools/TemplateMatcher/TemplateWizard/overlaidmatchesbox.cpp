@@ -7,11 +7,13 @@
 #include <QFormLayout>
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace
 {
-constexpr int mostLines = 300;
-}
+// In all plots together: more would neither be told apart nor be painted while a slider moves.
+constexpr int mostLines = 400;
+} // namespace
 
 OverlaidMatchesBox::OverlaidMatchesBox(QWidget* parent)
     : QGroupBox(parent), m_PlotLayout(new QVBoxLayout), m_Transparency(new QDoubleSpinBox)
@@ -64,7 +66,8 @@ void OverlaidMatchesBox::SetPattern(DataSet* dataSet, const PatternsDataObject& 
 
 void OverlaidMatchesBox::ShowMatches(const CenterPoints& matches, const std::vector<int>& widths)
 {
-    const std::vector<Match> chosen = ChooseEvenly(matches, mostLines);
+    const int plots = std::max(m_OverlayPlots.size(), 1);
+    const std::vector<Match> chosen = ChooseEvenly(matches, std::max(mostLines / plots, 1));
     for (MatchOverlayPlot* plot : qAsConst(m_OverlayPlots))
         plot->ShowMatches(chosen, widths);
 }

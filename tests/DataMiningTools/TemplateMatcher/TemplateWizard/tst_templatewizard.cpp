@@ -293,7 +293,7 @@ void TestTemplateWizard::drawsAFewOfManyMatches()
     wizard.show();
     const QWidget& page = *wizard.currentPage();
     QCOMPARE(statistics(page), found(4000 / strokeLength));
-    QCOMPARE(page.findChild<MatchOverlayPlot*>()->GetLineCount(), 301);
+    QCOMPARE(page.findChild<MatchOverlayPlot*>()->GetLineCount(), 401);
 }
 
 void TestTemplateWizard::handsTheThresholdOn()
