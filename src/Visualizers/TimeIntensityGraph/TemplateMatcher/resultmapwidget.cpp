@@ -163,7 +163,8 @@ void ResultMapWidget::mousePressEvent(QMouseEvent* event)
 {
     const bool isBandButton =
         event->button() == Qt::LeftButton || event->button() == Qt::RightButton;
-    if (!isBandButton || m_Band.m_Active || m_Results.IsEmpty())
+    const bool isAlone = event->buttons() == event->button();
+    if (!isBandButton || !isAlone || m_Results.IsEmpty())
         return;
     m_BandButton = event->button();
     m_Band.Begin(event->pos().x(), double(makeScale().GetStart()));

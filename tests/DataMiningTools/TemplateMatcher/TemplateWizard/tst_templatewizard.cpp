@@ -202,6 +202,9 @@ void TestTemplateWizard::leadsFromPatternToSegments()
     setThreshold(page, 80);
     setThreshold(page, 50);
     QCOMPARE(statistics(page), found(1));
+    page.findChild<QSpinBox*>()->setFocus();
+    QTest::keyClick(page.findChild<QSpinBox*>(), Qt::Key_Return);
+    QVERIFY(wizard.isVisible());
 
     QCOMPARE(ToText(*m_Cuts), before);
     wizard.button(QWizard::FinishButton)->click();

@@ -71,11 +71,6 @@ QSet<int> differentColumns(const QImage& a, const QImage& b)
     return columns;
 }
 
-QList<QDialog*> openPlots(const QWidget& map)
-{
-    return map.findChildren<QDialog*>();
-}
-
 void dragRight(QWidget& map, int from, int to)
 {
     QTest::mousePress(&map, Qt::RightButton, {}, {from, 10});
@@ -182,9 +177,6 @@ void TestResultMaps::zoomsIn()
     const int x = (mapWidth - 49) / 2;
     DragMouse(map, {x - 5, 5}, {x + 5, 9});
     QCOMPARE(map.GetRemovedSteps(), QList<int>{60});
-    const QImage zoomed = map.grab().toImage();
-    map.SetZoomRange(0, 0);
-    QVERIFY(map.grab().toImage() != zoomed);
 }
 
 void TestResultMaps::opensAPlotOfASpan()
@@ -194,11 +186,11 @@ void TestResultMaps::opensAPlotOfASpan()
     ThresholdMap map;
     results.ShowOn(map);
     dragRight(map, 100, 200);
-    QVERIFY(openPlots(map).isEmpty());
+    QVERIFY(!map.findChild<QDialog*>());
     map.SetDataSet(data.get());
     dragRight(map, 200, 100);
-    QCOMPARE(openPlots(map).size(), 1);
-    const QDialog* dialog = openPlots(map).first();
+    const auto* dialog = map.findChild<QDialog*>();
+    QVERIFY(dialog);
     QCOMPARE(dialog->windowTitle(), QStringLiteral("Line Plot"));
     QCOMPARE(dialog->size(), QSize(600, 300));
     int from = 0;
