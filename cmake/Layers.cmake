@@ -5,6 +5,7 @@
 set(SKERRYMOOR_FOLDERS_core
     CutHandler
     DataHandler
+    DataMiningTools/RuleAssociationWizard
     DataMiningTools/TemplateMatcher/Data
     FileHandler
     LabelHandler)
@@ -14,6 +15,8 @@ set(SKERRYMOOR_FOLDERS_plot
     Visualizers/TimeIntensityGraph/Plot)
 
 set(SKERRYMOOR_FOLDERS_ui
+    DataMiningTools/RuleAssociationWizard/Ui
+    DataMiningTools/TemplateMatcher/TemplateWizard
     FileHandler/FileImporter
     GUI
     GroundTruith
