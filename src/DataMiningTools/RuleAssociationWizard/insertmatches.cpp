@@ -5,7 +5,8 @@
 #include "stepprogress.h"
 #include <algorithm>
 
-int InsertMatches(CutCollection& cuts, const MatchList& matches, int searchMode, Progress& progress)
+int InsertMatches(CutCollection& cuts, const SearchMatches& matches, int searchMode,
+                  Progress& progress)
 {
     progress.SetLabelText(QStringLiteral("Initalizing Cut Insertion"));
     progress.SetRange(0, matches.size());

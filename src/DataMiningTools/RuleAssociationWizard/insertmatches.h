@@ -1,6 +1,6 @@
 #pragma once
 
-#include "match.h"
+#include "searchmatch.h"
 
 class CutCollection;
 class Progress;
@@ -8,5 +8,5 @@ class Progress;
 /// Makes matches into segments that await a decision and returns how many there were made. A match
 /// across the bounds of a segment makes none; ends in the wrong order are exchanged. When a search
 /// refines earlier results, searchMode being their state, those are removed first.
-int InsertMatches(CutCollection& cuts, const MatchList& matches, int searchMode,
+int InsertMatches(CutCollection& cuts, const SearchMatches& matches, int searchMode,
                   Progress& progress);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "match.h"
+#include "searchmatch.h"
 #include <QStringList>
 #include <vector>
 
@@ -34,7 +34,7 @@ public:
     void Extract(Progress& progress);
     /// Each stretch once, with the number of ways in which the rule leads to it, in the order in
     /// which it was found first.
-    const MatchList& GetMatches() const { return m_Matches; }
+    const SearchMatches& GetMatches() const { return m_Matches; }
 
 private:
     /// A segment of a label and the number of ways in which the rule so far leads to it.
@@ -54,5 +54,5 @@ private:
     int m_SearchMode;
     int m_SearchLength = 0;
     QStringList m_RuleLabels;
-    MatchList m_Matches;
+    SearchMatches m_Matches;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "match.h"
+#include "searchmatch.h"
 #include <vector>
 
 class CutCollection;
@@ -42,7 +42,7 @@ public:
     /// exist, there are none.
     void Extract(Progress& progress);
     /// From the first row of a run to its last, in the order of the segments.
-    const MatchList& GetMatches() const { return m_Matches; }
+    const SearchMatches& GetMatches() const { return m_Matches; }
 
 private:
     bool canSearch() const;
@@ -55,5 +55,5 @@ private:
     int m_SearchMode;
     std::vector<ThresholdParameter> m_Parameters;
     int m_MinimumLength = 0;
-    MatchList m_Matches;
+    SearchMatches m_Matches;
 };

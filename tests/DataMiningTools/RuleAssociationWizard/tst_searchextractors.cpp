@@ -14,10 +14,10 @@ namespace
 
 const double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-QString toText(const MatchList& matches)
+QString toText(const SearchMatches& matches)
 {
     QStringList texts;
-    for (const Match& match : matches) {
+    for (const SearchMatch& match : matches) {
         const QString count =
             match.m_Count == 1 ? QString() : QStringLiteral("x%1").arg(match.m_Count);
         texts.append(QStringLiteral("(%1,%2)%3").arg(match.m_From).arg(match.m_To).arg(count));
@@ -58,12 +58,20 @@ QString scanForRuns(const DataSet& data, const CutCollection& cuts, int searchMo
             isOpen = isMet;
         }
     }
-    MatchList matches;
+    SearchMatches matches;
     for (const auto& pair : pairs) {
         if (pair.second - pair.first >= minimumLength)
             matches.append({pair.first, pair.second});
     }
     return toText(matches);
+}
+
+// Leaves a segment without rows; the next one has them.
+void giveRowsAway(CutCollection& cuts, int index)
+{
+    CutSegment* segment = cuts.GetSegment(index);
+    cuts.GetSegment(index + 1)->MoveFrom(segment->GetFrom());
+    segment->MoveTo(segment->GetFrom());
 }
 
 /// Segments of behaviours "A", "B", ... as the text of MakeCuts tells: each labelled segment takes
@@ -87,8 +95,8 @@ struct LabelledCuts {
     LabelCollection m_Labels;
 };
 
-MatchList findRule(const LabelledCuts& cuts, const QString& rule, int length, int rows,
-                   int searchMode = CutSegment::SEGMENT_CUT)
+SearchMatches findRule(const LabelledCuts& cuts, const QString& rule, int length, int rows,
+                       int searchMode = CutSegment::SEGMENT_CUT)
 {
     const auto data = MakeColumn(std::vector<double>(size_t(rows)));
     RuleExtractor extractor(data.get(), &cuts.m_Cuts, &cuts.m_Labels, searchMode);
@@ -100,7 +108,7 @@ MatchList findRule(const LabelledCuts& cuts, const QString& rule, int length, in
 }
 
 // The list as it grows by the rule's labels, each pair compared.
-MatchList scanForRule(const LabelledCuts& cuts, const QString& rule, int length)
+SearchMatches scanForRule(const LabelledCuts& cuts, const QString& rule, int length)
 {
     QList<CutSegment*> current;
     for (int k = 0; k < rule.size(); ++k) {
@@ -117,7 +125,7 @@ MatchList scanForRule(const LabelledCuts& cuts, const QString& rule, int length)
         }
         current = followers;
     }
-    MatchList matches;
+    SearchMatches matches;
     for (const CutSegment* s : current) {
         int index = 0;
         const CutSegment* n = cuts.m_Cuts.FindSegment(s->GetTo() + 1, index);
@@ -173,7 +181,7 @@ void TestSearchExtractors::runs()
     const auto data =
         MakeColumn({9, 9, 9, -9, 3, -1, 0, -2, notANumber, -1.5, 9, 0, notANumber, 1});
     CutCollection cuts;
-    MakeCuts(cuts, "4L 6 10 11R 13 13 14L");
+    MakeCuts(cuts, "4L 6 10 11R 13 14L");
     QCOMPARE(findRuns(*data, cuts, 1, {{op, 0, value}}, minimumLength), expected);
 }
 
@@ -200,7 +208,8 @@ void TestSearchExtractors::runsOfRandomData()
             lines.append(QStringLiteral("%1 %2").arg(random() % 4).arg(int(random() % 5) - 2));
         const auto data = MakeDataSet(lines.join(QLatin1Char('\n')).toLatin1().constData());
         CutCollection cuts;
-        MakeCuts(cuts, "7 7 20L 33 40R 40 60");
+        MakeCuts(cuts, "7 9 20L 33 40R 41 60");
+        giveRowsAway(cuts, int(random() % 6));
         const std::vector<ThresholdParameter> parameters{
             {int(random() % 4), 0, double(random() % 4)},
             {int(random() % 4), 1, int(random() % 5) - 2.0}};
@@ -262,21 +271,22 @@ void TestSearchExtractors::rulesOfRandomLabels()
         QString behaviours;
         int end = 0;
         for (int i = 0; i < 30; ++i) {
-            // Also segments without rows.
-            end += int(random() % 4) * 50;
+            end += int(random() % 3 + 1) * 50;
             const bool isLabelled = random() % 3 != 0;
             ends.append(QString::number(end) % QLatin1String(isLabelled ? "L" : ""));
             if (isLabelled)
                 behaviours.append(QLatin1Char(char('A' + random() % 3)));
         }
         ends.append(QString::number(end + 200));
-        const LabelledCuts cuts(ends.join(QLatin1Char(' ')).toLatin1().constData(), behaviours);
+        LabelledCuts cuts(ends.join(QLatin1Char(' ')).toLatin1().constData(), behaviours);
+        giveRowsAway(cuts.m_Cuts, int(random() % 30));
+        giveRowsAway(cuts.m_Cuts, int(random() % 30));
         for (const char* rule : {"A", "AB", "BAC", "AAAA"}) {
-            MatchList once = findRule(cuts, QString::fromLatin1(rule), 60, end + 200);
-            const MatchList all = scanForRule(cuts, QString::fromLatin1(rule), 60);
+            SearchMatches once = findRule(cuts, QString::fromLatin1(rule), 60, end + 200);
+            const SearchMatches all = scanForRule(cuts, QString::fromLatin1(rule), 60);
             QCOMPARE(CountMatches(once), quint64(all.size()));
-            for (Match& match : once) {
-                const Match single{match.m_From, match.m_To};
+            for (SearchMatch& match : once) {
+                const SearchMatch single{match.m_From, match.m_To};
                 QCOMPARE(match.m_Count, quint64(all.count(single)));
             }
             found += CountMatches(once);
@@ -294,9 +304,9 @@ void TestSearchExtractors::countsManyWays()
     const LabelledCuts cuts((ends + QStringLiteral("1000")).toLatin1().constData(),
                             QString(400, QLatin1Char('A')));
     // The ends of the first of two lie from row 198 to row 798.
-    const MatchList few = findRule(cuts, QStringLiteral("AA"), 5, 1000);
+    const SearchMatches few = findRule(cuts, QStringLiteral("AA"), 5, 1000);
     QCOMPARE(toText(few), QStringLiteral("(800,805)x301"));
-    const MatchList many = findRule(cuts, QString(40, QLatin1Char('A')), 5, 1000);
+    const SearchMatches many = findRule(cuts, QString(40, QLatin1Char('A')), 5, 1000);
     QCOMPARE(CountMatches(many), RuleExtractor::MaximumWays);
 }
 
@@ -320,7 +330,7 @@ void TestSearchExtractors::inserts()
     MakeCuts(cuts, "20 30R 40L 60");
     NoProgress progress;
     // Reversed ends, and one across a boundary.
-    const MatchList matches{{5, 10}, {18, 15}, {25, 27}, {35, 45}};
+    const SearchMatches matches{{5, 10}, {18, 15}, {25, 27}, {35, 45}};
     QCOMPARE(InsertMatches(cuts, matches, searchMode, progress), 3);
     QTEST(ToText(cuts), "expected");
 }
