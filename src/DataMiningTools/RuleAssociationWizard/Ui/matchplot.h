@@ -1,0 +1,34 @@
+#pragma once
+
+#include "searchmatch.h"
+#include <QGroupBox>
+
+class DataSet;
+class QComboBox;
+class SelectionMultipleLinePlotWidget;
+
+/// What a search has found, over each other in a plot in which the user can reject matches.
+class MatchPlot : public QGroupBox
+{
+    Q_OBJECT
+public:
+    MatchPlot(const QString& title, DataSet* dataSet, QWidget* parent = nullptr);
+
+    void SetMatches(const SearchMatches& matches);
+    /// All but the rejected ones.
+    const SearchMatches& GetMatches() const { return m_Matches; }
+
+signals:
+    /// The user has rejected matches.
+    void MatchesRejected();
+
+private:
+    void dropRejected();
+
+    DataSet* m_DataSet;
+    SearchMatches m_Matches;
+    QComboBox* m_Attribute;
+    SelectionMultipleLinePlotWidget* m_Plot;
+    // The plot remembers all spans that were ever rejected in it.
+    int m_KnownRejections = 0;
+};
