@@ -40,6 +40,8 @@ void ResizeList::SetAttribute(int attribute)
     m_Attribute = attribute;
     for (const auto& item : m_Items)
         item.second.m_Resize->SetAttribute(attribute);
+    for (const Item& item : m_SpareItems)
+        item.m_Resize->SetAttribute(attribute);
 }
 
 void ResizeList::measure()
@@ -71,14 +73,15 @@ void ResizeList::updateItems()
     const int last =
         std::min((top + viewport()->height()) / m_ItemHeight + 1, m_Matches.size() - 1);
     dropItems(first, last);
-    const size_t before = m_Items.size();
+    bool isNew = false;
     for (int i = first; i <= last; ++i) {
-        if (m_Items.count(i) == 0)
-            m_Items[i] = makeItem(i);
+        if (m_Items.count(i) == 0) {
+            m_Items[i] = takeItem(i);
+            isNew = true;
+        }
+        placeItem(i, m_Items[i].m_Widget);
     }
-    for (const auto& item : m_Items)
-        placeItem(item.first, item.second.m_Widget);
-    if (m_Items.size() != before)
+    if (isNew)
         orderFocus();
 }
 
@@ -94,8 +97,7 @@ void ResizeList::dropItems(int first, int last)
         if (widget->isAncestorOf(QApplication::focusWidget()))
             setFocus();
         widget->hide();
-        // It may be the one that is being scrolled by.
-        widget->deleteLater();
+        m_SpareItems.push_back(item->second);
         item = m_Items.erase(item);
     }
 }
@@ -107,37 +109,58 @@ void ResizeList::placeItem(int index, QWidget* widget) const
     widget->show();
 }
 
-ResizeList::Item ResizeList::makeItem(int index)
+ResizeList::Item ResizeList::takeItem(int index)
 {
-    auto* widget = new QWidget(viewport());
-    auto* layout = new QVBoxLayout(widget);
-    SegmentResizeWidget* resize = makeResizeWidget(index);
-    layout->addWidget(new QLabel(tr("Result %1 of %2").arg(index + 1).arg(m_Matches.size())));
-    layout->addWidget(resize, 1);
-    setMinimumWidth(std::max(minimumWidth(), layout->minimumSize().width() +
-                                                 verticalScrollBar()->sizeHint().width() +
-                                                 2 * frameWidth()));
-    return {widget, resize};
-}
-
-SegmentResizeWidget* ResizeList::makeResizeWidget(int index)
-{
+    if (m_SpareItems.empty())
+        m_SpareItems.push_back(makeItem());
+    const Item item = m_SpareItems.back();
+    m_SpareItems.pop_back();
     const SearchMatch& match = m_Matches.at(index);
     const int rows = m_DataSet ? m_DataSet->GetRowCount() : 0;
+    // The ends may be in the wrong order.
+    const auto ends = std::minmax(match.m_From, match.m_To);
+    item.m_Caption->setText(tr("Result %1 of %2").arg(index + 1).arg(m_Matches.size()));
+    item.m_Resize->SetPlotRange(std::max(ends.first - contextRows, 0),
+                                std::min(ends.second + contextRows, rows));
+    item.m_Resize->SetSelection(match.m_From, match.m_To);
+    return item;
+}
+
+// Made once and shown for one match after the other: a plot takes its time over a large data set.
+ResizeList::Item ResizeList::makeItem()
+{
+    auto* widget = new QWidget(viewport());
+    auto* caption = new QLabel;
+    SegmentResizeWidget* resize = makeResizeWidget();
+    auto* layout = new QVBoxLayout(widget);
+    layout->addWidget(caption);
+    layout->addWidget(resize, 1);
+    const int frame = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    setMinimumWidth(std::max(minimumWidth(), layout->minimumSize().width() + frame));
+    return {widget, caption, resize};
+}
+
+SegmentResizeWidget* ResizeList::makeResizeWidget()
+{
     auto* resize = new SegmentResizeWidget;
     resize->SetAttribute(m_Attribute);
     resize->SetDataSet(m_DataSet);
-    resize->SetPlotRange(std::max(match.m_From - contextRows, 0),
-                         std::min(match.m_To + contextRows, rows));
-    resize->SetSelection(match.m_From, match.m_To);
-    connect(resize, &SegmentResizeWidget::SelectionChanged, this, [this, index, resize] {
-        resize->GetSelection(m_Matches[index].m_From, m_Matches[index].m_To);
-    });
+    connect(resize, &SegmentResizeWidget::SelectionChanged, this,
+            [this, resize] { storeEnds(resize); });
     for (QSpinBox* box : resize->findChildren<QSpinBox*>()) {
         box->setFocusPolicy(Qt::StrongFocus);
         box->installEventFilter(this);
     }
     return resize;
+}
+
+void ResizeList::storeEnds(const SegmentResizeWidget* resize)
+{
+    for (const auto& item : m_Items) {
+        SearchMatch& match = m_Matches[item.first];
+        if (item.second.m_Resize == resize)
+            resize->GetSelection(match.m_From, match.m_To);
+    }
 }
 
 // The wheel scrolls the list; it turns only the box that the user has chosen.

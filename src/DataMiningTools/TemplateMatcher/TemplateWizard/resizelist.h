@@ -3,8 +3,10 @@
 #include "searchmatch.h"
 #include <QAbstractScrollArea>
 #include <map>
+#include <vector>
 
 class DataSet;
+class QLabel;
 class SegmentResizeWidget;
 
 /// Matches below each other, each with boxes for its ends. There are widgets only for those in
@@ -29,10 +31,13 @@ protected:
 private:
     struct Item {
         QWidget* m_Widget;
+        QLabel* m_Caption;
         SegmentResizeWidget* m_Resize;
     };
-    Item makeItem(int index);
-    SegmentResizeWidget* makeResizeWidget(int index);
+    Item makeItem();
+    SegmentResizeWidget* makeResizeWidget();
+    Item takeItem(int index);
+    void storeEnds(const SegmentResizeWidget* resize);
     void updateItems();
     void dropItems(int first, int last);
     void placeItem(int index, QWidget* widget) const;
@@ -43,6 +48,8 @@ private:
     DataSet* m_DataSet;
     SearchMatches m_Matches;
     int m_Attribute = 0;
+    // Those in view, by the index of their match, and those that can be taken for others.
     std::map<int, Item> m_Items;
+    std::vector<Item> m_SpareItems;
     int m_ItemHeight;
 };
