@@ -1,6 +1,6 @@
 #include "rowlist.h"
 
-#include <QComboBox>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -23,7 +23,8 @@ RowList::RowList(QWidget* parent) : QScrollArea(parent)
     // The colour of what lies below, also in a group.
     content->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
-    const int rowHeight = QComboBox().sizeHint().height();
+    // Buttons are the highest fields.
+    const int rowHeight = QPushButton(QStringLiteral("M")).sizeHint().height();
     setFixedHeight(shownRows * (rowHeight + m_Rows->spacing()) - m_Rows->spacing());
 }
 
