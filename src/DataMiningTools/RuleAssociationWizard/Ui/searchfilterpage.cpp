@@ -1,6 +1,9 @@
 #include "searchfilterpage.h"
 
 #include "matchplot.h"
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -14,6 +17,7 @@ SearchFilterPage::SearchFilterPage(const QString& resultsTitle, DataSet* dataSet
 
 void SearchFilterPage::layOut(QWidget* fields)
 {
+    m_Fields = fields;
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(fields);
     layout->addWidget(m_Results, 1);
@@ -40,8 +44,28 @@ void SearchFilterPage::showMatches(const SearchMatches& matches)
 {
     m_Results->SetMatches(matches);
     m_HasRun = true;
+    m_FieldsSearched = getFields();
     showNumber();
     emit completeChanged();
+}
+
+QStringList SearchFilterPage::getFields() const
+{
+    QStringList fields;
+    for (const auto* box : m_Fields->findChildren<QComboBox*>())
+        fields.append(box->currentText());
+    for (const auto* box : m_Fields->findChildren<QAbstractSpinBox*>())
+        fields.append(box->text());
+    return fields;
+}
+
+void SearchFilterPage::keyPressEvent(QKeyEvent* event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && !(m_HasRun && getFields() == m_FieldsSearched))
+        extractMatches();
+    else
+        QWizardPage::keyPressEvent(event);
 }
 
 void SearchFilterPage::showNumber()

@@ -31,9 +31,15 @@ protected:
     QLayout* makeExtractRow();
     void showMatches(const SearchMatches& matches);
 
+    /// Enter runs the search that the fields tell before it goes to the next page.
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
+    QStringList getFields() const;
     void showNumber();
 
+    QWidget* m_Fields = nullptr;
+    QStringList m_FieldsSearched;
     QLabel* m_Number;
     MatchPlot* m_Results;
     bool m_HasRun = false;
