@@ -18,6 +18,7 @@ public:
     explicit WaysByEnd(const Occurrences& occurrences)
     {
         std::vector<std::pair<int, quint64>> ends;
+        ends.reserve(occurrences.size());
         for (const auto& occurrence : occurrences)
             ends.emplace_back(occurrence.m_Segment->GetTo(), occurrence.m_Ways);
         std::sort(ends.begin(), ends.end());

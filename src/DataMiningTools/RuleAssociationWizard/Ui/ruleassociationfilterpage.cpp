@@ -4,8 +4,8 @@
 #include "dataset.h"
 #include "dialogprogress.h"
 #include "labelcollection.h"
-#include "rowlist.h"
 #include "ruleextractor.h"
+#include "searchrows.h"
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -24,7 +24,7 @@ RuleAssociationFilterPage::RuleAssociationFilterPage(DataSet* dataSet, const Cut
                                                      const LabelCollection* labels, int searchMode,
                                                      QWidget* parent)
     : SearchFilterPage(tr("Results"), dataSet, parent), m_DataSet(dataSet), m_CutCollection(cuts),
-      m_LabelCollection(labels), m_SearchMode(searchMode), m_Rows(new RowList),
+      m_LabelCollection(labels), m_SearchMode(searchMode), m_Rows(new SearchRows),
       m_SearchLength(new QSlider(Qt::Horizontal))
 {
     setTitle(tr("Rule Association Search"));

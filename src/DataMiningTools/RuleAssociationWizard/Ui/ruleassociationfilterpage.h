@@ -7,7 +7,7 @@ class CutCollection;
 class LabelCollection;
 class QComboBox;
 class QSlider;
-class RowList;
+class SearchRows;
 
 /// Where the user puts a rule together from behaviours.
 class RuleAssociationFilterPage : public SearchFilterPage
@@ -33,7 +33,7 @@ private:
     const CutCollection* m_CutCollection;
     const LabelCollection* m_LabelCollection;
     int m_SearchMode;
-    RowList* m_Rows;
+    SearchRows* m_Rows;
     QList<QComboBox*> m_Labels;
     QSlider* m_SearchLength;
 };

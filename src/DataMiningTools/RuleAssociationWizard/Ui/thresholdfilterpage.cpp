@@ -3,7 +3,7 @@
 #include "cutcollection.h"
 #include "dataset.h"
 #include "dialogprogress.h"
-#include "rowlist.h"
+#include "searchrows.h"
 #include "thresholdparameterwidget.h"
 #include <QFormLayout>
 #include <QGroupBox>
@@ -13,7 +13,7 @@
 ThresholdFilterPage::ThresholdFilterPage(DataSet* dataSet, const CutCollection* cuts,
                                          int searchMode, QWidget* parent)
     : SearchFilterPage(tr("Extracted Results"), dataSet, parent), m_DataSet(dataSet),
-      m_CutCollection(cuts), m_SearchMode(searchMode), m_Rows(new RowList),
+      m_CutCollection(cuts), m_SearchMode(searchMode), m_Rows(new SearchRows),
       m_MinimumLength(new QSpinBox)
 {
     setTitle(tr("Threshold Search"));

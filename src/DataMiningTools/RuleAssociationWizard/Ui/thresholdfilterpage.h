@@ -5,7 +5,7 @@
 
 class CutCollection;
 class QSpinBox;
-class RowList;
+class SearchRows;
 class ThresholdParameterWidget;
 
 /// Where the user sets the parameters of the threshold search.
@@ -28,7 +28,7 @@ private:
     DataSet* m_DataSet;
     const CutCollection* m_CutCollection;
     int m_SearchMode;
-    RowList* m_Rows;
+    SearchRows* m_Rows;
     QList<ThresholdParameterWidget*> m_Parameters;
     QSpinBox* m_MinimumLength;
 };

@@ -189,16 +189,15 @@ void TestSearchWizards::refinesResults()
     const auto data = MakeColumn({9, 9, 9, 9, 1, 9, 9, 9, 9, 9});
     CutCollection cuts;
     MakeCuts(cuts, "3 7R 8 9R 10");
-    for (const bool isCancelled : {true, false}) {
-        const QString before = ToText(cuts);
+    for (const char* end : {"Cancel", "Finish"}) {
+        QCOMPARE(ToText(cuts), QStringLiteral("(0,3) R(3,7) (7,8) R(8,9) (9,10)"));
         ThresholdWizard wizard(data.get(), &cuts, CutSegment::SEGMENT_RESULT);
         wizard.show();
         next(wizard);
         addParameter(wizard, "attribute > value", "2");
         QCOMPARE(extract(wizard), QStringLiteral("1"));
         next(wizard);
-        isCancelled ? wizard.reject() : finish(wizard);
-        QCOMPARE(ToText(cuts) == before, isCancelled);
+        ClickButton(&wizard, QLatin1String(end));
     }
     QCOMPARE(ToText(cuts), QStringLiteral("(0,5) R(5,6) (6,10)"));
 }

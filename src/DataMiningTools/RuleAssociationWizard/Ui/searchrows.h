@@ -5,11 +5,11 @@
 class QVBoxLayout;
 
 /// Rows of fields below each other, of which the last few show.
-class RowList : public QScrollArea
+class SearchRows : public QScrollArea
 {
     Q_OBJECT
 public:
-    explicit RowList(QWidget* parent = nullptr);
+    explicit SearchRows(QWidget* parent = nullptr);
 
     /// Appends a row, shows it and moves the focus into it.
     void AddRow(QWidget* row);

@@ -1,4 +1,4 @@
-#include "rowlist.h"
+#include "searchrows.h"
 
 #include <QPushButton>
 #include <QScrollBar>
@@ -10,7 +10,7 @@ namespace
 constexpr int shownRows = 3;
 }
 
-RowList::RowList(QWidget* parent) : QScrollArea(parent)
+SearchRows::SearchRows(QWidget* parent) : QScrollArea(parent)
 {
     auto* content = new QWidget;
     m_Rows = new QVBoxLayout(content);
@@ -28,7 +28,7 @@ RowList::RowList(QWidget* parent) : QScrollArea(parent)
     setFixedHeight(shownRows * (rowHeight + m_Rows->spacing()) - m_Rows->spacing());
 }
 
-void RowList::AddRow(QWidget* row)
+void SearchRows::AddRow(QWidget* row)
 {
     m_Rows->insertWidget(m_Rows->count() - 1, row);
     setMinimumWidth(std::max(minimumWidth(), row->minimumSizeHint().width() +
@@ -40,7 +40,7 @@ void RowList::AddRow(QWidget* row)
     ensureWidgetVisible(row);
 }
 
-void RowList::RemoveRow(QWidget* row)
+void SearchRows::RemoveRow(QWidget* row)
 {
     m_Rows->removeWidget(row);
     row->hide();
