@@ -7,6 +7,7 @@ set(SKERRYMOOR_FOLDERS_core
     CutHandler/PIPHandler
     DataHandler
     DataHandler/Processor
+    DataMiningTools/RuleAssociationWizard
     DataMiningTools/TemplateMatcher
     DataMiningTools/TemplateMatcher/Data
     FileHandler
@@ -18,6 +19,7 @@ set(SKERRYMOOR_FOLDERS_plot
 
 set(SKERRYMOOR_FOLDERS_ui
     CutHandler/Ui
+    DataMiningTools/RuleAssociationWizard/Ui
     DataMiningTools/TemplateMatcher/Data/Ui
     DataMiningTools/TemplateMatcher/TemplateWizard
     FileHandler/FileImporter
