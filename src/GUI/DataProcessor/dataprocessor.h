@@ -23,6 +23,9 @@ class DataProcessor
 {
     Q_DECLARE_TR_FUNCTIONS(DataProcessor)
 public:
+    /// Those with a menu entry.
+    static constexpr int OperationCount = 9;
+
     /// parent: the window that the dialogs stand on.
     explicit DataProcessor(QWidget* parent = nullptr) : m_Parent(parent) {}
 
