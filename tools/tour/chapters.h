@@ -20,3 +20,7 @@ void AddExportChapter(Guide& guide, MainWindow& window, const QString& folder);
 
 /// Reads the project back over the same recording, imported anew.
 void AddReimportChapter(Guide& guide, MainWindow& window, const QString& folder);
+
+/// Wing beats found by a template, dives by their depth, and what follows the dives by a rule.
+/// Goes on from the recording read anew, with its two behaviours.
+void AddSearchChapter(Guide& guide, MainWindow& window);
