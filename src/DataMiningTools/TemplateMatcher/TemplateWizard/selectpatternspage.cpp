@@ -1,13 +1,10 @@
 #include "selectpatternspage.h"
 
-#include "collectionsdataobject.h"
-#include "databasemessages.h"
-#include "databasequery.h"
+#include "templaterows.h"
 #include "usererror.h"
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <memory>
 
 namespace
 {
@@ -47,28 +44,14 @@ void SelectPatternsPage::initializePage()
 
 void SelectPatternsPage::populateCollections()
 {
-    const QList<CollectionsDataObject*> collections = CollectionsDataObject::GetAllCollections();
-    if (!LastQueryError().isEmpty())
-        ShowDatabaseError(this, tr("Error: The collections can't be read."));
     QVector<RowList::Row> rows;
-    for (const CollectionsDataObject* collection : collections)
-        rows.append({collection->GetId(), collection->GetName(), collection->GetDesc()});
-    qDeleteAll(collections);
+    ReadCollectionRows(this, rows);
     m_Collections->SetRows(rows);
 }
 
 void SelectPatternsPage::populatePatternsList(QListWidgetItem* collection)
 {
-    m_Rows.clear();
-    if (collection) {
-        const std::unique_ptr<CollectionsDataObject> stored(
-            CollectionsDataObject::GetCollection(RowList::GetId(collection), true));
-        if (!LastQueryError().isEmpty())
-            ShowDatabaseError(this, tr("Error: The patterns can't be read."));
-        else if (stored)
-            for (const PatternsDataObject* pattern : stored->GetPatterns())
-                m_Rows.append({pattern->GetId(), pattern->GetName(), pattern->GetDesc()});
-    }
+    m_Rows = ReadPatternRows(this, collection);
     showRows();
 }
 

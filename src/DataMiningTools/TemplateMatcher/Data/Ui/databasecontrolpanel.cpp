@@ -3,7 +3,7 @@
 #include "addcollectionform.h"
 #include "databasemessages.h"
 #include "databasequery.h"
-#include "rowlist.h"
+#include "templaterows.h"
 #include "viewpatternform.h"
 #include <QLabel>
 #include <QPushButton>
@@ -60,33 +60,16 @@ RowList* DatabaseControlPanel::makePatterns()
 
 void DatabaseControlPanel::populateListWidget()
 {
-    const QList<CollectionsDataObject*> collections = CollectionsDataObject::GetAllCollections();
-    const bool isRead = LastQueryError().isEmpty();
     QVector<RowList::Row> rows;
-    for (const CollectionsDataObject* collection : collections)
-        rows.append({collection->GetId(), collection->GetName(), collection->GetDesc()});
-    qDeleteAll(collections);
-    if (!isRead) {
-        ShowDatabaseError(this, tr("Error: The collections can't be read."));
+    if (!ReadCollectionRows(this, rows))
         return;
-    }
     m_Collections->SetRows(rows);
     populatePatternsList(m_Collections->GetCurrentItem());
 }
 
 void DatabaseControlPanel::populatePatternsList(QListWidgetItem* collection)
 {
-    QVector<RowList::Row> rows;
-    if (collection) {
-        const std::unique_ptr<CollectionsDataObject> stored(
-            CollectionsDataObject::GetCollection(RowList::GetId(collection), true));
-        if (!LastQueryError().isEmpty())
-            ShowDatabaseError(this, tr("Error: The patterns can't be read."));
-        else if (stored)
-            for (const PatternsDataObject* pattern : stored->GetPatterns())
-                rows.append({pattern->GetId(), pattern->GetName(), pattern->GetDesc()});
-    }
-    m_Patterns->SetRows(rows);
+    m_Patterns->SetRows(ReadPatternRows(this, collection));
 }
 
 void DatabaseControlPanel::addCollection()

@@ -1,7 +1,7 @@
 #include "templaterows.h"
 
 #include "collectionsdataobject.h"
-#include "databaseerror.h"
+#include "databasemessages.h"
 #include "databasequery.h"
 #include "patternsdataobject.h"
 #include <memory>
