@@ -23,6 +23,7 @@ MatchPositionsBox::MatchPositionsBox(DataSet* dataSet, QWidget* parent)
             &MatchPositionsBox::showAttribute);
     m_Plot->setMinimumHeight(150);
     m_Plot->SetDataSet(dataSet);
+    m_Plot->SetRightMargin(MapAlignedMargin);
     m_ColorMap->setFixedHeight(10);
     m_ColorMap->setMaximumWidth(150);
 

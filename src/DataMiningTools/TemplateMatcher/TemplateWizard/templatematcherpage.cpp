@@ -42,6 +42,7 @@ TemplateMatcherPage::TemplateMatcherPage(DataSet* dataSet, CutCollection* cuts, 
     layout->addWidget(makeTemplateBox());
     layout->addWidget(makeResultBox(), 1);
     m_Plot->SetDataSet(dataSet);
+    m_Plot->SetRightMargin(MapAlignedMargin);
     if (dataSet->GetAttributeCount() > 0)
         m_Plot->ClearAndAddPlot(0);
     setNormThreshold(initialThreshold);

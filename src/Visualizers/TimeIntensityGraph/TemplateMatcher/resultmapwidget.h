@@ -9,6 +9,9 @@
 
 class DataSet;
 
+/// The right margin that lets a plot area above a map of the same width end where the map does.
+constexpr int MapAlignedMargin = 35;
+
 /// What all maps of search results share: where the steps stand, and a band of pixels that the
 /// user drags. Dragged with the left button it removes the matches on it, with the right one it
 /// opens a plot of the data there.
