@@ -7,6 +7,8 @@ set(SKERRYMOOR_FOLDERS_core
     CutHandler/PIPHandler
     DataHandler
     DataHandler/Processor
+    DataMiningTools/RuleAssociationWizard
+    DataMiningTools/TemplateMatcher
     DataMiningTools/TemplateMatcher/Data
     FileHandler
     LabelHandler)
@@ -17,11 +19,16 @@ set(SKERRYMOOR_FOLDERS_plot
 
 set(SKERRYMOOR_FOLDERS_ui
     CutHandler/Ui
+    DataMiningTools/RuleAssociationWizard/Ui
+    DataMiningTools/TemplateMatcher/Data/Ui
+    DataMiningTools/TemplateMatcher/TemplateWizard
     FileHandler/FileImporter
     GUI
     GUI/DataProcessor
     GroundTruith
-    Visualizers/TimeIntensityGraph)
+    Visualizers/HeatMap
+    Visualizers/TimeIntensityGraph
+    Visualizers/TimeIntensityGraph/TemplateMatcher)
 
 # Sets OUT to the layer of FOLDER (relative to src/ or tests/), or to an empty string.
 function(skerrymoor_layer_of FOLDER OUT)

@@ -2,13 +2,16 @@
 
 #include "aboutdialog.h"
 #include "applicationinfo.h"
+#include "attributesmenu.h"
 #include "axessettingsdialog.h"
 #include "cutautomation.h"
 #include "cuttablelineplotwidget.h"
+#include "databasecontrolpanel.h"
 #include "dataprocessor.h"
 #include "dataset.h"
 #include "datatabledialog.h"
 #include "fileimportwizard.h"
+#include "graphtoolbar.h"
 #include "groundtruithbehaviorcollection.h"
 #include "groundtruithcomparisionwidget.h"
 #include "intmappedaction.h"
@@ -16,6 +19,7 @@
 #include "labeleddatatabwidget.h"
 #include "mergelabelsdialog.h"
 #include "overviewtimelinewidget.h"
+#include "patternsdataobject.h"
 #include "plotnavigator.h"
 #include "recording.h"
 #include "recordingfiles.h"
@@ -25,18 +29,14 @@
 #include "settingsfolder.h"
 #include "surveyresultwriter.h"
 #include "usererror.h"
-#include "vizattributeaction.h"
 #include "zoomwidget.h"
 #include <QApplication>
-#include <QCheckBox>
 #include <QDesktopServices>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSplitter>
-#include <QToolBar>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -140,6 +140,10 @@ void MainWindow::connectGraph()
             &MainWindow::deleteSegment);
     connect(m_LinePlot, &CuttableLinePlotWidget::MoveActionRequested, this,
             &MainWindow::moveSegment);
+    connect(m_LinePlot, &CuttableLinePlotWidget::SaveActionRequested, this,
+            &MainWindow::saveSegment);
+    connect(m_LinePlot, &CuttableLinePlotWidget::SearchActionRequested, this,
+            &MainWindow::searchSegment);
     connect(m_LinePlot, &CuttableLinePlotWidget::ZoomOnRegion, this, &MainWindow::ZoomOnRegion);
     connect(m_LinePlot, &CuttableLinePlotWidget::WindowOpened, this, &MainWindow::keepWindow);
 }
@@ -156,6 +160,8 @@ void MainWindow::connectLabelPane()
             &LabeledDataTabWidget::Refresh);
     connect(m_LabeledDataTabWidget, &LabeledDataTabWidget::NewResultsFound, m_ResultWidget,
             &ResultWidget::ClearAndUpdateSegments);
+    connect(m_LabeledDataTabWidget, &LabeledDataTabWidget::NewResultsFound, this,
+            &MainWindow::updateSegmentViews);
 }
 
 void MainWindow::updateSegmentViews()
@@ -182,20 +188,33 @@ void MainWindow::buildMenus()
               QKeySequence::Quit}});
     connect(m_ExitAction, &QAction::triggered, qApp, &QApplication::quit);
     m_VisualizationMenu = menuBar()->addMenu(tr("Visualization"));
-    m_AttributesMenu = m_VisualizationMenu->addMenu(loadIcon("icons/Stats2.png"), tr("Attributes"));
+    m_AttributesMenu = new AttributesMenu(tr("Attributes"), m_VisualizationMenu);
+    m_AttributesMenu->setIcon(loadIcon("icons/Stats2.png"));
+    m_VisualizationMenu->addMenu(m_AttributesMenu);
+    connect(m_AttributesMenu, &AttributesMenu::AttributeToggled, m_LinePlot,
+            &CuttableLinePlotWidget::TogglePlot);
     addRows(m_VisualizationMenu,
             {{&MainWindow::m_GroundTruithAction, QT_TR_NOOP("Ground Truith Comparision"), nullptr,
               &MainWindow::showGroundTruith, true, false}});
     m_ToolsMenu = menuBar()->addMenu(tr("Tools"));
-    m_DeriveMenu = addDeriveMenu();
-    addRows(m_ToolsMenu, {{&MainWindow::m_MergeLabelsAction, QT_TR_NOOP("Merge Labels"),
+    m_DeriveMenu = addNumberedMenu(tr("Derive Attributes"), "icons/Tool2.png", 0,
+                                   DataProcessor::OperationCount, &DataProcessor::getOperationName,
+                                   &MainWindow::processAttribute);
+    addRows(m_ToolsMenu, {{&MainWindow::m_AddTemplateAction, QT_TR_NOOP("Add Template"),
+                           "icons/add.png", &MainWindow::addTemplateForm, true},
+                          {&MainWindow::m_MergeLabelsAction, QT_TR_NOOP("Merge Labels"),
                            "icons/merge2.png", &MainWindow::mergeLabels, true},
                           {&MainWindow::m_DataTableAction, QT_TR_NOOP("Data Table"),
                            "icons/Table.png", &MainWindow::showDataTable, true}});
-    m_AutomaticCutsMenu = addAutomaticCutsMenu();
+    // The first method does nothing.
+    m_AutomaticCutsMenu =
+        addNumberedMenu(tr("Automatic Cuts"), "icons/cut.png", 1, CutAutomation::MethodCount,
+                        &CutAutomation::getMethodName, &MainWindow::cutAutomationAttribute);
     m_SettingsMenu = menuBar()->addMenu(tr("Settings"));
     addRows(m_SettingsMenu, {{&MainWindow::m_AxesSettingsAction, QT_TR_NOOP("Axes Settings"),
-                              "icons/Gear.png", &MainWindow::axesSettings, true}});
+                              "icons/Gear.png", &MainWindow::axesSettings, true},
+                             {&MainWindow::m_TemplateDBAction, QT_TR_NOOP("Template Database"),
+                              "icons/Database.png", &MainWindow::showTemplateDBSettings, true}});
     m_HelpMenu = menuBar()->addMenu(tr("Help"));
     addRows(m_HelpMenu,
             {{&MainWindow::m_AboutAction, QT_TR_NOOP("About"), "icons/Info.png",
@@ -204,27 +223,13 @@ void MainWindow::buildMenus()
               &MainWindow::openHelp, false, true, QKeySequence::HelpContents}});
 }
 
-QMenu* MainWindow::addDeriveMenu()
+QMenu* MainWindow::addNumberedMenu(const QString& title, const char* icon, int first, int count,
+                                   QString (*nameOf)(int), void (MainWindow::*slot)(int))
 {
-    QMenu* menu = m_ToolsMenu->addMenu(loadIcon("icons/Tool2.png"), tr("Derive Attributes"));
-    for (int i = 0; i < DataProcessor::OperationCount; ++i) {
-        auto* action = new IntMappedAction(i, DataProcessor::getOperationName(i), menu);
-        connect(action, qOverload<int>(&IntMappedAction::triggered), this,
-                &MainWindow::processAttribute);
-        menu->addAction(action);
-    }
-    m_DataActions.append(menu->menuAction());
-    return menu;
-}
-
-QMenu* MainWindow::addAutomaticCutsMenu()
-{
-    QMenu* menu = m_ToolsMenu->addMenu(loadIcon("icons/cut.png"), tr("Automatic Cuts"));
-    // The first method does nothing.
-    for (int i = 1; i < CutAutomation::MethodCount; ++i) {
-        auto* action = new IntMappedAction(i, CutAutomation::getMethodName(i), menu);
-        connect(action, qOverload<int>(&IntMappedAction::triggered), this,
-                &MainWindow::cutAutomationAttribute);
+    QMenu* menu = m_ToolsMenu->addMenu(loadIcon(icon), title);
+    for (int i = first; i < count; ++i) {
+        auto* action = new IntMappedAction(i, nameOf(i), menu);
+        connect(action, qOverload<int>(&IntMappedAction::triggered), this, slot);
         menu->addAction(action);
     }
     m_DataActions.append(menu->menuAction());
@@ -248,28 +253,11 @@ void MainWindow::addRows(QMenu* menu, const std::vector<MenuRow>& rows)
 
 void MainWindow::buildToolBar()
 {
-    auto* cut = new QPushButton(loadIcon("icons/cut.png"), tr("Cut Graph"));
-    cut->setToolTip(tr("Cut the selected range out of its segment"));
-    auto* merge = new QPushButton(loadIcon("icons/merge.png"), tr("Merge Graph"));
-    merge->setToolTip(tr("Merge the segments in the selected range"));
-    m_AxisOverlay = new QCheckBox(tr("Axis Overlay"));
-    m_AxisOverlay->setToolTip(tr("Show the value axes beside the pointer"));
-    m_AxisOverlay->setChecked(m_LinePlot->GetEnableOverlay());
-    m_ZoomWidget->setMaximumWidth(400);
-    m_ZoomWidget->setMinimum(1);
-    m_ZoomWidget->setMaximum(500);
-    m_ZoomWidget->setSingleStep(1);
-    connect(cut, &QPushButton::clicked, this, &MainWindow::cutGraph);
-    connect(merge, &QPushButton::clicked, this, &MainWindow::mergeCuts);
+    auto* toolBar = new GraphToolBar(m_LinePlot, m_ZoomWidget, this);
+    connect(toolBar, &GraphToolBar::CutClicked, this, &MainWindow::cutGraph);
+    connect(toolBar, &GraphToolBar::MergeClicked, this, &MainWindow::mergeCuts);
     connect(m_ZoomWidget, &ZoomWidget::ValueChanged, this, &MainWindow::resizeLinePlotWidget);
-    connect(m_AxisOverlay, &QCheckBox::clicked, m_LinePlot,
-            &CuttableLinePlotWidget::SetEnableOverlay);
-
-    QToolBar* toolBar = addToolBar(tr("Graph Options"));
-    for (QWidget* widget :
-         {static_cast<QWidget*>(cut), static_cast<QWidget*>(merge),
-          static_cast<QWidget*>(m_ZoomWidget), static_cast<QWidget*>(m_AxisOverlay)})
-        toolBar->addWidget(widget);
+    addToolBar(toolBar);
 }
 
 void MainWindow::openFile()
@@ -311,7 +299,7 @@ void MainWindow::showRecording(Recording* recording)
     handOver(*m_SurveyResultWriter);
     m_LabeledDataTabWidget->Rebuild();
     m_ResultWidget->Rebuild();
-    rebuildAttributesMenu();
+    m_AttributesMenu->SetDataSet(m_DataSet);
 }
 
 template <class View>
@@ -320,22 +308,6 @@ void MainWindow::handOver(View& view)
     view.SetDataSet(m_DataSet);
     view.SetCutCollection(m_CutCollection);
     view.SetLabelCollection(m_LabelCollection);
-}
-
-void MainWindow::rebuildAttributesMenu()
-{
-    m_AttributesMenu->clear();
-    for (int i = 0; m_DataSet && i < m_DataSet->GetAttributeCount(); ++i)
-        addAttributeAction(i, m_DataSet->GetAttributeName(i));
-}
-
-void MainWindow::addAttributeAction(int index, const QString& name)
-{
-    auto* action = new VizAttributeAction(index, name, m_AttributesMenu);
-    action->setCheckable(true);
-    connect(action, &VizAttributeAction::triggered, m_LinePlot,
-            &CuttableLinePlotWidget::TogglePlot);
-    m_AttributesMenu->addAction(action);
 }
 
 void MainWindow::enableActions()
@@ -399,6 +371,30 @@ void MainWindow::showSegment()
     m_SegmentEditor->Show(m_Recording.get());
 }
 
+PatternsDataObject* MainWindow::saveSegment()
+{
+    m_SavedPattern = m_SegmentEditor->Save(m_Recording.get());
+    return m_SavedPattern.get();
+}
+
+void MainWindow::searchSegment()
+{
+    if (!m_SegmentEditor->Search(m_Recording.get()))
+        return;
+    m_ResultWidget->ClearAndUpdateSegments();
+    updateSegmentViews();
+}
+
+void MainWindow::addTemplateForm()
+{
+    m_SegmentEditor->AddTemplate(m_Recording.get());
+}
+
+void MainWindow::showTemplateDBSettings()
+{
+    DatabaseControlPanel(this).exec();
+}
+
 void MainWindow::mergeLabels()
 {
     if (!m_CutCollection)
@@ -458,7 +454,7 @@ void MainWindow::processAttribute(int operation)
     if (!processor.runOperation(operation))
         return;
     for (const AddedAttribute& added : processor.getAddedAttributes()) {
-        addAttributeAction(added.m_Index, added.m_Name);
+        m_AttributesMenu->AddAttribute(added.m_Index, added.m_Name);
         m_ResultWidget->AddAttribute(added.m_Index, added.m_Name);
         m_LabeledDataTabWidget->AddAttribute(added.m_Index, added.m_Name);
     }

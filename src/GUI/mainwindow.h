@@ -4,6 +4,7 @@
 #include <QMainWindow>
 #include <memory>
 
+class AttributesMenu;
 class CutCollection;
 class CuttableLinePlotWidget;
 class DataSet;
@@ -11,8 +12,8 @@ class LabelBackup;
 class LabelCollection;
 class LabeledDataTabWidget;
 class OverviewTimelineWidget;
+class PatternsDataObject;
 class PlotNavigator;
-class QCheckBox;
 class QScrollArea;
 class QSplitter;
 class Recording;
@@ -51,6 +52,13 @@ public slots:
     void cutGraph();
     void deleteSegment();
     void moveSegment();
+    /// Stores the selected rows or segment as a template. The new one, until the next call; null
+    /// when there is none.
+    PatternsDataObject* saveSegment();
+    /// Stores them and searches for more of the kind.
+    void searchSegment();
+    void addTemplateForm();
+    void showTemplateDBSettings();
     /// Needs a selected row; has no visible effect.
     void showSegment();
     /// Runs an operation that derives attributes, by its place in the menu, and offers what it
@@ -74,11 +82,9 @@ private:
     void connectLabelPane();
     void buildMenus();
     void addRows(QMenu* menu, const std::vector<MenuRow>& rows);
-    QMenu* addDeriveMenu();
-    QMenu* addAutomaticCutsMenu();
+    QMenu* addNumberedMenu(const QString& title, const char* icon, int first, int count,
+                           QString (*nameOf)(int), void (MainWindow::*slot)(int));
     void buildToolBar();
-    void rebuildAttributesMenu();
-    void addAttributeAction(int index, const QString& name);
     void setRecording(std::shared_ptr<Recording> recording);
     void clearGraph();
     void showRecording(Recording* recording);
@@ -99,7 +105,6 @@ private:
     CuttableLinePlotWidget* m_LinePlot;
     ZoomWidget* m_ZoomWidget;
     QScrollArea* m_ScrollArea;
-    QCheckBox* m_AxisOverlay = nullptr;
     ResultWidget* m_ResultWidget;
     LabeledDataTabWidget* m_LabeledDataTabWidget;
     PlotNavigator* m_Navigator;
@@ -107,10 +112,11 @@ private:
     std::unique_ptr<RecordingFiles> m_Files;
     std::unique_ptr<SurveyResultWriter> m_SurveyResultWriter;
     std::unique_ptr<LabelBackup> m_LabelBackup;
+    std::unique_ptr<PatternsDataObject> m_SavedPattern;
 
     QMenu* m_FileMenu = nullptr;
     QMenu* m_VisualizationMenu = nullptr;
-    QMenu* m_AttributesMenu = nullptr;
+    AttributesMenu* m_AttributesMenu = nullptr;
     QMenu* m_ToolsMenu = nullptr;
     QMenu* m_DeriveMenu = nullptr;
     QMenu* m_AutomaticCutsMenu = nullptr;
@@ -123,9 +129,11 @@ private:
     QAction* m_ExportSummaryAction = nullptr;
     QAction* m_ExitAction = nullptr;
     QAction* m_GroundTruithAction = nullptr;
+    QAction* m_AddTemplateAction = nullptr;
     QAction* m_MergeLabelsAction = nullptr;
     QAction* m_DataTableAction = nullptr;
     QAction* m_AxesSettingsAction = nullptr;
+    QAction* m_TemplateDBAction = nullptr;
     QAction* m_AboutAction = nullptr;
     QAction* m_HelpAction = nullptr;
     // Enabled only with a recording.

@@ -8,6 +8,7 @@
 #include "panelbutton.h"
 #include "segmentviews.h"
 #include "tableresultwidget.h"
+#include "templatesearch.h"
 #include "usererror.h"
 #include <QGroupBox>
 #include <QLoggingCategory>
@@ -33,6 +34,9 @@ ResultWidget::ResultWidget(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addWidget(group, 1);
+    m_SearchTools = makeSearchTools();
+    layout->addWidget(m_SearchTools);
+    enableSearches();
     connectViews();
 }
 
@@ -52,6 +56,64 @@ QLayout* ResultWidget::makeButtons()
     row->addWidget(removeAll);
     row->addStretch();
     return row;
+}
+
+QWidget* ResultWidget::makeSearchTools()
+{
+    struct Search {
+        const char* m_Text;
+        const char* m_Icon;
+        const char* m_ToolTip;
+        void (ResultWidget::*m_Slot)();
+    };
+    static const Search searches[]{
+        {"Template Search", "icons/wizard.png", "Find what looks like a stored template",
+         &ResultWidget::openTemplateSearch},
+        {"Threshold", "icons/threshold.png", "Find rows by the values of attributes",
+         &ResultWidget::openThresholdSearch},
+        {"Rule Association", "icons/rule.png", "Find what follows a sequence of behaviours",
+         &ResultWidget::openRuleAssociationSearch},
+    };
+    auto* group = new QGroupBox(tr("Search Tools"));
+    auto* row = new QHBoxLayout(group);
+    for (const Search& search : searches) {
+        QPushButton* button =
+            MakePanelButton(tr(search.m_Text), tr(search.m_ToolTip), QLatin1String(search.m_Icon));
+        connect(button, &QPushButton::clicked, this, search.m_Slot);
+        row->addWidget(button);
+    }
+    row->addStretch();
+    return group;
+}
+
+void ResultWidget::enableSearches()
+{
+    m_SearchTools->setEnabled(m_DataSet && m_CutCollection);
+}
+
+void ResultWidget::openTemplateSearch()
+{
+    if (m_DataSet && m_CutCollection && SearchTemplates(this, m_DataSet, m_CutCollection))
+        showNewResults();
+}
+
+void ResultWidget::openThresholdSearch()
+{
+    if (m_DataSet && m_CutCollection && SearchThresholds(this, m_DataSet, m_CutCollection))
+        showNewResults();
+}
+
+void ResultWidget::openRuleAssociationSearch()
+{
+    if (m_DataSet && m_CutCollection && m_LabelCollection &&
+        SearchRules(this, m_DataSet, m_CutCollection, m_LabelCollection))
+        showNewResults();
+}
+
+void ResultWidget::showNewResults()
+{
+    ClearAndUpdateSegments();
+    emit SegmentsUpdated();
 }
 
 void ResultWidget::connectViews()
@@ -76,12 +138,14 @@ void ResultWidget::SetDataSet(DataSet* dataSet)
 {
     m_DataSet = dataSet;
     m_Views->SetDataSet(dataSet);
+    enableSearches();
 }
 
 void ResultWidget::SetCutCollection(CutCollection* cuts)
 {
     m_CutCollection = cuts;
     m_Views->SetCutCollection(cuts);
+    enableSearches();
 }
 
 void ResultWidget::SetLabelCollection(LabelCollection* labels)

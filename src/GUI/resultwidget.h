@@ -41,6 +41,10 @@ public slots:
     /// For signals of the views, whose sender has taken its own copy out.
     void rejectSegment(CutSegment* segment);
     void acceptSegment(CutSegment* segment);
+    /// The searches ask for all they need and show what they found.
+    void openTemplateSearch();
+    void openThresholdSearch();
+    void openRuleAssociationSearch();
     /// Repaints the overlay.
     void updateResultPlot();
 
@@ -54,6 +58,9 @@ signals:
 
 private:
     QLayout* makeButtons();
+    QWidget* makeSearchTools();
+    void enableSearches();
+    void showNewResults();
     void connectViews();
     void rejectSelectedResults();
     void rejectCandidate(CutSegment* segment);
@@ -67,4 +74,5 @@ private:
     SegmentViews* m_Views;
     MultipleLinePlotWidget* m_GraphOverlay;
     TableResultWidget* m_Table;
+    QWidget* m_SearchTools;
 };

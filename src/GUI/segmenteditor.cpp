@@ -4,8 +4,10 @@
 #include "cuttablelineplotwidget.h"
 #include "labelsegment.h"
 #include "overviewtimelinewidget.h"
+#include "patternsdataobject.h"
 #include "recording.h"
 #include "resultwidget.h"
+#include "templatesearch.h"
 #include "usererror.h"
 #include <QLoggingCategory>
 
@@ -119,6 +121,56 @@ void SegmentEditor::Move(Recording* recording)
         m_Results->RemoveSegment(segment);
     LabelSegment(*dialog.GetSelectedLabel(), segment);
     showChange();
+}
+
+bool SegmentEditor::findRows(Recording* recording, int& from, int& to)
+{
+    if (!checkRecording(recording))
+        return false;
+    if (m_Plot->GetSelectedRange(from, to) && from < to)
+        return true;
+    int row = 0;
+    const CutSegment* segment =
+        m_Plot->GetSelectedRow(row) ? findSelected(*recording, row) : nullptr;
+    if (!segment) {
+        showInvalidSelection();
+        return false;
+    }
+    from = segment->GetFrom();
+    to = segment->GetTo();
+    return true;
+}
+
+std::unique_ptr<PatternsDataObject> SegmentEditor::Save(Recording* recording)
+{
+    int from = 0;
+    int to = 0;
+    return findRows(recording, from, to) ? SaveTemplate(m_Window, recording->GetDataSet(), from, to)
+                                         : nullptr;
+}
+
+void SegmentEditor::AddTemplate(Recording* recording)
+{
+    if (!checkRecording(recording))
+        return;
+    int from = 0;
+    int to = 0;
+    if (!m_Plot->GetSelectedRange(from, to) || to <= from) {
+        ShowUserError(m_Window, tr("Error - Invalid Selection"),
+                      tr("Invalid selection made. Please make a valid selection on the "
+                         "time-series graph."));
+        return;
+    }
+    qCDebug(lcSegments) << "toIndex " << to;
+    SaveTemplate(m_Window, recording->GetDataSet(), from, to);
+}
+
+bool SegmentEditor::Search(Recording* recording)
+{
+    int from = 0;
+    int to = 0;
+    return findRows(recording, from, to) && SearchForRows(m_Window, recording->GetDataSet(),
+                                                          recording->GetCutCollection(), from, to);
 }
 
 void SegmentEditor::Show(Recording* recording)

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <memory>
 
 class CutSegment;
 class CuttableLinePlotWidget;
 class OverviewTimelineWidget;
+class PatternsDataObject;
 class QWidget;
 class Recording;
 class ResultWidget;
@@ -32,10 +34,18 @@ public:
     void Delete(Recording* recording);
     /// Labels the segment at the selected row with a behaviour that the user chooses.
     void Move(Recording* recording);
+    /// Stores the selected range, or the segment at the selected row, as a template; null when
+    /// there is none or the user cancels.
+    std::unique_ptr<PatternsDataObject> Save(Recording* recording);
+    /// The same for a selected range of rows only, from left to right.
+    void AddTemplate(Recording* recording);
+    /// Saves a template and searches the unlabelled segments for it. True with new results.
+    bool Search(Recording* recording);
     /// Asks for a recording and a selected row, and does no more.
     void Show(Recording* recording);
 
 private:
+    bool findRows(Recording* recording, int& from, int& to);
     bool checkRecording(const Recording* recording);
     CutSegment* findSelected(Recording& recording, int row) const;
     void removeLabel(Recording& recording, CutSegment* segment);

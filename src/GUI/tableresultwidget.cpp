@@ -3,10 +3,12 @@
 #include "cutcollection.h"
 #include "cutsegmentpushbutton.h"
 #include "dataset.h"
+#include "patternsdataobject.h"
 #include "segmentresizedialog.h"
 #include "segmentresizewidget.h"
 #include "segmenttablemodel.h"
 #include "sparklinedelegate.h"
+#include "templatesearch.h"
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
@@ -222,6 +224,8 @@ struct TableResultWidget::MenuEntry {
 const std::vector<TableResultWidget::MenuEntry>& TableResultWidget::menuEntries()
 {
     static const std::vector<MenuEntry> entries{
+        {"Search Template", &TableResultWidget::searchTemplate},
+        {"Save Template", &TableResultWidget::saveTemplate},
         {"Show In Time-Series", &TableResultWidget::showInTimeSeries},
         {"Resize Segment", &TableResultWidget::resizeSegment},
     };
@@ -243,6 +247,21 @@ void TableResultWidget::provideContextMenu(QPoint point)
         });
     }
     m_ContextMenu->popup(m_Table->viewport()->mapToGlobal(point));
+}
+
+void TableResultWidget::searchTemplate(CutSegment* segment)
+{
+    const QPointer<TableResultWidget> self(this);
+    if (m_CutCollection &&
+        SearchForRows(this, m_Model->GetDataSet(), m_CutCollection, segment->GetFrom(),
+                      segment->GetTo()) &&
+        self)
+        emit NewResultsFound();
+}
+
+void TableResultWidget::saveTemplate(CutSegment* segment)
+{
+    SaveTemplate(this, m_Model->GetDataSet(), segment->GetFrom(), segment->GetTo());
 }
 
 void TableResultWidget::showInTimeSeries(CutSegment* segment)

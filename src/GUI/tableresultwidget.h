@@ -72,6 +72,8 @@ private:
     void connectTable();
     QWidget* makeButtons(CutSegment* segment);
     bool isInView(int row) const;
+    void searchTemplate(CutSegment* segment);
+    void saveTemplate(CutSegment* segment);
     void showInTimeSeries(CutSegment* segment);
     void resizeSegment(CutSegment* segment);
     bool askForEnds(const CutSegment& segment, int& from, int& to);

@@ -23,3 +23,7 @@ void AddReimportChapter(Guide& guide, MainWindow& window, const QString& folder)
 
 /// Static and dynamic acceleration, VeDBA, pitch and roll; cuts at the dives.
 void AddDeriveChapter(Guide& guide, MainWindow& window);
+
+/// Wing beats found by a template, dives by their depth, and what follows the dives by a rule.
+/// Goes on from the recording read anew, with its two behaviours.
+void AddSearchChapter(Guide& guide, MainWindow& window);

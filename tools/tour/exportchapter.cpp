@@ -16,43 +16,33 @@
 namespace
 {
 
-template <class T>
-bool isOpen()
-{
-    return Guide::Window<T>() != nullptr;
-}
-
-bool isNothingOpen()
-{
-    return !QApplication::activeModalWidget();
-}
-
 void addMenuStep(Guide& guide, MainWindow& window, const QString& entry)
 {
-    guide.Step(QStringLiteral("Choose ") + entry, isNothingOpen, [&guide, &window, entry] {
+    guide.Step(QStringLiteral("Choose ") + entry, Guide::IsNothingOpen, [&guide, &window, entry] {
         guide.ChooseFromMenu(&window, {QStringLiteral("File"), entry});
     });
 }
 
 void addPathStep(Guide& guide, const QString& path, const QString& button)
 {
-    guide.Step(QStringLiteral("Give a path"), isOpen<QFileDialog>,
+    guide.Step(QStringLiteral("Give a path"), Guide::IsOpen<QFileDialog>,
                [&guide, path, button] { guide.PickFile(path, button); });
 }
 
 void addChoiceStep(Guide& guide, const QString& text, const QString& picture)
 {
-    guide.Step(QStringLiteral("Choose ") + text, isOpen<QInputDialog>, [&guide, text, picture] {
-        auto* dialog = Guide::Window<QInputDialog>();
-        guide.Choose(dialog->findChild<QComboBox*>(), text);
-        guide.Picture(picture);
-        guide.Click(guide.Button(dialog, QStringLiteral("OK")));
-    });
+    guide.Step(QStringLiteral("Choose ") + text, Guide::IsOpen<QInputDialog>,
+               [&guide, text, picture] {
+                   auto* dialog = Guide::Window<QInputDialog>();
+                   guide.Choose(dialog->findChild<QComboBox*>(), text);
+                   guide.Picture(picture);
+                   guide.Click(guide.Button(dialog, QStringLiteral("OK")));
+               });
 }
 
 void addFileStep(Guide& guide, const QString& path)
 {
-    guide.Step(QStringLiteral("Find the file"), isNothingOpen, [&guide, path] {
+    guide.Step(QStringLiteral("Find the file"), Guide::IsNothingOpen, [&guide, path] {
         guide.Expect(QFileInfo(path).size() > 0, QStringLiteral("there is no file ") + path);
     });
 }
@@ -84,13 +74,13 @@ void addExportSteps(Guide& guide, MainWindow& window, const QString& folder)
 
 void addStatisticsSteps(Guide& guide, MainWindow& window)
 {
-    guide.Step(QStringLiteral("Ask for statistics"), isNothingOpen, [&] {
+    guide.Step(QStringLiteral("Ask for statistics"), Guide::IsNothingOpen, [&] {
         guide.Click(
             guide.Button(window.findChild<LabeledDataTabWidget*>(), QStringLiteral("Stats")));
     });
     addChoiceStep(guide, QStringLiteral("TG_Presure"), QStringLiteral("22-attribute"));
-    guide.Step(QStringLiteral("Look at the statistics"), isOpen<BehaviorClassStatisticsWidget>,
-               [&] {
+    guide.Step(QStringLiteral("Look at the statistics"),
+               Guide::IsOpen<BehaviorClassStatisticsWidget>, [&] {
                    auto* dialog = Guide::Window<BehaviorClassStatisticsWidget>();
                    const QString mean =
                        guide.Field<QLineEdit>(dialog, QStringLiteral("Mean Value:"))->text();
@@ -116,7 +106,7 @@ void AddReimportChapter(Guide& guide, MainWindow& window, const QString& folder)
 {
     addMenuStep(guide, window, QStringLiteral("Import Project"));
     addPathStep(guide, folder + QStringLiteral("/labels.thm"), QStringLiteral("Open"));
-    guide.Step(QStringLiteral("See the labels again"), isNothingOpen, [&] {
+    guide.Step(QStringLiteral("See the labels again"), Guide::IsNothingOpen, [&] {
         auto* tabs = window.findChild<LabeledDataTabWidget*>()->findChild<QTabWidget*>();
         guide.Expect(tabs->count() == 2 && tabs->tabText(1) == QStringLiteral("glide"),
                      QStringLiteral("the behaviours do not come back"));

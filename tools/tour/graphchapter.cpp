@@ -35,7 +35,7 @@ void addAttributeSteps(Guide& guide, MainWindow& window)
         ++plots;
         const QString attribute = QLatin1String(name);
         guide.Step(
-            QStringLiteral("Show ") + attribute, [] { return !QApplication::activeModalWidget(); },
+            QStringLiteral("Show ") + attribute, Guide::IsNothingOpen,
             [&guide, &window, attribute, plots] {
                 guide.ChooseFromMenu(
                     &window,

@@ -12,3 +12,5 @@ QScrollBar* GraphScrollBar(const MainWindow& window);
 
 /// A point of the graph as it shows: x from the left edge of what is visible.
 QPoint VisiblePoint(const MainWindow& window, int x);
+/// The point of the graph where a row is; it may be out of view.
+QPoint RowPoint(const MainWindow& window, int row);

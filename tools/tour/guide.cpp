@@ -100,7 +100,7 @@ void Guide::poll(int attemptsLeft)
     });
 }
 
-void Guide::Picture(const QString& name)
+void Guide::Picture(const QString& name, const QWidget* only)
 {
     if (m_PicturesTaken.contains(name))
         return;
@@ -108,7 +108,7 @@ void Guide::Picture(const QString& name)
     QTest::qWait(100);
     QRect area;
     for (const QWidget* window : topLevels()) {
-        if (window->isVisible())
+        if (window->isVisible() && (!only || window == only))
             area |= window->frameGeometry();
     }
     QScreen* screen = QGuiApplication::primaryScreen();
@@ -173,10 +173,10 @@ void Guide::Choose(QComboBox* box, const QString& text)
     Expect(box->currentText() == text, QStringLiteral("cannot choose ") + text);
 }
 
-void Guide::ClickAt(QWidget* widget, const QPoint& position)
+void Guide::ClickAt(QWidget* widget, const QPoint& position, Qt::KeyboardModifiers modifiers)
 {
     QTest::mouseMove(widget, position);
-    QTest::mouseClick(widget, Qt::LeftButton, {}, position);
+    QTest::mouseClick(widget, Qt::LeftButton, modifiers, position);
 }
 
 void Guide::Drag(QWidget* widget, const QPoint& from, const QPoint& to)
@@ -273,6 +273,11 @@ QWidget* Guide::fieldBeside(QWidget* parent, const QString& label)
             return text->buddy();
     }
     return nullptr;
+}
+
+bool Guide::IsNothingOpen()
+{
+    return !QApplication::activeModalWidget();
 }
 
 QWidgetList Guide::topLevels()

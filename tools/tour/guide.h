@@ -31,9 +31,9 @@ public:
     /// Returns 0 when every step did what it should, else 1.
     int Run();
 
-    /// Saves what the screen shows of the windows now open as folder/name.png. A name comes true
-    /// once: a chapter taken again leaves its pictures alone.
-    void Picture(const QString& name);
+    /// Saves what the screen shows of the windows now open, or of one of them, as folder/name.png.
+    /// A name comes true once: a chapter taken again leaves its pictures alone.
+    void Picture(const QString& name, const QWidget* only = nullptr);
     /// Ends the tour with a message when condition is false.
     void Expect(bool condition, const QString& message);
 
@@ -45,7 +45,7 @@ public:
     void Click(QAbstractButton* button);
     /// Opens the box and clicks the entry of that text.
     void Choose(QComboBox* box, const QString& text);
-    void ClickAt(QWidget* widget, const QPoint& position);
+    void ClickAt(QWidget* widget, const QPoint& position, Qt::KeyboardModifiers modifiers = {});
     /// Presses the left button at from and drags to to in several moves.
     void Drag(QWidget* widget, const QPoint& from, const QPoint& to);
     /// Presses the right button and waits for the menu that comes up.
@@ -67,6 +67,13 @@ public:
     /// The visible top-level window of type T, or null.
     template <class T>
     static T* Window();
+    template <class T>
+    static bool IsOpen()
+    {
+        return Window<T>() != nullptr;
+    }
+    /// No modal window is in the way of the main window.
+    static bool IsNothingOpen();
 
 private:
     struct TourStep {

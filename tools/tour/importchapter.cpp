@@ -18,12 +18,6 @@ namespace
 const QString openFile = QStringLiteral("Open Data File");
 constexpr int columns = 10;
 
-template <class T>
-bool isOpen()
-{
-    return Guide::Window<T>() != nullptr;
-}
-
 QTableWidget* preview()
 {
     return Guide::Window<FileImportWizard>()->findChild<QTableWidget*>();
@@ -38,17 +32,17 @@ void addFileSteps(Guide& guide, MainWindow& window, const QString& recording)
         guide.ChooseFromMenu(&window, {QStringLiteral("File"), openFile},
                              [&] { guide.Picture(QStringLiteral("01b-open-menu")); });
     });
-    guide.Step(QStringLiteral("Look for the file"), isOpen<FileImportWizard>, [&] {
+    guide.Step(QStringLiteral("Look for the file"), Guide::IsOpen<FileImportWizard>, [&] {
         guide.Click(guide.Button(Guide::Window<FileImportWizard>(), QStringLiteral("...")));
     });
-    guide.Step(QStringLiteral("Choose the recording"), isOpen<QFileDialog>,
+    guide.Step(QStringLiteral("Choose the recording"), Guide::IsOpen<QFileDialog>,
                [&, recording] { guide.PickFile(recording, QStringLiteral("Open")); });
 }
 
 void addSettingSteps(Guide& guide, const QString& recording)
 {
     guide.Step(
-        QStringLiteral("Say how to read it"), [] { return !isOpen<QFileDialog>(); },
+        QStringLiteral("Say how to read it"), [] { return !Guide::IsOpen<QFileDialog>(); },
         [&, recording] {
             auto* wizard = Guide::Window<FileImportWizard>();
             guide.Expect(guide.Field<QLineEdit>(wizard, QStringLiteral("File:"))->text() ==
@@ -89,7 +83,7 @@ void addRenameSteps(Guide& guide, int column, const QString& name)
                                             header->sectionSize(column) / 2,
                                         header->height() / 2));
                });
-    guide.Step(QStringLiteral("Name it ") + name, isOpen<HeaderNameDialog>, [&guide, name] {
+    guide.Step(QStringLiteral("Name it ") + name, Guide::IsOpen<HeaderNameDialog>, [&guide, name] {
         auto* dialog = Guide::Window<HeaderNameDialog>();
         guide.TypeInto(guide.Field<QLineEdit>(dialog, QStringLiteral("Name:")), name);
         if (name == QStringLiteral("TG_Hour"))
@@ -97,7 +91,7 @@ void addRenameSteps(Guide& guide, int column, const QString& name)
         guide.Click(guide.Button(dialog, QStringLiteral("Update")));
     });
     guide.Step(
-        QStringLiteral("See its name"), [] { return !isOpen<HeaderNameDialog>(); },
+        QStringLiteral("See its name"), [] { return !Guide::IsOpen<HeaderNameDialog>(); },
         [&guide, column, name] {
             guide.Expect(preview()->horizontalHeaderItem(column)->text() == name,
                          QStringLiteral("the column is not called ") + name);

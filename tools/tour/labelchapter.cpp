@@ -1,12 +1,10 @@
 #include "chapters.h"
 
-#include "addgroupdialog.h"
-#include "behaviorselectiondialog.h"
 #include "classwidget.h"
 #include "cuttablelineplotwidget.h"
 #include "graphview.h"
 #include "guide.h"
-#include "labeleddatatabwidget.h"
+#include "labelsteps.h"
 #include "mainwindow.h"
 #include "mergelabelsdialog.h"
 #include "segmentresizedialog.h"
@@ -20,14 +18,9 @@
 namespace
 {
 
-QTabWidget* tabs(const MainWindow& window)
-{
-    return window.findChild<LabeledDataTabWidget*>()->findChild<QTabWidget*>();
-}
-
 QTableView* labelTable(const MainWindow& window, int tab)
 {
-    return tabs(window)->widget(tab)->findChild<QTableView*>();
+    return BehaviorTabs(window)->widget(tab)->findChild<QTableView*>();
 }
 
 void expectLabels(Guide& guide, const MainWindow& window, int tab, int count)
@@ -36,34 +29,6 @@ void expectLabels(Guide& guide, const MainWindow& window, int tab, int count)
     guide.Expect(
         rows == count,
         QStringLiteral("tab %1 has %2 labels instead of %3").arg(tab).arg(rows).arg(count));
-}
-
-template <class T>
-bool isOpen()
-{
-    return Guide::Window<T>() != nullptr;
-}
-
-void addGroupSteps(Guide& guide, MainWindow& window, const QString& name, const QString& picture)
-{
-    guide.Step(
-        QStringLiteral("Add a behaviour"), [] { return !QApplication::activeModalWidget(); },
-        [&] {
-            guide.Click(
-                guide.Button(window.findChild<LabeledDataTabWidget*>(), QStringLiteral("Add")));
-        });
-    guide.Step(QStringLiteral("Call it ") + name, isOpen<AddGroupDialog>, [&guide, name, picture] {
-        auto* dialog = Guide::Window<AddGroupDialog>();
-        guide.TypeInto(guide.Field<QLineEdit>(dialog, QStringLiteral("Group Name")), name);
-        guide.Picture(picture);
-        guide.Click(guide.Button(dialog, QStringLiteral("Save Group")));
-    });
-    guide.Step(
-        QStringLiteral("See its tab"), [] { return !isOpen<AddGroupDialog>(); },
-        [&guide, &window, name] {
-            guide.Expect(tabs(window)->tabText(tabs(window)->count() - 1) == name,
-                         QStringLiteral("there is no tab ") + name);
-        });
 }
 
 void addCutStep(Guide& guide, MainWindow& window, int from, int to)
@@ -82,26 +47,19 @@ void addLabelSteps(Guide& guide, MainWindow& window)
         guide.Picture(QStringLiteral("16-segment-menu"));
         guide.ChooseFromContextMenu(QStringLiteral("Move To"));
     });
-    guide.Step(QStringLiteral("Choose its behaviour"), isOpen<BehaviorSelectionDialog>, [&] {
-        auto* dialog = Guide::Window<BehaviorSelectionDialog>();
-        guide.Choose(guide.Field<QComboBox>(dialog, QStringLiteral("Behavior")),
-                     QStringLiteral("fly"));
-        guide.Click(guide.Button(dialog, QStringLiteral("Save")));
+    AddBehaviorChoiceStep(guide, QStringLiteral("fly"));
+    guide.Step(QStringLiteral("See it labelled"), Guide::IsNothingOpen, [&] {
+        guide.Picture(QStringLiteral("17-labelled"));
+        expectLabels(guide, window, 0, 1);
     });
-    guide.Step(
-        QStringLiteral("See it labelled"), [] { return !isOpen<BehaviorSelectionDialog>(); },
-        [&] {
-            guide.Picture(QStringLiteral("17-labelled"));
-            expectLabels(guide, window, 0, 1);
-        });
     for (const int x : {700, 850}) {
         guide.Step(QStringLiteral("Drag a segment onto a tab"), [&guide, &window, x] {
             guide.DragAndDrop(Graph(window), VisiblePoint(window, x),
-                              tabs(window)->currentWidget());
+                              BehaviorTabs(window)->currentWidget());
         });
     }
     guide.Step(QStringLiteral("See them in the tab"), [&] {
-        expectLabels(guide, window, tabs(window)->currentIndex(), 2);
+        expectLabels(guide, window, BehaviorTabs(window)->currentIndex(), 2);
         guide.Picture(QStringLiteral("18-class-table"));
     });
 }
@@ -109,13 +67,13 @@ void addLabelSteps(Guide& guide, MainWindow& window)
 void addResizeSteps(Guide& guide, MainWindow& window)
 {
     guide.Step(QStringLiteral("Ask for the menu of a label"), [&] {
-        QTableView* table = labelTable(window, tabs(window)->currentIndex());
+        QTableView* table = labelTable(window, BehaviorTabs(window)->currentIndex());
         guide.OpenContextMenu(table->viewport(),
                               table->visualRect(table->model()->index(0, 1)).center());
         guide.Picture(QStringLiteral("18b-label-menu"));
         guide.ChooseFromContextMenu(QStringLiteral("Resize Segment"));
     });
-    guide.Step(QStringLiteral("Move its end"), isOpen<SegmentResizeDialog>, [&] {
+    guide.Step(QStringLiteral("Move its end"), Guide::IsOpen<SegmentResizeDialog>, [&] {
         auto* dialog = Guide::Window<SegmentResizeDialog>();
         auto* end = dialog->findChildren<QSpinBox*>().value(1);
         const int before = end->value();
@@ -129,12 +87,12 @@ void addResizeSteps(Guide& guide, MainWindow& window)
 void addMergeSteps(Guide& guide, MainWindow& window)
 {
     guide.Step(
-        QStringLiteral("Merge labels"), [] { return !isOpen<SegmentResizeDialog>(); },
+        QStringLiteral("Merge labels"), [] { return !Guide::IsOpen<SegmentResizeDialog>(); },
         [&] {
             guide.ChooseFromMenu(&window,
                                  {QStringLiteral("Tools"), QStringLiteral("Merge Labels")});
         });
-    guide.Step(QStringLiteral("Try two distances"), isOpen<MergeLabelsDialog>, [&] {
+    guide.Step(QStringLiteral("Try two distances"), Guide::IsOpen<MergeLabelsDialog>, [&] {
         auto* dialog = Guide::Window<MergeLabelsDialog>();
         QImage pictures[2];
         int next = 0;
@@ -157,8 +115,8 @@ void addMergeSteps(Guide& guide, MainWindow& window)
 
 void AddLabelChapter(Guide& guide, MainWindow& window)
 {
-    addGroupSteps(guide, window, QStringLiteral("fly"), QStringLiteral("13-add-group"));
-    addGroupSteps(guide, window, QStringLiteral("glide"), QStringLiteral("13-add-group"));
+    AddGroupSteps(guide, window, QStringLiteral("fly"), QStringLiteral("13-add-group"));
+    AddGroupSteps(guide, window, QStringLiteral("glide"), QStringLiteral("13-add-group"));
     addCutStep(guide, window, 200, 350);
     addCutStep(guide, window, 640, 760);
     addCutStep(guide, window, 800, 950);

@@ -1,8 +1,11 @@
 #include "chapters.h"
+#include "colormaps.h"
+#include "database.h"
 #include "guide.h"
 #include "mainwindow.h"
 #include <QApplication>
 #include <QDir>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTextStream>
 
@@ -21,6 +24,16 @@ int main(int argc, char* argv[])
     QFile::remove(recording);
     QFile::copy(QStringLiteral(TOUR_EXAMPLES "/recording.csv"), recording);
 
+    // Settings, templates and backups of its own: the tour leaves those of the user alone.
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
+    const QSqlError error = InitializeDatabase();
+    if (error.isValid()) {
+        QTextStream(stderr) << error.text() << '\n';
+        return 1;
+    }
+
+    ColorMaps::InitColorMaps();
     const QTemporaryDir exports;
     MainWindow window;
     window.show();
@@ -32,5 +45,8 @@ int main(int argc, char* argv[])
     AddImportChapter(guide, window, recording);
     AddReimportChapter(guide, window, exports.path());
     AddDeriveChapter(guide, window);
+    AddImportChapter(guide, window, recording);
+    AddReimportChapter(guide, window, exports.path());
+    AddSearchChapter(guide, window);
     return guide.Run();
 }

@@ -242,6 +242,8 @@ const std::vector<CuttableLinePlotWidget::MenuEntry>& CuttableLinePlotWidget::me
     using Widget = CuttableLinePlotWidget;
     static const std::vector<MenuEntry> entries{
         {"Zoom On Region", &Widget::canZoom, &Widget::zoomOnSelection},
+        {"Save Template", &Widget::canSave, &Widget::requestSave},
+        {"Search Selection", &Widget::canZoom, &Widget::requestSearch},
         {"Open Plot", &Widget::canOpenPlot, &Widget::openPlot},
         {"Move To", &Widget::canOpenPlot, &Widget::requestMove},
         {"Remove Label(s)", &Widget::canRemoveLabel, &Widget::requestDelete},

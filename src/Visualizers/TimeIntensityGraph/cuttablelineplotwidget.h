@@ -71,10 +71,13 @@ private:
     struct MenuEntry;
     static const std::vector<MenuEntry>& menuEntries();
     bool canZoom(const CutSegment& segment) const;
+    bool canSave(const CutSegment&) const { return true; }
     bool canOpenPlot(const CutSegment& segment) const;
     bool canRemoveLabel(const CutSegment& segment) const;
     void zoomOnSelection(const CutSegment& segment);
     void openPlot(const CutSegment& segment);
+    void requestSave(const CutSegment&) { emit SaveActionRequested(); }
+    void requestSearch(const CutSegment&) { emit SearchActionRequested(); }
     void requestMove(const CutSegment&) { emit MoveActionRequested(); }
     void requestDelete(const CutSegment&) { emit DeleteActionRequested(); }
 

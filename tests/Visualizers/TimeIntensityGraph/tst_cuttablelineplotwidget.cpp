@@ -204,8 +204,10 @@ void TestCuttableLinePlotWidget::contextMenu_data()
     QTest::addColumn<int>("x");
     QTest::addColumn<int>("selectionEnd");
     QTest::addColumn<QStringList>("entries");
-    const QStringList zoom{QStringLiteral("Zoom On Region")};
-    const QStringList open{QStringLiteral("Open Plot"), QStringLiteral("Move To")};
+    const QStringList zoom{QStringLiteral("Zoom On Region"), QStringLiteral("Save Template"),
+                           QStringLiteral("Search Selection")};
+    const QStringList open{QStringLiteral("Save Template"), QStringLiteral("Open Plot"),
+                           QStringLiteral("Move To")};
     const QStringList remove = open + QStringList(QStringLiteral("Remove Label(s)"));
     QTest::newRow("plain cut") << 100 << -1 << open;
     QTest::newRow("labelled") << 400 << -1 << remove;
@@ -233,7 +235,7 @@ void TestCuttableLinePlotWidget::menuEffects()
         menu->close();
     };
     QSignalSpy opened(m_Widget.get(), &CuttableLinePlotWidget::WindowOpened);
-    choose({425, 50});
+    choose({425, 50}, 1);
     QCOMPARE(opened.count(), 1);
     QPointer<LinePlotWidget> window(
         qobject_cast<LinePlotWidget*>(opened.first().first().value<QWidget*>()));
@@ -253,16 +255,22 @@ void TestCuttableLinePlotWidget::menuEffects()
     QCOMPARE(from, 48);
     QSignalSpy moves(m_Widget.get(), &CuttableLinePlotWidget::MoveActionRequested);
     QSignalSpy deletions(m_Widget.get(), &CuttableLinePlotWidget::DeleteActionRequested);
-    choose({425, 50}, 1);
-    QCOMPARE(std::make_pair(moves.count(), deletions.count()), std::make_pair(1, 0));
     choose({425, 50}, 2);
+    QCOMPARE(std::make_pair(moves.count(), deletions.count()), std::make_pair(1, 0));
+    choose({425, 50}, 3);
     QCOMPARE(std::make_pair(moves.count(), deletions.count()), std::make_pair(1, 1));
 
+    QSignalSpy saves(m_Widget.get(), &CuttableLinePlotWidget::SaveActionRequested);
+    QSignalSpy searches(m_Widget.get(), &CuttableLinePlotWidget::SearchActionRequested);
+    choose({425, 50}, 0);
+    QCOMPARE(std::make_pair(saves.count(), searches.count()), std::make_pair(1, 0));
     QSignalSpy zoomed(m_Widget.get(), &CuttableLinePlotWidget::ZoomOnRegion);
     drag(141, 345);
     choose({200, 50});
     QCOMPARE(zoomed.count(), 1);
     QCOMPARE(zoomed.first(), (QVariantList{10, 30}));
+    choose({200, 50}, 2);
+    QCOMPARE(searches.count(), 1);
 }
 
 void TestCuttableLinePlotWidget::doubleClickDrags()

@@ -22,7 +22,7 @@ QList<CollectionsDataObject*> CollectionsDataObject::GetAllCollections()
     QSqlQuery query = PrepareQuery("SELECT * FROM pattern_collection");
     if (!RunQuery(query))
         return collections;
-    while (query.next())
+    while (NextRow(query))
         collections.append(readCollection(query));
     return collections;
 }
@@ -31,7 +31,7 @@ CollectionsDataObject* CollectionsDataObject::GetCollection(int id, bool loadPat
 {
     QSqlQuery query = PrepareQuery("SELECT * FROM pattern_collection WHERE id = ?");
     query.addBindValue(id);
-    if (!RunQuery(query) || !query.next())
+    if (!RunQuery(query) || !NextRow(query))
         return nullptr;
     auto* collection = readCollection(query);
     if (loadPatterns)
@@ -71,7 +71,7 @@ bool CollectionsDataObject::UpdateCollection()
     query.bindValue(QStringLiteral(":name"), m_Name);
     query.bindValue(QStringLiteral(":desc"), m_Desc);
     query.bindValue(QStringLiteral(":id"), m_Id);
-    return RunQuery(query);
+    return RunQuery(query) && query.numRowsAffected() == 1;
 }
 
 bool CollectionsDataObject::LoadPatterns()
@@ -82,12 +82,7 @@ bool CollectionsDataObject::LoadPatterns()
         return false;
     qDeleteAll(m_Patterns);
     m_Patterns.clear();
-    while (query.next()) {
-        auto* pattern = new PatternsDataObject(query.value(QStringLiteral("collec_id")).toInt(),
-                                               query.value(QStringLiteral("name")).toString(),
-                                               query.value(QStringLiteral("desc")).toString());
-        pattern->SetId(query.value(QStringLiteral("id")).toInt());
-        m_Patterns.append(pattern);
-    }
-    return true;
+    while (NextRow(query))
+        m_Patterns.append(PatternsDataObject::FromRow(query));
+    return LastQueryError().isEmpty();
 }

@@ -26,7 +26,7 @@ public:
     /// Stores this as a new row, with addPatterns all patterns under it too. The new id, or -1
     /// with nothing stored.
     int InsertCollection(bool addPatterns = false);
-    /// Writes name and description of a stored collection.
+    /// Writes name and description of a stored collection. False also when it has gone.
     bool UpdateCollection();
     /// Reads the patterns anew, without their signals. False after a failure.
     bool LoadPatterns();

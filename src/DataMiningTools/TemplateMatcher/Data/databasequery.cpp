@@ -6,19 +6,52 @@
 
 Q_LOGGING_CATEGORY(lcDatabase, "skerrymoor.database", QtWarningMsg)
 
+namespace
+{
+
+QString& lastError()
+{
+    static QString text;
+    return text;
+}
+
+void note(const QSqlError& error)
+{
+    qCDebug(lcDatabase) << error;
+    lastError() = error.databaseText().isEmpty() ? error.text() : error.databaseText();
+}
+
+} // namespace
+
+QString LastQueryError()
+{
+    return lastError();
+}
+
 QSqlQuery PrepareQuery(const char* statement)
 {
     QSqlQuery query;
-    if (!query.prepare(QLatin1String(statement)))
-        qCDebug(lcDatabase) << query.lastError();
+    query.setForwardOnly(true);
+    query.prepare(QLatin1String(statement));
     return query;
 }
 
 bool RunQuery(QSqlQuery& query)
 {
-    if (query.exec())
+    lastError().clear();
+    // Run all the same, a statement that could not be prepared would lose its reason.
+    if (!query.lastError().isValid() && query.exec())
         return true;
-    qCDebug(lcDatabase) << query.lastError();
+    note(query.lastError());
+    return false;
+}
+
+bool NextRow(QSqlQuery& query)
+{
+    if (query.next())
+        return true;
+    if (query.lastError().isValid())
+        note(query.lastError());
     return false;
 }
 
@@ -49,8 +82,10 @@ bool DatabaseTransaction::Commit()
 {
     if (!m_IsOpen)
         return true;
-    if (!m_Database.commit())
+    if (!m_Database.commit()) {
+        note(m_Database.lastError());
         return false;
+    }
     m_IsOpen = false;
     return true;
 }

@@ -3,6 +3,47 @@
 #include "databasequery.h"
 #include <QVariant>
 
+PatternsDataObject* PatternsDataObject::FromRow(const QSqlQuery& row)
+{
+    auto* pattern = new PatternsDataObject(row.value(QStringLiteral("collec_id")).toInt(),
+                                           row.value(QStringLiteral("name")).toString(),
+                                           row.value(QStringLiteral("desc")).toString());
+    pattern->SetId(row.value(QStringLiteral("id")).toInt());
+    return pattern;
+}
+
+QList<PatternsDataObject*> PatternsDataObject::GetAllPatterns()
+{
+    QList<PatternsDataObject*> patterns;
+    QSqlQuery query = PrepareQuery("SELECT * FROM pattern");
+    if (!RunQuery(query))
+        return patterns;
+    while (NextRow(query))
+        patterns.append(FromRow(query));
+    return patterns;
+}
+
+PatternsDataObject* PatternsDataObject::GetPattern(int id, bool loadSignals)
+{
+    QSqlQuery query = PrepareQuery("SELECT * FROM pattern WHERE id = ?");
+    query.addBindValue(id);
+    if (!RunQuery(query) || !NextRow(query))
+        return nullptr;
+    std::unique_ptr<PatternsDataObject> pattern(FromRow(query));
+    if (loadSignals) {
+        pattern->m_SignalCollections =
+            SignalTemplateCollectionDataObject::GetSignalsByPatternID(id);
+        if (!LastQueryError().isEmpty())
+            return nullptr;
+    }
+    return pattern.release();
+}
+
+bool PatternsDataObject::DeletePattern(int id)
+{
+    return RunForId("DELETE FROM pattern WHERE id = :id", id);
+}
+
 int PatternsDataObject::InsertPattern(bool addSignals)
 {
     DatabaseTransaction transaction;

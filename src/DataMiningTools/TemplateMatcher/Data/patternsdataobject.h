@@ -4,6 +4,8 @@
 #include <QList>
 #include <QString>
 
+class QSqlQuery;
+
 /// A template: a row of "pattern". Owns its signal collections, one per frequency factor.
 class PatternsDataObject
 {
@@ -16,6 +18,17 @@ public:
     ~PatternsDataObject() { qDeleteAll(m_SignalCollections); }
     PatternsDataObject(const PatternsDataObject&) = delete;
     PatternsDataObject& operator=(const PatternsDataObject&) = delete;
+
+    /// All patterns of all collections, without their signals; the caller owns them. Empty after a
+    /// failure.
+    static QList<PatternsDataObject*> GetAllPatterns();
+    /// The pattern of that id, which the caller owns, with loadSignals all that stands under it
+    /// too; null when there is none or not all of it can be read.
+    static PatternsDataObject* GetPattern(int id, bool loadSignals);
+    /// Removes a pattern and, by the database's own cascade, its signals.
+    static bool DeletePattern(int id);
+    /// The pattern of the present row of a query, without signals; the caller owns it.
+    static PatternsDataObject* FromRow(const QSqlQuery& row);
 
     /// Stores this as a new row, with addSignals all signal collections under it too. The new
     /// id, or -1 with nothing stored.
@@ -30,6 +43,7 @@ public:
     void SetName(const QString& name) { m_Name = name; }
     QString GetDesc() const { return m_Desc; }
     void SetDesc(const QString& desc) { m_Desc = desc; }
+    /// By rising frequency factor when read.
     const QList<SignalTemplateCollectionDataObject*>& GetSignalCollections() const
     {
         return m_SignalCollections;

@@ -3,6 +3,52 @@
 #include "databasequery.h"
 #include <QVariant>
 
+QList<SignalTemplateCollectionDataObject*>
+SignalTemplateCollectionDataObject::readAll(QSqlQuery& query, bool loadSignals)
+{
+    QList<SignalTemplateCollectionDataObject*> collections;
+    bool isRead = RunQuery(query);
+    while (isRead && NextRow(query)) {
+        auto* collection = new SignalTemplateCollectionDataObject(
+            query.value(QStringLiteral("frequency_factor")).toDouble());
+        collection->m_Id = query.value(QStringLiteral("id")).toInt();
+        collection->m_PatternId = query.value(QStringLiteral("pattern_id")).toInt();
+        collections.append(collection);
+        if (loadSignals)
+            collection->m_Signals =
+                SignalTemplateDataObject::GetSignalsByCollectionID(collection->m_Id);
+        isRead = LastQueryError().isEmpty();
+    }
+    // A template that lacks some of its signals would find other things.
+    if (!LastQueryError().isEmpty()) {
+        qDeleteAll(collections);
+        collections.clear();
+    }
+    return collections;
+}
+
+SignalTemplateCollectionDataObject* SignalTemplateCollectionDataObject::GetSignal(int id)
+{
+    QSqlQuery query = PrepareQuery("SELECT * FROM signal_template_collection WHERE id = ? "
+                                   "ORDER BY frequency_factor");
+    query.addBindValue(id);
+    return readAll(query, true).value(0);
+}
+
+QList<SignalTemplateCollectionDataObject*>
+SignalTemplateCollectionDataObject::GetSignalsByPatternID(int id, bool loadSignals)
+{
+    QSqlQuery query = PrepareQuery("SELECT * FROM signal_template_collection WHERE pattern_id = ? "
+                                   "ORDER BY frequency_factor");
+    query.addBindValue(id);
+    return readAll(query, loadSignals);
+}
+
+bool SignalTemplateCollectionDataObject::DeleteSignalTemplate(int id)
+{
+    return RunForId("DELETE FROM signal_template_collection WHERE id = :id", id);
+}
+
 int SignalTemplateCollectionDataObject::InsertSignal(bool addSignals)
 {
     DatabaseTransaction transaction;

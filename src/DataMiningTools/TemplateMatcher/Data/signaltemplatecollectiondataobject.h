@@ -3,6 +3,8 @@
 #include "signaltemplatedataobject.h"
 #include <QList>
 
+class QSqlQuery;
+
 /// The signals of a template at one frequency factor: a row of "signal_template_collection".
 /// Owns its signals, one per attribute.
 class SignalTemplateCollectionDataObject
@@ -16,6 +18,16 @@ public:
     SignalTemplateCollectionDataObject(const SignalTemplateCollectionDataObject&) = delete;
     SignalTemplateCollectionDataObject&
     operator=(const SignalTemplateCollectionDataObject&) = delete;
+
+    /// The signal collection of that id with its signals, which the caller owns; null when there
+    /// is none or not all of it can be read.
+    static SignalTemplateCollectionDataObject* GetSignal(int id);
+    /// Those of a pattern, by rising frequency factor, with loadSignals with their signals; the
+    /// caller owns them. Empty after a failure.
+    static QList<SignalTemplateCollectionDataObject*>
+    GetSignalsByPatternID(int id, bool loadSignals = true);
+    /// Removes a signal collection and, by the database's own cascade, its signals.
+    static bool DeleteSignalTemplate(int id);
 
     /// Stores this as a new row, with addSignals all signals under it too. The new id, or -1
     /// with nothing stored.
@@ -33,6 +45,8 @@ public:
     void AddSignal(SignalTemplateDataObject* signal) { m_Signals.append(signal); }
 
 private:
+    static QList<SignalTemplateCollectionDataObject*> readAll(QSqlQuery& query, bool loadSignals);
+
     int m_Id = -1;
     double m_FrequencyFactor;
     QList<SignalTemplateDataObject*> m_Signals;

@@ -2,10 +2,73 @@
 
 #include "databasequery.h"
 #include "dataset.h"
+#include "signalresampling.h"
+#include "signalsmoothing.h"
 #include <QDataStream>
 #include <QVariant>
+#include <algorithm>
 #include <cmath>
+#include <limits>
 #include <numeric>
+
+namespace
+{
+
+// The values of a blob; as many as it has when it is shorter than the length beside it.
+std::vector<double> readValues(const QByteArray& blob, int length)
+{
+    const int held = blob.size() / int(sizeof(double));
+    std::vector<double> values(size_t(std::clamp(length, 0, held)));
+    QDataStream stream(blob);
+    for (double& value : values)
+        stream >> value;
+    return values;
+}
+
+// The database keeps NaN as a null.
+double readNumber(const QVariant& value)
+{
+    return value.isNull() ? std::numeric_limits<double>::quiet_NaN() : value.toDouble();
+}
+
+} // namespace
+
+SignalTemplateDataObject* SignalTemplateDataObject::fromRow(const QSqlQuery& row)
+{
+    auto* signal = new SignalTemplateDataObject;
+    signal->m_Id = row.value(QStringLiteral("id")).toInt();
+    signal->m_CollectionId = row.value(QStringLiteral("signal_collection_id")).toInt();
+    signal->m_Signal = readValues(row.value(QStringLiteral("signal")).toByteArray(),
+                                  row.value(QStringLiteral("signal_length")).toInt());
+    signal->m_Mean = readNumber(row.value(QStringLiteral("signal_mean")));
+    signal->m_Sd = readNumber(row.value(QStringLiteral("signal_sd")));
+    signal->m_AttName = row.value(QStringLiteral("att_name")).toString();
+    return signal;
+}
+
+SignalTemplateDataObject* SignalTemplateDataObject::GetSignal(int id)
+{
+    QSqlQuery query = PrepareQuery("SELECT * FROM signal_template WHERE id = ?");
+    query.addBindValue(id);
+    return RunQuery(query) && NextRow(query) ? fromRow(query) : nullptr;
+}
+
+QList<SignalTemplateDataObject*> SignalTemplateDataObject::GetSignalsByCollectionID(int id)
+{
+    QList<SignalTemplateDataObject*> found;
+    QSqlQuery query = PrepareQuery("SELECT * FROM signal_template WHERE signal_collection_id = ?");
+    query.addBindValue(id);
+    if (!RunQuery(query))
+        return found;
+    while (NextRow(query))
+        found.append(fromRow(query));
+    return found;
+}
+
+bool SignalTemplateDataObject::DeleteSignal(int id)
+{
+    return RunForId("DELETE FROM signal_template WHERE id = :id", id);
+}
 
 int SignalTemplateDataObject::InsertSignal()
 {
@@ -28,7 +91,9 @@ int SignalTemplateDataObject::InsertSignal()
 
 bool SignalTemplateDataObject::SetSignal(DataSet* dataSet, int attribute, int start, int end)
 {
-    if (attribute < 0 || end - start < 1)
+    if (attribute < 0 || attribute >= dataSet->GetAttributeCount() || end - start < 1)
+        return false;
+    if (start < 0 || end > dataSet->GetRowCount())
         return false;
     m_Signal.clear();
     for (int row = start; row < end; ++row)
@@ -52,4 +117,34 @@ void SignalTemplateDataObject::computeSd()
     for (const double value : m_Signal)
         sum += (value - m_Mean) * (value - m_Mean);
     m_Sd = std::sqrt(sum / GetLength());
+}
+
+bool SignalTemplateDataObject::SmoothSignal(int window)
+{
+    if (m_Signal.empty())
+        return false;
+    m_Signal = SmoothedSignal(m_Signal, window);
+    return true;
+}
+
+std::vector<double> SignalTemplateDataObject::resampleSignal(int up, int down, int& newLength) const
+{
+    std::vector<double> values = ResampledSignal(m_Signal, up, down);
+    newLength = int(values.size());
+    return values;
+}
+
+std::unique_ptr<SignalTemplateDataObject> SignalTemplateDataObject::resampledCopy(int up,
+                                                                                  int down) const
+{
+    auto copy = std::make_unique<SignalTemplateDataObject>();
+    int length = 0;
+    copy->m_Signal = resampleSignal(up, down, length);
+    if (length == 0)
+        return nullptr;
+    copy->m_AttName = m_AttName;
+    copy->m_CollectionId = m_CollectionId;
+    copy->computeMean();
+    copy->computeSd();
+    return copy;
 }

@@ -1,0 +1,16 @@
+#include "attributebox.h"
+
+#include "dataset.h"
+#include <QComboBox>
+
+QComboBox* MakeAttributeBox(const DataSet* dataSet, const QString& toolTip)
+{
+    auto* box = new QComboBox;
+    box->setToolTip(toolTip);
+    // Not the width of the longest entry, which can be any name.
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(12);
+    if (dataSet)
+        box->addItems(dataSet->GetAttributeNames());
+    return box;
+}

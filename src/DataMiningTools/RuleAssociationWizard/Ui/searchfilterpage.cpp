@@ -1,0 +1,74 @@
+#include "searchfilterpage.h"
+
+#include "matchplot.h"
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+SearchFilterPage::SearchFilterPage(const QString& resultsTitle, DataSet* dataSet, QWidget* parent)
+    : QWizardPage(parent), m_Number(new QLabel(tr("No results extracted"))),
+      m_Results(new MatchPlot(resultsTitle, dataSet))
+{
+    connect(m_Results, &MatchPlot::MatchesRejected, this, &SearchFilterPage::showNumber);
+}
+
+void SearchFilterPage::layOut(QWidget* fields)
+{
+    m_Fields = fields;
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(fields);
+    layout->addWidget(m_Results, 1);
+}
+
+QLayout* SearchFilterPage::makeExtractRow()
+{
+    auto* extract = new QPushButton(tr("Extract Results"));
+    extract->setToolTip(tr("Search and show the matches"));
+    connect(extract, &QPushButton::clicked, this, &SearchFilterPage::extractMatches);
+    auto* row = new QHBoxLayout;
+    row->addWidget(extract);
+    row->addWidget(m_Number);
+    row->addStretch();
+    return row;
+}
+
+const SearchMatches& SearchFilterPage::GetMatches() const
+{
+    return m_Results->GetMatches();
+}
+
+void SearchFilterPage::showMatches(const SearchMatches& matches)
+{
+    m_Results->SetMatches(matches);
+    m_HasRun = true;
+    m_FieldsSearched = getFields();
+    showNumber();
+    emit completeChanged();
+}
+
+QStringList SearchFilterPage::getFields() const
+{
+    QStringList fields;
+    for (const auto* box : m_Fields->findChildren<QComboBox*>())
+        fields.append(box->currentText());
+    for (const auto* box : m_Fields->findChildren<QAbstractSpinBox*>())
+        fields.append(box->text());
+    return fields;
+}
+
+void SearchFilterPage::keyPressEvent(QKeyEvent* event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && !(m_HasRun && getFields() == m_FieldsSearched))
+        extractMatches();
+    else
+        QWizardPage::keyPressEvent(event);
+}
+
+void SearchFilterPage::showNumber()
+{
+    m_Number->setText(tr("Number matches: %1").arg(CountMatches(GetMatches())));
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "searchfilterpage.h"
+#include <QList>
+
+class CutCollection;
+class QSpinBox;
+class SearchRows;
+class ThresholdParameterWidget;
+
+/// Where the user sets the parameters of the threshold search.
+class ThresholdFilterPage : public SearchFilterPage
+{
+    Q_OBJECT
+public:
+    /// searchMode: the state of the segments to search.
+    ThresholdFilterPage(DataSet* dataSet, const CutCollection* cuts, int searchMode,
+                        QWidget* parent = nullptr);
+
+public slots:
+    void addThresholdParameter();
+    void extractMatches() override;
+
+private:
+    QWidget* makeFields();
+    void removeParameter(ThresholdParameterWidget* parameter);
+
+    DataSet* m_DataSet;
+    const CutCollection* m_CutCollection;
+    int m_SearchMode;
+    SearchRows* m_Rows;
+    QList<ThresholdParameterWidget*> m_Parameters;
+    QSpinBox* m_MinimumLength;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "searchmatch.h"
+#include <QWizardPage>
+
+class CutCollection;
+class QLabel;
+
+/// The last page of the threshold search, which makes the matches into results.
+class ThresholdFinishPage : public QWizardPage
+{
+    Q_OBJECT
+public:
+    /// searchMode: the state of the segments that were searched.
+    ThresholdFinishPage(CutCollection* cuts, int searchMode, QWidget* parent = nullptr);
+
+    void SetMatches(const SearchMatches& matches);
+    /// Inserts the matches into the cuts.
+    bool validatePage() override;
+
+private:
+    CutCollection* m_CutCollection;
+    int m_SearchMode;
+    SearchMatches m_Matches;
+    QLabel* m_Summary;
+};

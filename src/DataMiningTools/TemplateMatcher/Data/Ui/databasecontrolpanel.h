@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QDialog>
+
+class QListWidgetItem;
+class RowList;
+
+/// The collections of the template database and their patterns, to be seen, changed and deleted.
+/// The patterns shown are always those of the current collection.
+class DatabaseControlPanel : public QDialog
+{
+    Q_OBJECT
+public:
+    explicit DatabaseControlPanel(QWidget* parent = nullptr);
+
+public slots:
+    void populateListWidget();
+    /// Null empties the list of patterns.
+    void populatePatternsList(QListWidgetItem* collection);
+    void addCollection();
+    void editCollection();
+    /// Deletes the current collection with all its patterns, without asking.
+    void deleteCollection();
+    void viewPattern();
+    /// Deletes the current pattern with all its signals, without asking.
+    void deletePattern();
+
+private:
+    RowList* makeCollections();
+    RowList* makePatterns();
+
+    RowList* m_Collections;
+    RowList* m_Patterns;
+};

@@ -1,0 +1,28 @@
+#include "databasemessages.h"
+
+#include "databasequery.h"
+#include "rowlist.h"
+#include "usererror.h"
+#include <QMessageBox>
+
+void ShowDatabaseError(QWidget* parent, const QString& text)
+{
+    const QString reason = LastQueryError();
+    ShowUserError(parent, QMessageBox::tr("Error"),
+                  reason.isEmpty() ? text
+                                   : text + QStringLiteral(" (") + reason + QLatin1Char(')'));
+}
+
+bool DeleteCurrentRow(const RowList& list, bool (*deleteRow)(int id), const QString& title,
+                      const QString& text)
+{
+    const int id = list.GetCurrentId();
+    if (id == -1)
+        return false;
+    if (!deleteRow(id)) {
+        ShowDatabaseError(list.window(), QMessageBox::tr("Error: Nothing was deleted."));
+        return false;
+    }
+    QMessageBox::information(list.window(), title, text);
+    return true;
+}

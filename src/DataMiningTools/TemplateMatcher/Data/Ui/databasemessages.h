@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+class RowList;
+
+/// Tells the user what failed, and why the database says it did.
+void ShowDatabaseError(QWidget* parent, const QString& text);
+
+/// Deletes the current row by an operation of its table and tells the user how that went, in a
+/// box of that title and text when it went well. False when nothing was deleted.
+bool DeleteCurrentRow(const RowList& list, bool (*deleteRow)(int id), const QString& title,
+                      const QString& text);

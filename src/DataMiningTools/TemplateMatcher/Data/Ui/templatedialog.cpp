@@ -1,0 +1,184 @@
+#include "templatedialog.h"
+
+#include "collectionsdataobject.h"
+#include "cutsegment.h"
+#include "databasemessages.h"
+#include "databasequery.h"
+#include "dataset.h"
+#include "dialogbuttons.h"
+#include "lineplotwidget.h"
+#include "signalresampling.h"
+#include "signalresamplingform.h"
+#include "usererror.h"
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QScrollArea>
+#include <QSpinBox>
+
+TemplateDialog::TemplateDialog(DataSet* dataSet, CutSegment* segment, QWidget* parent)
+    : QDialog(parent), m_DataSet(dataSet), m_From(segment->GetFrom()), m_To(segment->GetTo()),
+      m_Name(new QLineEdit), m_Desc(new QLineEdit), m_Collection(new QComboBox),
+      m_Resample(new QCheckBox), m_Smooth(new QCheckBox), m_Window(new QSpinBox)
+{
+    setWindowTitle(tr("Add Template"));
+    fillCollections();
+    auto* left = new QVBoxLayout;
+    left->addLayout(makeForm(), 1);
+    left->addLayout(MakeDialogButtons(this, tr("Save")));
+    auto* layout = new QHBoxLayout(this);
+    layout->addLayout(left, 1);
+    layout->addWidget(makePlots(), 1);
+    resize(820, 560);
+    m_Name->setFocus();
+}
+
+TemplateDialog::~TemplateDialog() = default;
+
+QLayout* TemplateDialog::makeForm()
+{
+    m_Collection->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_Collection->setMinimumContentsLength(16);
+    m_Resample->setChecked(true);
+    m_Resample->setToolTip(tr("Ask for factors and store the template once for each"));
+    auto* form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->addRow(tr("Name "), m_Name);
+    form->addRow(tr("Description "), m_Desc);
+    form->addRow(tr("Collection "), m_Collection);
+    form->addRow(tr("Resample "), m_Resample);
+    addSmoothing(form);
+    form->addRow(tr("Attributes"), makeAttributes());
+    return form;
+}
+
+void TemplateDialog::addSmoothing(QFormLayout* form)
+{
+    m_Smooth->setToolTip(tr("Store the signals smoothed"));
+    m_Window->setValue(8);
+    m_Window->setEnabled(false);
+    m_Window->setToolTip(tr("Rows on each side that a value is smoothed over; twice as many at "
+                            "both ends stay raw"));
+    connect(m_Smooth, &QCheckBox::toggled, m_Window, &QWidget::setEnabled);
+    form->addRow(tr("Smooth "), m_Smooth);
+    form->addRow(tr("Window Size "), m_Window);
+}
+
+QWidget* TemplateDialog::makeAttributes()
+{
+    auto* boxes = new QWidget;
+    auto* column = new QVBoxLayout(boxes);
+    for (QString name : m_DataSet->GetAttributeNames()) {
+        auto* box = new QCheckBox(name.replace(QLatin1Char('&'), QStringLiteral("&&")));
+        column->addWidget(box);
+        m_Attributes.push_back(box);
+    }
+    column->addStretch();
+    auto* scroll = new QScrollArea;
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(boxes);
+    scroll->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    return scroll;
+}
+
+QWidget* TemplateDialog::makePlots()
+{
+    auto* plots = new QWidget;
+    auto* column = new QVBoxLayout(plots);
+    for (int i = 0; i < m_DataSet->GetAttributeCount(); ++i) {
+        auto* plot = new LinePlotWidget(i);
+        plot->setMinimumSize(250, 300);
+        // Ends the time axis inside the plot, so that the whole segment shows.
+        plot->SetRightMargin(40);
+        plot->SetDataSet(m_DataSet);
+        plot->SetRange(m_From, m_To);
+        column->addWidget(plot);
+    }
+    auto* scroll = new QScrollArea;
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(plots);
+    return scroll;
+}
+
+void TemplateDialog::fillCollections()
+{
+    const QList<CollectionsDataObject*> collections = CollectionsDataObject::GetAllCollections();
+    for (const CollectionsDataObject* collection : collections)
+        m_Collection->addItem(collection->GetName(), collection->GetId());
+    qDeleteAll(collections);
+}
+
+PatternRequest TemplateDialog::readInput() const
+{
+    PatternRequest request;
+    request.m_CollectionId = m_Collection->currentData().toInt();
+    request.m_Name = m_Name->text().trimmed();
+    request.m_Desc = m_Desc->text().trimmed();
+    request.m_From = m_From;
+    request.m_To = m_To;
+    request.m_Factors.append(qMakePair(1, 1));
+    if (m_Smooth->isChecked())
+        request.m_SmoothingWindow = m_Window->value();
+    for (size_t i = 0; i < m_Attributes.size(); ++i) {
+        if (m_Attributes[i]->isChecked())
+            request.m_Attributes.append(int(i));
+    }
+    return request;
+}
+
+bool TemplateDialog::checkInput(const PatternRequest& request)
+{
+    if (request.m_Name.isEmpty()) {
+        ShowUserError(this, tr("Error"), tr("Error: No name entered."));
+        m_Name->setFocus();
+        return false;
+    }
+    if (request.m_Attributes.isEmpty()) {
+        ShowUserError(this, tr("Error"), tr("Error: No data attributes selected."));
+        return false;
+    }
+    if (m_Collection->currentIndex() == -1) {
+        // Another process may have kept the database to itself until now.
+        fillCollections();
+        ShowDatabaseError(this, tr("Error: No collection selected."));
+        return false;
+    }
+    return true;
+}
+
+bool TemplateDialog::askFactors(PatternRequest& request)
+{
+    SignalResamplingForm form(this);
+    if (form.exec() != QDialog::Accepted)
+        return false;
+    request.m_Factors = form.GetFactors();
+    return true;
+}
+
+void TemplateDialog::addTemplate()
+{
+    PatternRequest request = readInput();
+    if (!checkInput(request) || (m_Resample->isChecked() && !askFactors(request)))
+        return;
+    auto pattern = MakePattern(m_DataSet, request);
+    if (!pattern) {
+        ShowUserError(this, tr("Error"),
+                      IsPatternTooLong(request)
+                          ? tr("Error: The template would be too long. All its signals together "
+                               "can have %1 values.")
+                                .arg(MaxSignalLength)
+                          : tr("Error: The segment has no rows."));
+        return;
+    }
+    if (pattern->InsertPattern(true) == -1) {
+        ShowDatabaseError(this, tr("Error: The template was not stored."));
+        return;
+    }
+    QMessageBox::information(this, tr("Pattern Added"),
+                             tr("Pattern succesfully uploaded to database"));
+    m_Pattern = std::move(pattern);
+    QDialog::accept();
+}

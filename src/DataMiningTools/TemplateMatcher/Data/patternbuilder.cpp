@@ -1,0 +1,60 @@
+#include "patternbuilder.h"
+
+#include "dataset.h"
+#include "signalresampling.h"
+
+namespace
+{
+
+using Signals = std::vector<std::unique_ptr<SignalTemplateDataObject>>;
+
+// The signals that are resampled; none when one of them can't be had.
+Signals takeSignals(DataSet* dataSet, const PatternRequest& request)
+{
+    Signals taken;
+    for (const int attribute : request.m_Attributes) {
+        auto signal = std::make_unique<SignalTemplateDataObject>();
+        if (!signal->SetSignal(dataSet, attribute, request.m_From, request.m_To))
+            return {};
+        signal->setAttributeName(dataSet->GetAttributeName(attribute));
+        if (request.m_SmoothingWindow > 1)
+            signal->SmoothSignal(request.m_SmoothingWindow);
+        taken.push_back(std::move(signal));
+    }
+    return taken;
+}
+
+} // namespace
+
+bool IsPatternTooLong(const PatternRequest& request)
+{
+    const qint64 rows = request.m_To - request.m_From;
+    qint64 stored = 0;
+    for (const auto& [up, down] : request.m_Factors) {
+        if (UpsampledLength(rows, up, down) > MaxSignalLength)
+            return true;
+        stored += ResampledLength(rows, up, down) * request.m_Attributes.size();
+        if (stored > MaxSignalLength)
+            return true;
+    }
+    return false;
+}
+
+std::unique_ptr<PatternsDataObject> MakePattern(DataSet* dataSet, const PatternRequest& request)
+{
+    if (IsPatternTooLong(request))
+        return nullptr;
+    const Signals taken = takeSignals(dataSet, request);
+    if (int(taken.size()) != request.m_Attributes.size())
+        return nullptr;
+    auto pattern = std::make_unique<PatternsDataObject>(request.m_CollectionId, request.m_Name,
+                                                        request.m_Desc);
+    for (const auto& [up, down] : request.m_Factors) {
+        const float factor = float(up) / float(down);
+        auto* collection = new SignalTemplateCollectionDataObject(double(factor));
+        pattern->AddSignalCollection(collection);
+        for (const auto& signal : taken)
+            collection->AddSignal(signal->resampledCopy(up, down).release());
+    }
+    return pattern;
+}

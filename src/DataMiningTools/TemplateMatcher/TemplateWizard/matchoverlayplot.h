@@ -1,0 +1,38 @@
+#pragma once
+
+#include "matchextraction.h"
+#include "selectionmultiplelineplotwidget.h"
+#include <QList>
+#include <QPair>
+
+class SignalTemplateDataObject;
+
+/// One attribute of the matches over each other, and the template's signal first.
+class MatchOverlayPlot : public SelectionMultipleLinePlotWidget
+{
+    Q_OBJECT
+public:
+    /// attribute: the one of the data that the signal was searched in.
+    MatchOverlayPlot(DataSet* dataSet, const SignalTemplateDataObject& signal, int attribute,
+                     QWidget* parent = nullptr);
+
+    /// Replaces the lines. widths: of the template, per frequency factor.
+    void ShowMatches(const std::vector<Match>& matches, const std::vector<int>& widths);
+
+    /// The first row and the centre of each match that was rejected here.
+    const QList<QPair<int, int>>& GetRemovedMatches() const { return m_RemovedMatches; }
+
+protected:
+    /// Also remembers the matches; the template's line stays.
+    void rejectLines(const std::vector<int>& lines) override;
+
+private:
+    void setAxis();
+
+    DataSet* m_DataSet;
+    const int m_AttributeId;
+    std::vector<double> m_Template;
+    // In the order of the lines, which the template's precedes.
+    QList<QPair<int, int>> m_Matches;
+    QList<QPair<int, int>> m_RemovedMatches;
+};

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "templatesearchpage.h"
+
+class MatchPositionsBox;
+class OverlaidMatchesBox;
+class QGroupBox;
+class QLabel;
+class ThresholdSlider;
+
+/// Lets the user set the confidence that a match needs and reject single matches. The rest become
+/// segments when the wizard is finished; until then the cuts are not touched.
+class ResultFilterPage : public TemplateSearchPage
+{
+    Q_OBJECT
+public:
+    /// patternIds: the chosen templates, of which the first is searched; the caller's.
+    ResultFilterPage(DataSet* dataSet, CutCollection* cuts, int searchMode,
+                     const QList<int>* patternIds, QWidget* parent = nullptr);
+
+    /// Shows results, which stay the caller's, as does the pattern. attributeMap: from the
+    /// pattern's attribute names to columns.
+    void SetResults(float** results, int resultSizeX, int resultSizeY, PatternsDataObject* pattern,
+                    float threshold, const QHash<QString, int>& attributeMap);
+    bool HasResults() const { return !m_Results.IsEmpty(); }
+
+    /// Makes the matches that were not rejected into segments, after a search that refines in
+    /// place of the earlier ones. False on an empty page.
+    bool validatePage() override;
+
+public slots:
+    void lowerThresholdChanged(int value);
+    void setNormThreshold(int value);
+    void computeCenterPoints();
+    void vizResults();
+    void setGraphAlphaValues();
+
+protected:
+    void clearResults() override;
+    void showResults() override;
+    /// Enter in a field takes the number and does not finish.
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QGroupBox* makeThresholdBox();
+    void initCenterPointMemory();
+    std::vector<int> removedSteps() const;
+    QList<QPair<int, int>> excludedPairs() const;
+
+    SearchResults m_Results;
+    PatternsDataObject* m_Pattern = nullptr;
+    std::vector<int> m_Widths;
+    // Those before the last change of the threshold are kept for the map.
+    std::shared_ptr<const CenterPoints> m_CenterPoints;
+    std::shared_ptr<const CenterPoints> m_OldCenterPoints;
+    float m_Threshold = 0;
+    ThresholdSlider* m_ThresholdSlider;
+    QLabel* m_Statistics;
+    QGroupBox* m_ThresholdBox;
+    MatchPositionsBox* m_Positions;
+    OverlaidMatchesBox* m_Overlays;
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "rowlist.h"
+#include <QWizardPage>
+
+/// Moves patterns from the collections of the template database to a list of chosen ones.
+class SelectPatternsPage : public QWizardPage
+{
+    Q_OBJECT
+public:
+    /// patternIds: where the wizard keeps the ids of the chosen patterns.
+    explicit SelectPatternsPage(QList<int>* patternIds, QWidget* parent = nullptr);
+
+    void initializePage() override;
+    bool validatePage() override;
+
+public slots:
+    /// Null empties the list of patterns.
+    void populatePatternsList(QListWidgetItem* collection);
+    void addTemplate();
+    void removeTemplate();
+
+private:
+    void populateCollections();
+    void showRows();
+
+    QList<int>* m_PatternIds;
+    RowList* m_Collections;
+    RowList* m_Patterns;
+    RowList* m_ChosenPatterns;
+    // Of the current collection, chosen ones included.
+    QVector<RowList::Row> m_Rows;
+    QVector<RowList::Row> m_ChosenRows;
+};

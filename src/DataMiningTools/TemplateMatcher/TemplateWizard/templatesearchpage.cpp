@@ -1,0 +1,108 @@
+#include "templatesearchpage.h"
+
+#include "attributematchdialog.h"
+#include "cutcollection.h"
+#include "databasemessages.h"
+#include "dataset.h"
+#include "dialogprogress.h"
+#include "patternsdataobject.h"
+#include "templatematcher.h"
+#include "usererror.h"
+#include <QInputDialog>
+#include <QWizard>
+
+TemplateSearchPage::TemplateSearchPage(DataSet* dataSet, CutCollection* cuts, int searchMode,
+                                       const QList<int>* patternIds, QWidget* parent)
+    : QWizardPage(parent), m_DataSet(dataSet), m_CutCollection(cuts), m_SearchMode(searchMode),
+      m_PatternIds(patternIds)
+{
+}
+
+TemplateSearchPage::~TemplateSearchPage() = default;
+
+void TemplateSearchPage::initializePage()
+{
+    clearResults();
+    if (m_PatternIds->isEmpty())
+        return;
+    if (loadPattern() && askMeasure() && askAttributes())
+        search();
+    wizard()->resize(900, 600);
+}
+
+bool TemplateSearchPage::loadPattern()
+{
+    m_Matcher.reset();
+    m_Pattern.reset(PatternsDataObject::GetPattern(m_PatternIds->first(), true));
+    if (!m_Pattern) {
+        ShowDatabaseError(this, tr("Error: The pattern can't be read."));
+        return false;
+    }
+    // The first collection tells which attributes the others have, too.
+    if (TemplateWidths(*m_Pattern).empty() || TemplateWidths(*m_Pattern).front() == 0) {
+        ShowUserError(this, tr("Error"), tr("Error: The pattern holds no signals."));
+        return false;
+    }
+    if (m_DataSet->GetRowCount() == 0 || m_DataSet->GetAttributeCount() == 0) {
+        ShowUserError(this, tr("Error"), tr("Error: There is no data to search."));
+        return false;
+    }
+    return true;
+}
+
+bool TemplateSearchPage::askMeasure()
+{
+    const QStringList names{
+        TemplateMatcher::getMeasureName(TemplateMatcher::MEASURE_CORRELATION),
+        TemplateMatcher::getMeasureName(TemplateMatcher::MEASURE_NORMALIZED_CORRELATION)};
+    bool isAccepted = false;
+    const QString name = QInputDialog::getItem(this, tr("Matching Algorithm"), tr("Algorithm: "),
+                                               names, 0, false, &isAccepted);
+    m_Measure = names.indexOf(name);
+    return isAccepted;
+}
+
+bool TemplateSearchPage::askAttributes()
+{
+    AttributeMatchDialog dialog({m_Pattern.get()}, m_DataSet, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    m_AttributeMap = dialog.GetAttributeMap();
+    return true;
+}
+
+void TemplateSearchPage::search()
+{
+    auto matcher = std::make_unique<TemplateMatcher>(m_DataSet, m_Pattern.get(), 0, m_Measure);
+    DialogProgress progress(this, tr("Template Matcher"));
+    progress.SetLabelText(tr("Initalizing Template Matcher"));
+    progress.SetRange(0, 2);
+    if (!matcher->Convolve(progress, m_AttributeMap, m_CutCollection,
+                           CutSegment::SEGMENT_STATE(m_SearchMode))) {
+        ShowUserError(this, tr("Error"), tr("Error:") + matcher->getErrorMessage());
+        return;
+    }
+    m_Matcher = std::move(matcher);
+    readRange();
+    progress.SetLabelText(tr("Updating GUI"));
+    showResults();
+}
+
+void TemplateSearchPage::readRange()
+{
+    m_MinValue = -1;
+    m_MaxValue = 1;
+    if (m_Measure != TemplateMatcher::MEASURE_CORRELATION)
+        return;
+    const SearchResults found = searchResults();
+    TemplateMatcher::normalizeResults(found.m_Values, found.m_Factors, found.m_Steps, m_MinValue,
+                                      m_MaxValue);
+}
+
+SearchResults TemplateSearchPage::searchResults() const
+{
+    if (!m_Matcher)
+        return {};
+    return {m_Matcher->getResults(), m_Pattern->GetSignalCollections().size(),
+            m_DataSet->GetRowCount()};
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <vector>
+
+class DataSet;
+class SignalTemplateDataObject;
+
+/// Dynamic time warping distances between a data set and a signal.
+class DTW
+{
+public:
+    DTW(const DataSet* dataSet, const SignalTemplateDataObject* signal)
+        : m_DataSet(dataSet), m_Signal(signal)
+    {
+    }
+
+    /// results[i - start] becomes the distance between the signal and as many rows as it has
+    /// values, or as there are from row i on; all are then brought to 0 to 1. Rows and attribute
+    /// must be there, else all results are 0.
+    ///
+    /// The rows compared are counted from the recording's start, not from i, so the distance
+    /// varies only where fewer rows are left than the signal is long: kept.
+    void ComputeDTW(int attribute, float* results, int start, int end) const;
+
+private:
+    std::vector<double> distances(int attribute) const;
+
+    const DataSet* m_DataSet;
+    const SignalTemplateDataObject* m_Signal;
+};

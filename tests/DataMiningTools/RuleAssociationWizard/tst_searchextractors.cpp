@@ -1,0 +1,298 @@
+#include "insertmatches.h"
+#include "labelsegment.h"
+#include "progress.h"
+#include "ruleextractor.h"
+#include "segmenttext.h"
+#include "testdata.h"
+#include "thresholdextractor.h"
+#include <QtTest>
+#include <limits>
+#include <random>
+
+namespace
+{
+
+QString toText(const SearchMatches& matches)
+{
+    QStringList texts;
+    for (const SearchMatch& match : matches) {
+        const QString count =
+            match.m_Count == 1 ? QString() : QStringLiteral("x%1").arg(match.m_Count);
+        texts.append(QStringLiteral("(%1,%2)%3").arg(match.m_From).arg(match.m_To).arg(count));
+    }
+    return texts.join(QLatin1Char(' '));
+}
+
+QString findRuns(const DataSet& data, const CutCollection& cuts, int searchMode,
+                 const std::vector<ThresholdParameter>& parameters, int minimumLength)
+{
+    ThresholdExtractor extractor(&data, &cuts, searchMode);
+    extractor.SetParameters(parameters);
+    extractor.SetMinimumLength(minimumLength);
+    NoProgress progress;
+    extractor.Extract(progress);
+    return toText(extractor.GetMatches());
+}
+
+// Every row's answer on its own, then pairs that grow row by row, then a pass that drops the short.
+QString scanForRuns(const DataSet& data, const CutCollection& cuts, int searchMode,
+                    const std::vector<ThresholdParameter>& parameters, int minimumLength)
+{
+    QList<QPair<int, int>> pairs;
+    for (int i = 0; i < cuts.GetSegmentCount(); ++i) {
+        bool isOpen = false;
+        const CutSegment* segment = cuts.GetSegment(i);
+        for (int row = segment->GetFrom();
+             row < segment->GetTo() && segment->GetState() == searchMode; ++row) {
+            bool isMet = true;
+            for (const auto& [op, attribute, v] : parameters) {
+                const double x = data.GetRow(row)->GetValue(attribute);
+                isMet = isMet && (op == 0 ? v > x : op == 1 ? v >= x : op == 2 ? x > v : x >= v);
+            }
+            if (isMet && !isOpen)
+                pairs.append({row, row});
+            else if (isMet)
+                pairs.last().second = row;
+            isOpen = isMet;
+        }
+    }
+    SearchMatches matches;
+    for (const auto& pair : pairs) {
+        if (pair.second - pair.first >= minimumLength)
+            matches.append({pair.first, pair.second});
+    }
+    return toText(matches);
+}
+
+// Leaves a segment without rows; the next one has them.
+void giveRowsAway(CutCollection& cuts, int index)
+{
+    CutSegment* segment = cuts.GetSegment(index);
+    cuts.GetSegment(index + 1)->MoveFrom(segment->GetFrom());
+    segment->MoveTo(segment->GetFrom());
+}
+
+/// Segments of behaviours "A", "B", ... as the text of MakeCuts tells: each labelled segment takes
+/// the next letter of behaviours.
+struct LabelledCuts {
+    LabelledCuts(const char* ends, const QString& behaviours)
+    {
+        MakeCuts(m_Cuts, ends);
+        int labelled = 0;
+        for (int i = 0; i < m_Cuts.GetSegmentCount(); ++i) {
+            if (m_Cuts.GetSegment(i)->GetState() != CutSegment::SEGMENT_LABELED)
+                continue;
+            const QString name = behaviours.mid(labelled++, 1);
+            if (!m_Labels.FindLabel(name))
+                m_Labels.AddLabel(new BehaviorLabel(name));
+            LabelSegment(*m_Labels.FindLabel(name), m_Cuts.GetSegment(i));
+        }
+    }
+
+    CutCollection m_Cuts;
+    LabelCollection m_Labels;
+};
+
+SearchMatches findRule(const LabelledCuts& cuts, const QString& rule, int length, int rows,
+                       int searchMode = CutSegment::SEGMENT_CUT)
+{
+    const auto data = MakeColumn(std::vector<double>(size_t(rows)));
+    RuleExtractor extractor(data.get(), &cuts.m_Cuts, &cuts.m_Labels, searchMode);
+    extractor.SetRuleLabels(rule.split(QString(), Qt::SkipEmptyParts));
+    extractor.SetSearchLength(length);
+    NoProgress progress;
+    extractor.Extract(progress);
+    return extractor.GetMatches();
+}
+
+// The list as it grows by the rule's labels, each pair compared.
+SearchMatches scanForRule(const LabelledCuts& cuts, const QString& rule, int length)
+{
+    QList<CutSegment*> current;
+    for (int k = 0; k < rule.size(); ++k) {
+        QList<CutSegment*> followers;
+        const BehaviorLabel* label = cuts.m_Labels.FindLabel(rule.mid(k, 1));
+        for (int i = 0; label && i < label->GetInstanceCount(); ++i) {
+            CutSegment* s = label->GetInstance(i)->GetSegment();
+            if (k == 0)
+                followers.append(s);
+            for (const CutSegment* c : current) {
+                if (c->GetTo() <= s->GetFrom() && s->GetFrom() <= c->GetTo() + 600)
+                    followers.append(s);
+            }
+        }
+        current = followers;
+    }
+    SearchMatches matches;
+    for (const CutSegment* s : current) {
+        int index = 0;
+        const CutSegment* n = cuts.m_Cuts.FindSegment(s->GetTo() + 1, index);
+        if (n && n->GetState() == CutSegment::SEGMENT_CUT && n->GetFrom() + length <= n->GetTo())
+            matches.append({n->GetFrom(), n->GetFrom() + length});
+    }
+    return matches;
+}
+
+} // namespace
+
+class TestSearchExtractors : public QObject
+{
+    Q_OBJECT
+private slots:
+    void runs();
+    void runsOfRandomData();
+    void rules_data();
+    void rules();
+    void rulesOfRandomLabels();
+    void countsManyWays();
+    void inserts();
+};
+
+void TestSearchExtractors::runs()
+{
+    const auto data = MakeDataSet("1 5\n1 5\n1 6\n1 6\n2 0");
+    data->GetRow(4)->SetValue(1, std::numeric_limits<double>::quiet_NaN());
+    CutCollection cuts;
+    // Two rows more than there are.
+    MakeCuts(cuts, "2R 3 7");
+    const ThresholdParameter low{ThresholdParameter::VALUE_ABOVE, 0, 2};
+    const ThresholdParameter any{ThresholdParameter::ATTRIBUTE_ABOVE_OR_EQUAL, 0, 0};
+    // A run ends with its segment, by its last row; one of exactly the length stays.
+    QCOMPARE(findRuns(*data, cuts, 1, {any}, 0), QStringLiteral("(2,2) (3,4)"));
+    QCOMPARE(findRuns(*data, cuts, 1, {any}, 1), QStringLiteral("(3,4)"));
+    QCOMPARE(findRuns(*data, cuts, 1, {any}, 2), QString());
+    QCOMPARE(findRuns(*data, cuts, 1, {any, {0, 1, 9}}, 0), QStringLiteral("(2,2) (3,3)"));
+    QCOMPARE(findRuns(*data, cuts, 2, {low, {1, 1, 5}}, 0), QStringLiteral("(0,1)"));
+    QCOMPARE(findRuns(*data, cuts, 1, {}, 0), QString());
+    // Attributes and operators that there are not.
+    for (const ThresholdParameter& unknown :
+         {ThresholdParameter{0, 2, 9}, ThresholdParameter{0, -1, 9}, ThresholdParameter{4, 0, 9}})
+        QCOMPARE(findRuns(*data, cuts, 1, {any, unknown}, 0), QString());
+}
+
+void TestSearchExtractors::runsOfRandomData()
+{
+    std::mt19937 random(4);
+    for (int trial = 0; trial < 100; ++trial) {
+        QStringList lines;
+        for (int row = 0; row < 60; ++row)
+            lines.append(QStringLiteral("%1 %2").arg(random() % 4).arg(int(random() % 5) - 2));
+        const auto data = MakeDataSet(lines.join(QLatin1Char('\n')).toLatin1().constData());
+        CutCollection cuts;
+        MakeCuts(cuts, "7 9 20L 33 40R 41 60");
+        giveRowsAway(cuts, int(random() % 6));
+        const std::vector<ThresholdParameter> parameters{
+            {int(random() % 4), 0, double(random() % 4)},
+            {int(random() % 4), 1, int(random() % 5) - 2.0}};
+        for (const int length : {0, 1, 3})
+            QCOMPARE(findRuns(*data, cuts, 1, parameters, length),
+                     scanForRuns(*data, cuts, 1, parameters, length));
+    }
+}
+
+void TestSearchExtractors::rules_data()
+{
+    QTest::addColumn<QByteArray>("ends");
+    QTest::addColumn<QString>("behaviours");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<int>("length");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char* name, const char* ends, const char* behaviours,
+                        const char* rule, int length, const char* expected) {
+        QTest::newRow(name) << QByteArray(ends) << QString::fromLatin1(behaviours)
+                            << QString::fromLatin1(rule) << length << QString::fromLatin1(expected);
+    };
+    const char* twice = "10L 20 30L 100";
+    row("one label", twice, "AA", "A", 10, "(10,20) (30,40)");
+    row("nothing as long behind the first", twice, "AA", "A", 11, "(30,41)");
+    row("as long as the last", twice, "AA", "A", 70, "(30,100)");
+    row("one more than the last", twice, "AA", "A", 71, "");
+    row("negative length", twice, "AA", "A", -1, "");
+    row("behaviour that is gone", twice, "AA", "C", 10, "");
+    row("largest gap", "10L 610 620L 700", "AB", "AB", 20, "(620,640)");
+    row("gap too large", "10L 611 620L 700", "AB", "AB", 20, "");
+    row("gaps count from the label before", "10L 500 510L 1000 1010L 1100", "ABC", "ABC", 20,
+        "(1010,1030)");
+    row("two ways", "10L 20L 30L 100", "AAB", "AB", 20, "(30,50)x2");
+    row("label behind", "10L 20L 30R 100", "AB", "AB", 5, "");
+    row("beyond the data", "1190L 1300", "A", "A", 11, "");
+    row("up to the data's end", "1190L 1300", "A", "A", 10, "(1190,1200)");
+}
+
+void TestSearchExtractors::rules()
+{
+    QFETCH(QByteArray, ends);
+    QFETCH(QString, behaviours);
+    QFETCH(QString, rule);
+    QFETCH(int, length);
+    const LabelledCuts cuts(ends.constData(), behaviours);
+    QTEST(toText(findRule(cuts, rule, length, 1200)), "expected");
+}
+
+void TestSearchExtractors::rulesOfRandomLabels()
+{
+    std::mt19937 random(7);
+    quint64 found = 0;
+    for (int trial = 0; trial < 60; ++trial) {
+        QStringList ends;
+        QString behaviours;
+        int end = 0;
+        for (int i = 0; i < 30; ++i) {
+            end += int(random() % 3 + 1) * 50;
+            const bool isLabelled = random() % 3 != 0;
+            ends.append(QString::number(end) % QLatin1String(isLabelled ? "L" : ""));
+            if (isLabelled)
+                behaviours.append(QLatin1Char(char('A' + random() % 3)));
+        }
+        ends.append(QString::number(end + 200));
+        LabelledCuts cuts(ends.join(QLatin1Char(' ')).toLatin1().constData(), behaviours);
+        giveRowsAway(cuts.m_Cuts, int(random() % 30));
+        giveRowsAway(cuts.m_Cuts, int(random() % 30));
+        for (const char* rule : {"A", "AB", "BAC", "AAAA"}) {
+            SearchMatches once = findRule(cuts, QString::fromLatin1(rule), 60, end + 200);
+            const SearchMatches all = scanForRule(cuts, QString::fromLatin1(rule), 60);
+            QCOMPARE(CountMatches(once), quint64(all.size()));
+            for (SearchMatch& match : once) {
+                const SearchMatch single{match.m_From, match.m_To};
+                QCOMPARE(match.m_Count, quint64(all.count(single)));
+            }
+            found += CountMatches(once);
+        }
+    }
+    QVERIFY(found > 100);
+}
+
+// A rule of many labels leads to one segment in more ways than memory could hold.
+void TestSearchExtractors::countsManyWays()
+{
+    QString ends;
+    for (int i = 1; i <= 400; ++i)
+        ends.append(QStringLiteral("%1L ").arg(i * 2));
+    const LabelledCuts cuts((ends + QStringLiteral("1000")).toLatin1().constData(),
+                            QString(400, QLatin1Char('A')));
+    // The ends of the first of two lie from row 198 to row 798.
+    const SearchMatches few = findRule(cuts, QStringLiteral("AA"), 5, 1000);
+    QCOMPARE(toText(few), QStringLiteral("(800,805)x301"));
+    const SearchMatches many = findRule(cuts, QString(40, QLatin1Char('A')), 5, 1000);
+    QCOMPARE(CountMatches(many), RuleExtractor::MaximumWays);
+}
+
+void TestSearchExtractors::inserts()
+{
+    // Reversed ends, and one across a boundary.
+    const SearchMatches matches{{5, 10}, {18, 15}, {25, 27}, {35, 45}};
+    const QString starts = QStringLiteral("(0,5) R(5,10) (10,15) R(15,18) ");
+    const QString ends = QStringLiteral(" R(25,27) (27,30) L(30,40) (40,60)");
+    NoProgress progress;
+    CutCollection cuts;
+    MakeCuts(cuts, "20 30R 40L 60");
+    QCOMPARE(InsertMatches(cuts, matches, CutSegment::SEGMENT_CUT, progress), 3);
+    QCOMPARE(ToText(cuts), QString(starts % QStringLiteral("(18,20) R(20,25)") % ends));
+    CutCollection refined;
+    MakeCuts(refined, "20 30R 40L 60");
+    QCOMPARE(InsertMatches(refined, matches, CutSegment::SEGMENT_RESULT, progress), 3);
+    QCOMPARE(ToText(refined), QString(starts % QStringLiteral("(18,25)") % ends));
+}
+
+QTEST_MAIN(TestSearchExtractors)
+#include "tst_searchextractors.moc"

@@ -1,0 +1,162 @@
+#include "patternbuilder.h"
+#include "signalresampling.h"
+#include "signalsmoothing.h"
+#include "testdata.h"
+
+#include <QTest>
+#include <cmath>
+#include <numeric>
+
+class TestSignals : public QObject
+{
+    Q_OBJECT
+private slots:
+    void resamples_data();
+    void resamples();
+    void weighsAsTabled();
+    void smoothsAnImpulse();
+    void smoothsWithGain_data();
+    void smoothsWithGain();
+    void buildsPatterns();
+    void refusesTooMuch();
+};
+
+void TestSignals::resamples_data()
+{
+    QTest::addColumn<int>("up");
+    QTest::addColumn<int>("down");
+    QTest::addColumn<std::vector<double>>("signal");
+    QTest::addColumn<std::vector<double>>("expected");
+    const std::vector<double> eleven{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
+    QTest::newRow("equal") << 3 << 3 << eleven << eleven;
+    QTest::newRow("up") << 2 << 1 << std::vector<double>{0, 1, -1}
+                        << std::vector<double>{0, 0.5, 1, 0, -1};
+    QTest::newRow("down") << 1 << 2 << eleven << std::vector<double>{0, 2, 4, 6, 8, 10};
+    QTest::newRow("down of an even number")
+        << 1 << 3 << std::vector<double>{1, 2, 3, 4} << std::vector<double>{1, 4};
+    QTest::newRow("up, then down")
+        << 3 << 2 << std::vector<double>{0, 6, 3} << std::vector<double>{0, 4, 5, 3};
+    QTest::newRow("one value") << 1000 << 999 << std::vector<double>{7} << std::vector<double>{7};
+    QTest::newRow("beyond the end") << 1 << 9 << eleven << std::vector<double>{0, 9};
+}
+
+void TestSignals::resamples()
+{
+    QFETCH(int, up);
+    QFETCH(int, down);
+    QFETCH(std::vector<double>, signal);
+    QFETCH(std::vector<double>, expected);
+    SignalTemplateDataObject stored;
+    stored.SetSignal(signal.data(), int(signal.size()));
+    stored.SetCollectionId(5);
+    stored.SetId(6);
+    stored.setAttributeName(QStringLiteral("Acc_X"));
+    const auto copy = stored.resampledCopy(up, down);
+    QCOMPARE(copy->GetValues(), expected);
+    QCOMPARE(qint64(expected.size()), ResampledLength(qint64(signal.size()), up, down));
+    const double sum = std::accumulate(expected.begin(), expected.end(), 0.0);
+    QCOMPARE(copy->GetMean(), sum / double(expected.size()));
+    QCOMPARE(copy->GetAttributeName(), QStringLiteral("Acc_X"));
+    QCOMPARE(copy->GetCollectionId(), 5);
+    QCOMPARE(copy->GetId(), -1);
+}
+
+void TestSignals::weighsAsTabled()
+{
+    // The quartic smoothing weights of 17 points, as tabled in integers, from the middle outwards.
+    const int table[] = {883, 825, 660, 415, 135, -117, -260, -195, 195};
+    const std::vector<float> weights = SavitzkyGolayWeights(8, 17);
+    for (size_t i = 0; i < weights.size(); ++i) {
+        const double expected = table[std::min(i, 17 - i)] / 4199.0;
+        QVERIFY2(std::abs(double(weights[i]) - expected) < 2e-6, qPrintable(QString::number(i)));
+    }
+    // Far apart powers still solve: the weights of a fit add up to one.
+    for (const int half : {2, 3, 50, 98}) {
+        const std::vector<float> wide = SavitzkyGolayWeights(half, 2 * half + 2);
+        QVERIFY(std::abs(std::accumulate(wide.begin(), wide.end(), 0.0) - 1) < 1e-4);
+        QCOMPARE(wide[size_t(half) + 1], 0.0F);
+    }
+}
+
+void TestSignals::smoothsAnImpulse()
+{
+    SignalTemplateDataObject signal;
+    QVERIFY(!signal.SmoothSignal(8));
+    std::vector<double> values(40, 0.0);
+    values[12] = 4199;
+    signal.SetSignal(values.data(), 40);
+    QVERIFY(signal.SmoothSignal(8));
+    // By hand from the tabled weights: late by 7, the right side narrower by one place.
+    const std::vector<double> smoothed{135, 415, 660, 883, 825, 660, 415, 135};
+    for (int i = 0; i < 40; ++i) {
+        const bool isRaw = i < 16 || i > 23;
+        const double expected = isRaw ? values[size_t(i)] : smoothed[size_t(i) - 16];
+        QVERIFY2(std::abs(signal.GetSignal()[i] - expected) < 0.02, qPrintable(QString::number(i)));
+    }
+}
+
+void TestSignals::smoothsWithGain_data()
+{
+    QTest::addColumn<int>("window");
+    QTest::addColumn<int>("length");
+    QTest::addColumn<int>("smoothed");
+    QTest::addColumn<double>("gain");
+    QTest::newRow("default") << 8 << 100 << 68 << 3179.0 / 4199;
+    QTest::newRow("one value") << 8 << 33 << 1 << 3179.0 / 4199;
+    QTest::newRow("as long as its ends") << 8 << 32 << 0 << 1.0;
+    // 9 points: 1 - 135 / 429, the tabled weight of a neighbour of the middle.
+    QTest::newRow("odd") << 5 << 21 << 1 << 1 - 135.0 / 429;
+    QTest::newRow("none") << 1 << 100 << 0 << 1.0;
+    QTest::newRow("negative") << -8 << 100 << 0 << 1.0;
+}
+
+void TestSignals::smoothsWithGain()
+{
+    QFETCH(int, window);
+    QFETCH(int, length);
+    QFETCH(int, smoothed);
+    QFETCH(double, gain);
+    const auto values = SmoothedSignal(std::vector<double>(size_t(length), 1.0), window);
+    int others = 0;
+    for (const double value : values) {
+        QVERIFY(value == 1.0 || std::abs(value - gain) < 1e-5);
+        others += value != 1.0;
+    }
+    QCOMPARE(int(values.size()), length);
+    QCOMPARE(others, smoothed);
+}
+
+void TestSignals::buildsPatterns()
+{
+    const auto data = MakeDataSet("0 1\n1 2\n2 4\n3 8");
+    PatternRequest request;
+    request.m_From = 1;
+    request.m_To = 4;
+    request.m_Attributes = {0, 1};
+    request.m_Factors = {{1, 3}};
+    const auto pattern = MakePattern(data.get(), request);
+    const auto* third = pattern->GetSignalCollections().first();
+    QCOMPARE(third->GetFrequencyFactor(), double(1.0F / 3.0F));
+    QCOMPARE(third->GetSignals()[1]->GetValues(), std::vector<double>({2}));
+    for (const int to : {1, 5}) {
+        request.m_To = to;
+        QCOMPARE(MakePattern(data.get(), request), nullptr);
+    }
+}
+
+void TestSignals::refusesTooMuch()
+{
+    PatternRequest request;
+    request.m_To = 16779;
+    request.m_Attributes = {0};
+    request.m_Factors = {{1000, 999}};
+    QVERIFY(IsPatternTooLong(request));
+    QVERIFY(ResampledSignal(std::vector<double>(16779, 1.0), 1000, 999).empty());
+    request.m_To = 16778;
+    QVERIFY(!IsPatternTooLong(request));
+    request.m_Attributes.fill(0, 1000);
+    QVERIFY(IsPatternTooLong(request));
+}
+
+QTEST_GUILESS_MAIN(TestSignals)
+#include "tst_signals.moc"

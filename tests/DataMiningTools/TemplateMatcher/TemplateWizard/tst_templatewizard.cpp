@@ -1,0 +1,329 @@
+#include "attributematchdialog.h"
+#include "collectionsdataobject.h"
+#include "database.h"
+#include "matchoverlayplot.h"
+#include "modalscript.h"
+#include "mousedrag.h"
+#include "resultfilterpage.h"
+#include "segmenttext.h"
+#include "templatematcherpage.h"
+#include "templatewizard.h"
+#include "testdata.h"
+#include "thresholdmap.h"
+#include "thresholdmapdistribution.h"
+#include <QAbstractButton>
+#include <QInputDialog>
+#include <QLabel>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QSettings>
+#include <QSpinBox>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace
+{
+
+constexpr int rows = 200;
+constexpr double stroke[] = {1, 1, 1, -1, -1, 1, -1};
+constexpr int strokeLength = 7;
+
+// Strokes of different strength, each from its row on.
+std::unique_ptr<DataSet> makeStrokes()
+{
+    auto data = MakeColumn(std::vector<double>(rows, 0.0));
+    const QMap<int, double> strokes{{20, 1.0}, {60, 0.9}, {100, 0.95}, {150, 0.6}};
+    for (auto found = strokes.begin(); found != strokes.end(); ++found) {
+        for (int j = 0; j < strokeLength; ++j)
+            data->GetRow(found.key() + j)->SetValue(0, *found * stroke[j]);
+    }
+    data->ComputeRanges();
+    return data;
+}
+
+void addSignal(PatternsDataObject& pattern, bool isFilled)
+{
+    auto* collection = new SignalTemplateCollectionDataObject(1.0);
+    pattern.AddSignalCollection(collection);
+    if (!isFilled)
+        return;
+    auto* signal = new SignalTemplateDataObject;
+    signal->SetSignal(stroke, strokeLength);
+    signal->setAttributeName(QStringLiteral("A"));
+    signal->computeMean();
+    signal->computeSd();
+    collection->AddSignal(signal);
+}
+
+void chooseAlgorithm(ModalScript& user, const QString& name)
+{
+    user.On<QInputDialog>([=](QInputDialog* dialog) {
+        dialog->setTextValue(name);
+        name.isEmpty() ? dialog->reject() : dialog->accept();
+    });
+}
+
+void matchAttributes(ModalScript& user, bool isAccepted)
+{
+    user.On<AttributeMatchDialog>(
+        [=](AttributeMatchDialog* dialog) { isAccepted ? dialog->accept() : dialog->reject(); });
+}
+
+void answerSearch(ModalScript& user)
+{
+    chooseAlgorithm(user, QStringLiteral("Correlation"));
+    matchAttributes(user, true);
+}
+
+void setThreshold(const QWidget& page, int percent)
+{
+    page.findChild<QSpinBox*>()->setValue(percent);
+}
+
+QString statistics(const QWidget& page)
+{
+    for (const QLabel* label : page.findChildren<QLabel*>()) {
+        if (label->text().startsWith(QStringLiteral("Statistics: ")))
+            return label->text();
+    }
+    return QString();
+}
+
+QString found(int count)
+{
+    return QStringLiteral("Statistics: %1 matches found").arg(count);
+}
+
+void clickRow(const QWidget& page, const QString& text)
+{
+    // The page has only just been laid out.
+    QCoreApplication::processEvents();
+    for (auto* list : page.findChildren<QListWidget*>()) {
+        for (QListWidgetItem* item : list->findItems(text, Qt::MatchExactly))
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                              list->visualItemRect(item).center());
+    }
+}
+
+// A band over the mark of a step, a few pixels to both sides.
+void dragOverStep(ResultMapWidget& map, int step)
+{
+    const int x = 40 + step * (map.width() - 40) / rows;
+    DragMouse(map, {x - 4, 10}, {x + 4, 20});
+}
+
+} // namespace
+
+class TestTemplateWizard : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void leadsFromPatternToSegments();
+    void refinesResults();
+    void staysEmptyWhenNothingIsSearched_data();
+    void staysEmptyWhenNothingIsSearched();
+    void tellsWhatCannotBeSearched_data();
+    void tellsWhatCannotBeSearched();
+    void drawsAFewOfManyMatches();
+    void handsTheThresholdOn();
+
+private:
+    std::unique_ptr<QTemporaryDir> m_Home;
+    std::unique_ptr<DataSet> m_Data;
+    std::unique_ptr<CutCollection> m_Cuts;
+    std::unique_ptr<PatternsDataObject> m_Pattern;
+};
+
+void TestTemplateWizard::init()
+{
+    m_Home = std::make_unique<QTemporaryDir>();
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_Home->path());
+    QVERIFY(!InitializeDatabase().isValid());
+    m_Data = makeStrokes();
+    m_Cuts = std::make_unique<CutCollection>();
+    m_Pattern = std::make_unique<PatternsDataObject>(1, QStringLiteral("stroke"));
+    addSignal(*m_Pattern, true);
+    QVERIFY(m_Pattern->InsertPattern(true) != -1);
+}
+
+void TestTemplateWizard::cleanup()
+{
+    QSqlDatabase::database(QLatin1String(QSqlDatabase::defaultConnection), false).close();
+}
+
+void TestTemplateWizard::leadsFromPatternToSegments()
+{
+    MakeCuts(*m_Cuts, "90 120L 200");
+    const QString before = ToText(*m_Cuts);
+    TemplateWizard wizard(m_Data.get(), m_Cuts.get(), CutSegment::SEGMENT_CUT);
+    wizard.show();
+    wizard.next();
+    wizard.next();
+    QCOMPARE(TakeUserErrors(), QStringList(QStringLiteral("Error: Error: No pattern selected")));
+    clickRow(*wizard.currentPage(), QStringLiteral("Templates"));
+    clickRow(*wizard.currentPage(), QStringLiteral("stroke"));
+    ClickButton(wizard.currentPage(), QStringLiteral("Apply Pattern"));
+    ModalScript user;
+    answerSearch(user);
+    wizard.next();
+    QCOMPARE(wizard.currentId(), 3);
+    QCOMPARE(wizard.size(), QSize(900, 600));
+    QWidget& page = *wizard.currentPage();
+    QCOMPARE(statistics(page), found(2));
+    setThreshold(page, 100);
+    QCOMPARE(statistics(page), found(1));
+    setThreshold(page, 50);
+    QCOMPARE(statistics(page), found(3));
+    dragOverStep(*page.findChild<ThresholdMap*>(), 23);
+    QCOMPARE(statistics(page), found(2));
+
+    // What was rejected counts again after a new search.
+    answerSearch(user);
+    wizard.back();
+    wizard.next();
+    QCOMPARE(statistics(page), found(2));
+    setThreshold(page, 50);
+    dragOverStep(*page.findChild<ThresholdMapDistribution*>(), 63);
+    QCOMPARE(statistics(page), found(2));
+    // The first row of the weakest match is the only one of about 0.6.
+    auto* overlay = page.findChild<MatchOverlayPlot*>();
+    QCOMPARE(overlay->GetLineCount(), 3);
+    const auto toY = [&](double value) {
+        return int(overlay->height() - 9 - (overlay->height() - 18) * (value + 1) / 2);
+    };
+    user.On<QMessageBox>([](QMessageBox* box) { box->button(QMessageBox::Yes)->click(); });
+    DragMouse(*overlay, {42, toY(0.8)}, {48, toY(0.4)});
+    QCOMPARE(statistics(page), found(1));
+    // A rejected match stays rejected, whatever the threshold.
+    setThreshold(page, 80);
+    setThreshold(page, 50);
+    QCOMPARE(statistics(page), found(1));
+    page.findChild<QSpinBox*>()->setFocus();
+    QTest::keyClick(page.findChild<QSpinBox*>(), Qt::Key_Return);
+    QVERIFY(wizard.isVisible());
+
+    QCOMPARE(ToText(*m_Cuts), before);
+    wizard.button(QWizard::FinishButton)->click();
+    QCOMPARE(wizard.result(), int(QDialog::Accepted));
+    QCOMPARE(ToText(*m_Cuts), QStringLiteral("(0,20) R(20,26) (26,90) L(90,120) (120,200)"));
+}
+
+void TestTemplateWizard::refinesResults()
+{
+    MakeCuts(*m_Cuts, "40R 90 140R 200");
+    TemplateWizard wizard(m_Data.get(), m_Cuts.get(), CutSegment::SEGMENT_RESULT, m_Pattern.get());
+    ModalScript user;
+    answerSearch(user);
+    wizard.show();
+    QCOMPARE(wizard.pageIds(), QList<int>{3});
+    dragOverStep(*wizard.currentPage()->findChild<ThresholdMap*>(), 23);
+    wizard.button(QWizard::FinishButton)->click();
+    QCOMPARE(ToText(*m_Cuts), QStringLiteral("(0,100) R(100,106) (106,200)"));
+}
+
+void TestTemplateWizard::staysEmptyWhenNothingIsSearched_data()
+{
+    QTest::addColumn<QString>("algorithm");
+    QTest::newRow("no algorithm") << QString();
+    QTest::newRow("no attributes") << QStringLiteral("Normalized Correlation");
+}
+
+void TestTemplateWizard::staysEmptyWhenNothingIsSearched()
+{
+    QFETCH(QString, algorithm);
+    MakeCuts(*m_Cuts, "40R 200");
+    const QString before = ToText(*m_Cuts);
+    TemplateWizard wizard(m_Data.get(), m_Cuts.get(), CutSegment::SEGMENT_RESULT, m_Pattern.get());
+    ModalScript user;
+    const auto cancel = [&] {
+        chooseAlgorithm(user, algorithm);
+        if (!algorithm.isEmpty())
+            matchAttributes(user, false);
+    };
+    cancel();
+    wizard.show();
+    QCOMPARE(TakeUserErrors(), QStringList());
+    QCOMPARE(statistics(*wizard.currentPage()), QStringLiteral("Statistics: "));
+    // There is nothing to finish with: the search is offered once more.
+    cancel();
+    wizard.button(QWizard::FinishButton)->click();
+    QVERIFY(wizard.isVisible());
+    answerSearch(user);
+    wizard.button(QWizard::FinishButton)->click();
+    QCOMPARE(statistics(*wizard.currentPage()), found(1));
+    QCOMPARE(ToText(*m_Cuts), before);
+    wizard.reject();
+    QCOMPARE(ToText(*m_Cuts), before);
+}
+
+void TestTemplateWizard::tellsWhatCannotBeSearched_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("deleted") << QStringLiteral("DELETE FROM pattern")
+                             << QStringLiteral("Error: The pattern can't be read.");
+    QTest::newRow("no signal") << QStringLiteral("DELETE FROM signal_template")
+                               << QStringLiteral("Error: The pattern holds no signals.");
+    QTest::newRow("no factor") << QStringLiteral("DELETE FROM signal_template_collection")
+                               << QStringLiteral("Error: The pattern holds no signals.");
+}
+
+void TestTemplateWizard::tellsWhatCannotBeSearched()
+{
+    QFETCH(QString, statement);
+    QFETCH(QString, error);
+    QVERIFY(QSqlQuery().exec(statement));
+    TemplateWizard wizard(m_Data.get(), m_Cuts.get(), CutSegment::SEGMENT_CUT, m_Pattern.get());
+    const ModalScript nobody;
+    wizard.show();
+    QCOMPARE(TakeUserErrors(), QStringList(QStringLiteral("Error: ") + error));
+}
+
+void TestTemplateWizard::drawsAFewOfManyMatches()
+{
+    std::vector<double> wave;
+    for (int i = 0; i < 4000; ++i)
+        wave.push_back(stroke[i % strokeLength]);
+    m_Data = MakeColumn(wave);
+    MakeCuts(*m_Cuts, "4000");
+    TemplateWizard wizard(m_Data.get(), m_Cuts.get(), CutSegment::SEGMENT_CUT, m_Pattern.get());
+    ModalScript user;
+    answerSearch(user);
+    wizard.show();
+    const QWidget& page = *wizard.currentPage();
+    QCOMPARE(statistics(page), found(4000 / strokeLength));
+    QCOMPARE(page.findChild<MatchOverlayPlot*>()->GetLineCount(), 401);
+}
+
+void TestTemplateWizard::handsTheThresholdOn()
+{
+    MakeCuts(*m_Cuts, "200");
+    const QList<int> ids{m_Pattern->GetId()};
+    QWizard wizard;
+    auto* results = new ResultFilterPage(m_Data.get(), m_Cuts.get(), CutSegment::SEGMENT_CUT, &ids);
+    auto* matcher =
+        new TemplateMatcherPage(m_Data.get(), m_Cuts.get(), CutSegment::SEGMENT_CUT, &ids, results);
+    wizard.addPage(matcher);
+    wizard.addPage(results);
+    ModalScript user;
+    answerSearch(user);
+    wizard.show();
+    setThreshold(*matcher, 92);
+    QVERIFY(matcher->validatePage());
+    QCOMPARE(results->findChild<QSpinBox*>()->value(), 92);
+    QCOMPARE(statistics(*results), found(2));
+    ClickButton(matcher, QStringLiteral("Load Signal"));
+    QList<QSize> windows;
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->parent() == matcher)
+            windows.append(window->size());
+    }
+    QCOMPARE(windows, QList<QSize>{QSize(500, 300)});
+}
+
+QTEST_MAIN(TestTemplateWizard)
+#include "tst_templatewizard.moc"

@@ -1,0 +1,223 @@
+#include "blockcorrelation.h"
+#include "rowwindow.h"
+#include "signaltemplatedataobject.h"
+#include "templatematcher.h"
+#include "testdata.h"
+#include <QtTest>
+#include <cmath>
+#include <random>
+
+using Column = std::vector<double>;
+using Confidences = std::vector<float>;
+
+class TestCorrelation : public QObject
+{
+    Q_OBJECT
+private slots:
+    void sumsProducts();
+    void normalizesByRunningWindows();
+    void givesWorkedExamples();
+    void staysFiniteOnHardData();
+    void refusesWhatDoesNotFit();
+};
+
+static Column makeData(const QByteArray& kind, int length)
+{
+    std::mt19937 random(3);
+    std::normal_distribution<double> noise;
+    Column data;
+    double walk = 0.0;
+    for (int i = 0; i < length; ++i) {
+        walk += noise(random);
+        if (kind == "walk")
+            data.push_back(walk);
+        else if (kind == "spikes")
+            data.push_back(i % 97 == 0 ? 1e4 * noise(random) : 0.01 * noise(random));
+        else if (kind == "flat")
+            data.push_back(i / 300 % 3 == 1 ? 0.3 : std::sin(0.1 * i));
+        else
+            data.push_back(1e5 + std::sin(0.05 * i) + 0.1 * noise(random));
+    }
+    return data;
+}
+
+/// Every window's sum by itself.
+static Confidences directSums(const Column& data, const Column& filter, float untouched)
+{
+    Confidences results(data.size(), untouched);
+    for (size_t start = 0; start + filter.size() <= data.size(); ++start) {
+        double sum = 0.0;
+        for (size_t j = 0; j < filter.size(); ++j)
+            sum += data[start + j] * filter[j];
+        results[start + (filter.size() - 1) / 2] = float(sum);
+    }
+    return results;
+}
+
+/// The normalised correlation, step by step over whole arrays.
+static Confidences directSteps(const Column& x, const SignalTemplateDataObject& signal)
+{
+    const int n = int(x.size());
+    const int m = signal.GetLength();
+    const int h = (m - 1) / 2;
+    Column d = x;
+    float sum = 0.0F;
+    for (int i = 0; i < m; ++i)
+        sum = float(double(sum) + x[size_t(i)]);
+    for (int i = h; i < n - m / 2; ++i) {
+        sum = float(double(sum) - x[size_t(i - h)]);
+        sum = float(double(sum) + x[size_t(i + h)]);
+        d[size_t(i)] = x[size_t(i)] - double(sum / float(m));
+    }
+    Confidences rootMeanSquare(x.size());
+    float q = 0.0F;
+    for (int i = 0; i < m; ++i)
+        q = float(double(q) + d[size_t(i)] * d[size_t(i)]);
+    for (int i = h; i < n - h; ++i) {
+        q = float(double(q) - d[size_t(i - h)] * d[size_t(i - h)]);
+        q = std::max(float(double(q) + d[size_t(i + h)] * d[size_t(i + h)]), 0.0F);
+        rootMeanSquare[size_t(i)] = std::sqrt(q / float(m));
+    }
+    Column t(signal.GetSignal(), signal.GetSignal() + m);
+    for (double& value : t)
+        value -= double(float(signal.GetMean()));
+    Confidences r = directSums(d, t, 0.0F);
+    for (size_t i = 0; i < r.size(); ++i) {
+        const float v = float(signal.GetSd()) * rootMeanSquare[i];
+        r[i] = r[i] / (v == 0.0F ? 1.0F : v) / float(m);
+    }
+    return r;
+}
+
+static void setSignal(SignalTemplateDataObject& signal, const Column& values)
+{
+    signal.SetSignal(values.data(), int(values.size()));
+    signal.computeMean();
+    signal.computeSd();
+}
+
+/// The worst distance in units of what is allowed: one unit in the last place, or 1e-7 of the
+/// largest value.
+static double worstDistance(const Confidences& found, const Confidences& expected)
+{
+    double largest = 0.0;
+    for (const float value : expected)
+        largest = std::max(largest, std::abs(double(value)));
+    double worst = 0.0;
+    for (size_t i = 0; i < expected.size(); ++i) {
+        const float size = std::abs(expected[i]);
+        const double unit = double(std::nextafter(size, INFINITY)) - double(size);
+        const double distance = std::abs(double(found[i]) - double(expected[i]));
+        if (!std::isfinite(found[i]))
+            return INFINITY;
+        worst = std::max(worst, distance / std::max(unit, 1e-7 * largest));
+    }
+    return worst;
+}
+
+void TestCorrelation::sumsProducts()
+{
+    // One value; the filter one value or all; 4003 is prime; a block of 2048 and one row more;
+    // many blocks; a filter longer than the usual block.
+    const std::pair<int, int> sizes[] = {{1, 1},      {50, 1},      {400, 400},
+                                         {1000, 7},   {4000, 4},    {2048, 100},
+                                         {2049, 100}, {30000, 401}, {20000, 5000}};
+    for (const auto& [length, filterLength] : sizes) {
+        const Column data = makeData("walk", length);
+        const Column filter = makeData("spikes", filterLength);
+        const Confidences expected = directSums(data, filter, 7.0F);
+        Confidences whole(data.size(), 7.0F);
+        TemplateMatcher::convolveFast(data.data(), length, filter.data(), filterLength,
+                                      whole.data());
+        QVERIFY2(worstDistance(whole, expected) <= 1, qPrintable(QString::number(length)));
+        Confidences blocks(data.size(), 7.0F);
+        const auto table = MakeColumn(data);
+        RowWindow rows(*table, 0, 0, length);
+        CorrelateByBlocks(rows, filter.data(), filterLength, blocks.data());
+        QVERIFY2(worstDistance(blocks, expected) <= 1, qPrintable(QString::number(length)));
+    }
+}
+
+void TestCorrelation::normalizesByRunningWindows()
+{
+    for (const char* kind : {"walk", "spikes", "flat", "offset"}) {
+        const Column all = makeData(kind, 6021);
+        const Column rows(all.begin() + 10, all.end() - 10);
+        const auto table = MakeColumn(all);
+        for (const int m : {1, 2, 3, 4, 40, 41, 900, 2500, 6000, 6001}) {
+            SignalTemplateDataObject signal;
+            setSignal(signal, Column(all.begin() + 17, all.begin() + 17 + m));
+            Confidences found(rows.size());
+            TemplateMatcher::fastNormalizedRunningCorrelation(table.get(), &signal, 0, found.data(),
+                                                              10, 6011);
+            const double distance = worstDistance(found, directSteps(rows, signal));
+            QVERIFY2(distance <= 1,
+                     qPrintable(QStringLiteral("%1 %2").arg(QLatin1String(kind)).arg(m)));
+        }
+    }
+}
+
+void TestCorrelation::givesWorkedExamples()
+{
+    const Column data{2, 1, 4, 7, 3, 0, 0, 5, 6, 1, 2, 8};
+    const auto table = MakeColumn(data);
+    SignalTemplateDataObject signal;
+    setSignal(signal, {1, 4, 7, 3});
+    Confidences found(data.size());
+    TemplateMatcher::fastNormalizedRunningCorrelation(table.get(), &signal, 0, found.data(), 0, 12);
+    QVERIFY(
+        worstDistance(found, {0.0F, -0.7057802F, 0.9874606F, 0.3931785F, -0.6932326F, -0.5130406F,
+                              0.1896093F, 1.456242F, -0.4893434F, -0.248799F, 0.0F, 0.0F}) <= 2);
+
+    // The signal itself stands in the second window: correlation 1, or 75 without a norm.
+    Confidences direct(data.size(), 1.0F);
+    TemplateMatcher::directCorrelation(table.get(), &signal, 0, direct.data(), 0, 12);
+    QCOMPARE(direct[1], 76.0F);
+    QCOMPARE(direct[9], 1.0F);
+    TemplateMatcher::normalizedRunningCorrelation(table.get(), &signal, 0, direct.data(), 1, 12);
+    QCOMPARE(direct[0], 1.0F);
+    TemplateMatcher::normalizedCorrelation(table.get(), &signal, 0, direct.data(), 0, 12);
+    // 18.75 of products over the deviations 2.165064 and 2.618046 and 4 values.
+    QCOMPARE(direct[1], 0.8269768F);
+}
+
+void TestCorrelation::staysFiniteOnHardData()
+{
+    Column data = makeData("walk", 3000);
+    SignalTemplateDataObject signal;
+    setSignal(signal, Column(data.begin() + 2500, data.begin() + 2530));
+    for (int i = 0; i < 3; ++i)
+        data[size_t(i)] = data[size_t(700 + i)] = NAN;
+    data[1200] = INFINITY;
+    std::fill(data.begin() + 1500, data.begin() + 1700, 1e10);
+    std::fill(data.begin() + 1700, data.begin() + 2300, 0.0);
+    Confidences found(data.size());
+    TemplateMatcher::fastNormalizedRunningCorrelation(MakeColumn(data).get(), &signal, 0,
+                                                      found.data(), 0, 3000);
+    // The same without the gaps, each filled from the row before or, in front, behind it; a
+    // distance from what is no number would be infinite.
+    std::fill_n(data.begin(), 3, data[3]);
+    std::fill_n(data.begin() + 700, 3, data[699]);
+    data[1200] = data[1199];
+    QVERIFY(worstDistance(found, directSteps(data, signal)) <= 1);
+}
+
+void TestCorrelation::refusesWhatDoesNotFit()
+{
+    const auto data = MakeColumn(makeData("walk", 20));
+    SignalTemplateDataObject signal;
+    const Confidences untouched(20, 7.0F);
+    Confidences found = untouched;
+    TemplateMatcher::fastNormalizedRunningCorrelation(data.get(), &signal, 0, found.data(), 0, 20);
+    setSignal(signal, Column(11, 1.0));
+    const int wrong[][3] = {{1, 0, 20}, {-1, 0, 20}, {0, -1, 19}, {0, 5, 21}, {0, 5, 15}};
+    for (const auto& [attribute, start, end] : wrong)
+        TemplateMatcher::fastNormalizedRunningCorrelation(data.get(), &signal, attribute,
+                                                          found.data(), start, end);
+    TemplateMatcher::convolveFast(signal.GetSignal(), 3, signal.GetSignal(), 4, found.data());
+    TemplateMatcher::convolveFast(signal.GetSignal(), 3, signal.GetSignal(), 0, found.data());
+    QCOMPARE(found, untouched);
+}
+
+QTEST_GUILESS_MAIN(TestCorrelation)
+#include "tst_correlation.moc"

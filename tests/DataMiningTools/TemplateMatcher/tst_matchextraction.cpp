@@ -1,0 +1,189 @@
+#include "matchextraction.h"
+#include "resultreduction.h"
+#include "stepscale.h"
+#include <QtTest>
+#include <numeric>
+#include <random>
+
+namespace
+{
+
+constexpr float excluded = -200000.0F;
+
+/// Confidences in memory of their own.
+struct Confidences {
+    std::vector<std::vector<float>> m_Values;
+    std::vector<float*> m_Rows;
+
+    explicit Confidences(std::vector<std::vector<float>> values) : m_Values(std::move(values))
+    {
+        for (auto& row : m_Values)
+            m_Rows.push_back(row.data());
+    }
+    SearchResults Get()
+    {
+        return {m_Rows.data(), int(m_Rows.size()), int(m_Values.front().size())};
+    }
+};
+
+// A walk over flags, one per step.
+std::vector<int> findCenters(const std::vector<float>& values, int width, float threshold)
+{
+    const int steps = int(values.size());
+    std::vector<bool> flags(values.size());
+    int i = 0;
+    while (i < steps) {
+        if (values[size_t(i)] >= threshold) {
+            const int e = i + width / 2;
+            int best = i;
+            for (int j = i; j <= std::min(e, steps) - 1; ++j)
+                best = values[size_t(j)] >= values[size_t(best)] ? j : best;
+            flags[size_t(best)] = true;
+            i = e;
+        }
+        i = i + 1;
+    }
+    std::vector<int> centers;
+    for (int step = 0; step < steps; ++step) {
+        if (flags[size_t(step)])
+            centers.push_back(step);
+    }
+    return centers;
+}
+
+// Few different values, so that ties abound, with excluded stretches and gaps in the data.
+std::vector<float> randomConfidences(std::mt19937& random, int steps)
+{
+    std::vector<float> values;
+    while (int(values.size()) < steps) {
+        const auto kind = random() % 12;
+        if (kind == 0)
+            values.insert(values.end(), 1 + random() % 9, excluded);
+        else if (kind == 1)
+            values.push_back(std::numeric_limits<float>::quiet_NaN());
+        else
+            values.push_back(float(random() % 9) / 8);
+    }
+    values.resize(size_t(steps));
+    return values;
+}
+
+} // namespace
+
+class TestMatchExtraction : public QObject
+{
+    Q_OBJECT
+private slots:
+    void findsCenters_data();
+    void findsCenters();
+    void agreesWithAWalkOverFlags();
+    void spreadsAndLeavesOut();
+    void reducesToPixels_data();
+    void reducesToPixels();
+};
+
+void TestMatchExtraction::findsCenters_data()
+{
+    QTest::addColumn<QVector<float>>("values");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<float>("threshold");
+    QTest::addColumn<QVector<int>>("centers");
+    QTest::newRow("the later of a tie")
+        << QVector<float>{0, 0.9F, 0.5F, 0.9F, 0, 0} << 6 << 0.9F << QVector<int>{3};
+    // The step half a template behind is neither taken nor looked at.
+    QTest::newRow("skipped step") << QVector<float>{1, 0, 1, 1} << 4 << 0.5F << QVector<int>{0, 3};
+    QTest::newRow("only the maximum")
+        << QVector<float>{0.999F, 1, 0.999F} << 2 << 1.0F << QVector<int>{1};
+    QTest::newRow("all at 0, none excluded")
+        << QVector<float>{excluded, 0, 0, excluded, 0} << 2 << 0.0F << QVector<int>{1, 4};
+    QTest::newRow("one sample") << QVector<float>{1, 1, 1} << 1 << 0.5F << QVector<int>{0, 1, 2};
+    QTest::newRow("longer than the data")
+        << QVector<float>{1, 0, 1} << 90 << 0.5F << QVector<int>{2};
+    QTest::newRow("no signal") << QVector<float>{1, 1, 1} << 0 << 0.5F << QVector<int>{};
+}
+
+void TestMatchExtraction::findsCenters()
+{
+    QFETCH(QVector<float>, values);
+    QFETCH(int, width);
+    QFETCH(float, threshold);
+    QFETCH(QVector<int>, centers);
+    Confidences results(std::vector<std::vector<float>>{{values.begin(), values.end()}});
+    const CenterPoints found = computeCenterPoints(results.Get(), {width}, threshold);
+    QCOMPARE(QVector<int>(found[0].begin(), found[0].end()), centers);
+}
+
+void TestMatchExtraction::agreesWithAWalkOverFlags()
+{
+    std::mt19937 random(7);
+    for (int run = 0; run < 400; ++run) {
+        const int steps = 1 + int(random() % 300);
+        Confidences results({randomConfidences(random, steps), randomConfidences(random, steps)});
+        const std::vector<int> widths{1 + int(random() % 40), 1 + int(random() % 400)};
+        const float threshold = float(random() % 9) / 8;
+        const CenterPoints found = computeCenterPoints(results.Get(), widths, threshold);
+        MatchFlags flags(found, steps);
+        for (size_t r = 0; r < 2; ++r) {
+            QCOMPARE(found[r], findCenters(results.m_Values[r], widths[r], threshold));
+            QCOMPARE(std::count(flags.Get()[r], flags.Get()[r] + steps, true),
+                     std::ptrdiff_t(found[r].size()));
+        }
+    }
+}
+
+void TestMatchExtraction::spreadsAndLeavesOut()
+{
+    const CenterPoints matches{{1, 4, 9}, {}, {4, 6, 20, 30}};
+    QCOMPARE(WithoutSteps(matches, {4, 5, 30}), (CenterPoints{{1, 9}, {}, {6, 20}}));
+    QCOMPARE(StepsOfMatches(matches, 3.5, 20), (std::vector<int>{4, 6, 9, 20}));
+    QCOMPARE(ChooseEvenly(matches, 3), (std::vector<Match>{{0, 1}, {0, 9}, {2, 6}}));
+    QCOMPARE(ChooseEvenly(matches, 100).size(), size_t(7));
+    QCOMPARE(ChooseEvenly(matches, 100).back(), (Match{2, 30}));
+}
+
+void TestMatchExtraction::reducesToPixels_data()
+{
+    QTest::addColumn<int>("steps");
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<int>("width");
+    QTest::newRow("few steps") << 20 << -1 << -1 << 300;
+    QTest::newRow("many steps") << 5000 << -1 << -1 << 300;
+    QTest::newRow("no room") << 5000 << -1 << -1 << 20;
+    QTest::newRow("zoomed") << 5000 << 1200 << 1900 << 300;
+}
+
+// Every pixel shows the highest of its steps, and every match is counted where it stands.
+void TestMatchExtraction::reducesToPixels()
+{
+    QFETCH(int, steps);
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QFETCH(int, width);
+    std::mt19937 random(3);
+    Confidences results({randomConfidences(random, steps), randomConfidences(random, steps)});
+    const StepScale scale =
+        from < 0 ? StepScale::OverAll(steps, width) : StepScale::OverRange(from, to, width);
+    QMap<int, float> highest;
+    for (int k = scale.GetFrom(); k < scale.GetTo(); ++k) {
+        const int pixel = int(scale.ToPixel(k));
+        const float before = highest.value(pixel, -std::numeric_limits<float>::infinity());
+        const float here =
+            std::fmax(results.m_Values[0][size_t(k)], results.m_Values[1][size_t(k)]);
+        highest.insert(pixel, std::fmax(before, here));
+    }
+    QMap<int, float> shown;
+    for (const PositionValue& entry : computePositionValueList(results.Get(), scale))
+        shown.insert(int(entry.m_X), entry.m_Value);
+    QCOMPARE(shown, highest);
+
+    const CenterPoints matches = computeCenterPoints(results.Get(), {3, 30}, 0.5F);
+    size_t onScale = 0;
+    for (const auto& centers : matches)
+        onScale += StepsOfMatches({centers}, scale.GetFrom(), scale.GetTo() - 1).size();
+    const std::vector<int> bins = computeMatchDistribution(matches, scale, 10);
+    QCOMPARE(std::accumulate(bins.begin(), bins.end(), size_t(0)), onScale);
+}
+
+QTEST_MAIN(TestMatchExtraction)
+#include "tst_matchextraction.moc"
