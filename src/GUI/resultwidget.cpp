@@ -123,8 +123,7 @@ void ResultWidget::connectViews()
     connect(m_Table, &TableResultWidget::SegmentRejected, this, &ResultWidget::rejectSegment);
     connect(m_Table, &TableResultWidget::SelectionRejected, this,
             &ResultWidget::rejectSelectedResults);
-    connect(m_Table, &TableResultWidget::NewResultsFound, this,
-            &ResultWidget::ClearAndUpdateSegments);
+    connect(m_Table, &TableResultWidget::NewResultsFound, this, &ResultWidget::showNewResults);
     connect(m_Table, &TableResultWidget::RemoveAndAddAll, this,
             &ResultWidget::ClearAndUpdateSegments);
     connect(m_Table, &TableResultWidget::RemoveAndAddAll, this, &ResultWidget::SegmentsMoved);

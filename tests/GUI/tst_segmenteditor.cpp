@@ -5,10 +5,12 @@
 #include "modalscript.h"
 #include "mousedrag.h"
 #include "overviewtimelinewidget.h"
+#include "patternsdataobject.h"
 #include "recording.h"
 #include "resultwidget.h"
 #include "segmenteditor.h"
 #include "segmenttext.h"
+#include "templatedialog.h"
 #include "testdata.h"
 #include "timeaxis.h"
 #include <QComboBox>
@@ -27,6 +29,8 @@ private slots:
     void deletesRange();
     void deletesRow();
     void moves();
+    void templatesNeedRows_data();
+    void templatesNeedRows();
 
 private:
     QPoint pixel(int row) const;
@@ -195,6 +199,41 @@ void TestSegmentEditor::moves()
     int index = 0;
     QCOMPARE(m_Recording->GetCutCollection()->FindSegment(30, index)->GetColor(),
              labels.GetLabel(1)->GetColor());
+}
+
+void TestSegmentEditor::templatesNeedRows_data()
+{
+    QTest::addColumn<bool>("isLoaded");
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<int>("dialogs");
+    QTest::newRow("no data") << false << 20 << 60 << 0;
+    QTest::newRow("no selection") << true << -1 << -1 << 0;
+    QTest::newRow("right to left") << true << 60 << 20 << 0;
+    QTest::newRow("a range") << true << 20 << 60 << 3;
+    // Adding a template takes a range only.
+    QTest::newRow("a row") << true << 30 << 30 << 2;
+}
+
+void TestSegmentEditor::templatesNeedRows()
+{
+    QFETCH(bool, isLoaded);
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QFETCH(int, dialogs);
+    Recording* recording = isLoaded ? m_Recording.get() : nullptr;
+    if (from == to && from != -1)
+        selectRow(from);
+    else if (from != -1)
+        drag(from, to);
+    ModalScript user;
+    for (int i = 0; i < dialogs; ++i)
+        user.On<TemplateDialog>([](TemplateDialog* dialog) { dialog->reject(); });
+    QVERIFY(!m_Editor->Save(recording));
+    QVERIFY(!m_Editor->Search(recording));
+    m_Editor->AddTemplate(recording);
+    QCOMPARE(TakeUserErrors().size(), 3 - dialogs);
+    QCOMPARE(segments(), QStringLiteral("(0,100)"));
 }
 
 QTEST_MAIN(TestSegmentEditor)

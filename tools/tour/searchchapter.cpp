@@ -216,10 +216,9 @@ void addFilterSteps(Guide& guide, MainWindow& window)
         [&] {
             auto* wizard = Guide::Window<TemplateWizard>();
             const int before = matchCount();
-            guide.Picture(QStringLiteral("31-result-filter"), wizard);
             QTest::keyClick(wizard->findChild<QSlider*>(), Qt::Key_PageDown);
             guide.Expect(matchCount() > before, QStringLiteral("a lower threshold finds no more"));
-            guide.Picture(QStringLiteral("31-result-filter-lower"), wizard);
+            guide.Picture(QStringLiteral("31-result-filter"), wizard);
         });
     guide.Step(QStringLiteral("Reject the take-off on the map"), [&] {
         auto* map = Guide::Window<TemplateWizard>()->findChild<ThresholdMap*>();
@@ -260,13 +259,12 @@ void addMoveSteps(Guide& guide, MainWindow& window)
 {
     auto left = std::make_shared<int>(0);
     guide.Step(QStringLiteral("Select two results"), Guide::IsNothingOpen, [=, &guide, &window] {
-        guide.Picture(QStringLiteral("32-results"));
         QTableView* table = resultTable(window);
         for (const int row : {0, 2})
             guide.ClickAt(table->viewport(),
                           table->visualRect(table->model()->index(row, 1)).center(),
                           row == 0 ? Qt::NoModifier : Qt::ControlModifier);
-        guide.Picture(QStringLiteral("32-selected"));
+        guide.Picture(QStringLiteral("32-results"));
         *left = resultCount(window) - 2;
         guide.Click(guide.Button(results(window), QStringLiteral("Move Selected")));
     });
