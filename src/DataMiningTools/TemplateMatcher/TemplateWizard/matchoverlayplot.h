@@ -7,7 +7,7 @@
 
 class SignalTemplateDataObject;
 
-/// One attribute of the matches over each other, and the template's signal first.
+/// One attribute of the matches over each other, and the template's signal above them.
 class MatchOverlayPlot : public SelectionMultipleLinePlotWidget
 {
     Q_OBJECT

@@ -86,6 +86,11 @@ void OverlaidLines::Paint(QPainter& painter) const
     m_VerticalAxis->Paint(painter);
     for (const Entry& entry : m_Entries)
         entry.m_Line->Paint(painter);
+    // Arrays, such as the signal of a template, would drown in the lines of its matches.
+    for (const Entry& entry : m_Entries) {
+        if (!entry.m_Line->GetDataSet())
+            entry.m_Line->Paint(painter);
+    }
 }
 
 std::vector<int> OverlaidLines::FindLines(const QRectF& box) const

@@ -19,7 +19,8 @@ public:
     OverlaidLines();
     virtual ~OverlaidLines();
 
-    /// Grid, the first line with its axes, then the other lines.
+    /// Grid, the first line with its axes, then the other lines, and those of arrays once more on
+    /// top.
     void Paint(QPainter& painter) const;
     void SetSize(float height, float width);
     void SetAlpha(double alpha);
