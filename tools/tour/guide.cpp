@@ -2,7 +2,6 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QClipboard>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLabel>
@@ -241,11 +240,13 @@ void Guide::PickFile(const QString& path, const QString& button)
     auto* dialog = Window<QFileDialog>();
     Expect(dialog, QStringLiteral("no file dialog is open"));
     auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    // At once: while a path is typed, the dialog looks into every folder on the way.
-    QApplication::clipboard()->setText(path);
     name->setFocus();
     QTest::keyClick(name, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(name, Qt::Key_V, Qt::ControlModifier);
+    // At once, as input methods do: while a path is typed, the dialog looks into every folder on
+    // the way.
+    QInputMethodEvent input;
+    input.setCommitString(path);
+    QApplication::sendEvent(name, &input);
     Expect(name->text() == path, QStringLiteral("the path does not stand in the dialog"));
     // Not the Return key: the list of completions may be open and take it.
     Click(Button(dialog, button));

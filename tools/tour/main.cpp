@@ -8,6 +8,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <cstdio>
 
 // tour FOLDER: takes the guided tour and leaves its pictures in FOLDER.
 int main(int argc, char* argv[])
@@ -21,8 +22,11 @@ int main(int argc, char* argv[])
     const QString folder = QDir::tempPath() + QStringLiteral("/recordings");
     const QString recording = folder + QStringLiteral("/recording.csv");
     QDir().mkpath(folder);
-    QFile::remove(recording);
-    QFile::copy(QStringLiteral(TOUR_EXAMPLES "/recording.csv"), recording);
+    // Put there in one go: another tour may be under way.
+    const QTemporaryDir aside(folder + QStringLiteral("/new-XXXXXX"));
+    const QString copy = aside.filePath(QStringLiteral("recording.csv"));
+    QFile::copy(QStringLiteral(TOUR_EXAMPLES "/recording.csv"), copy);
+    std::rename(qPrintable(copy), qPrintable(recording));
 
     // Settings, templates and backups of its own: the tour leaves those of the user alone.
     const QTemporaryDir settings;
