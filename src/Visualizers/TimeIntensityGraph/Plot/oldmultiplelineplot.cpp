@@ -16,7 +16,11 @@ void OldMultipleLinePlot::AddLine(DataSet* data, int attribute, int from, int to
 
 void OldMultipleLinePlot::AddLine(double* values, int size, const QColor& color)
 {
-    appendLine(-1, 0, size, color).m_Line->SetData(values, size);
+    constexpr float bold = 2.0F;
+    const Entry& line = appendLine(-1, 0, size, color);
+    line.m_Line->SetData(values, size);
+    // One among hundreds of lines of rows.
+    line.m_Line->SetPenWidth(bold);
 }
 
 RowRange OldMultipleLinePlot::GetRows(int index) const
