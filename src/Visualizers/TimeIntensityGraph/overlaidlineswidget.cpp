@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 
 OverlaidLinesWidget::OverlaidLinesWidget(std::unique_ptr<OverlaidLines> lines, bool rejecting,
                                          QWidget* parent)
@@ -104,7 +105,10 @@ void OverlaidLinesWidget::mouseReleaseEvent(QMouseEvent* event)
 
 void OverlaidLinesWidget::askToReject(const QRect& box)
 {
-    const std::vector<int> marked = m_Lines->FindLines(box);
+    std::vector<int> marked = m_Lines->FindLines(box);
+    marked.erase(
+        std::remove_if(marked.begin(), marked.end(), [this](int line) { return !isResult(line); }),
+        marked.end());
     if (marked.empty())
         return;
     const QString question =
@@ -113,6 +117,11 @@ void OverlaidLinesWidget::askToReject(const QRect& box)
         return;
     rejectLines(marked);
     markStale();
+}
+
+bool OverlaidLinesWidget::isResult(int) const
+{
+    return true;
 }
 
 void OverlaidLinesWidget::rejectLines(const std::vector<int>& lines)

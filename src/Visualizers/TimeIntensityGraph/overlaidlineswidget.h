@@ -32,6 +32,8 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
+    /// Whether a line is a result, which a rubber band can reject.
+    virtual bool isResult(int line) const;
     /// The user has agreed to reject these lines, in ascending order.
     virtual void rejectLines(const std::vector<int>& lines);
 

@@ -45,13 +45,7 @@ void MatchOverlayPlot::setAxis()
 
 void MatchOverlayPlot::rejectLines(const std::vector<int>& lines)
 {
-    std::vector<int> ofMatches;
-    for (const int line : lines) {
-        if (line == 0)
-            continue;
+    for (const int line : lines)
         m_RemovedMatches.append(m_Matches[line - 1]);
-        ofMatches.push_back(line);
-    }
-    if (!ofMatches.empty())
-        SelectionMultipleLinePlotWidget::rejectLines(ofMatches);
+    SelectionMultipleLinePlotWidget::rejectLines(lines);
 }

@@ -23,7 +23,9 @@ public:
     const QList<QPair<int, int>>& GetRemovedMatches() const { return m_RemovedMatches; }
 
 protected:
-    /// Also remembers the matches; the template's line stays.
+    /// The first line is the template's.
+    bool isResult(int line) const override { return line > 0; }
+    /// Also remembers the matches.
     void rejectLines(const std::vector<int>& lines) override;
 
 private:
