@@ -10,6 +10,7 @@
 #include "labelwriter.h"
 #include "recording.h"
 #include "usererror.h"
+#include "waitcursor.h"
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLoggingCategory>
@@ -67,6 +68,7 @@ void RecordingFiles::ExportProject(Recording* recording)
     const QString path = AskSavePath(m_Window, tr("Export Labels"), tr("Traceholm (*.thm)"));
     if (path.isEmpty())
         return;
+    const WaitCursor wait;
     LabelWriter writer = makeWriter(path, *recording);
     showResult(writer, writer.WriteProject(recording->GetLabelCollection()));
 }
@@ -107,6 +109,7 @@ void RecordingFiles::exportSummary(Recording& recording)
     const int attribute = AskAttribute(m_Window, *recording.GetDataSet());
     if (attribute == -1)
         return;
+    const WaitCursor wait;
     LabelWriter writer = makeWriter(path, recording);
     showResult(writer, writer.WriteSummary(recording.GetLabelCollection(), attribute));
 }
@@ -117,6 +120,7 @@ void RecordingFiles::exportToFolder(Recording& recording, bool separate)
         m_Window, tr("Export Labels Directory"), QStringLiteral("/home"));
     if (folder.isEmpty())
         return;
+    const WaitCursor wait;
     LabelWriter writer = makeWriter(folder, recording);
     showResult(writer, separate ? writer.WriteSeparateFiles(recording.GetLabelCollection())
                                 : writer.WriteCombined(recording.GetLabelCollection()));
@@ -127,6 +131,7 @@ void RecordingFiles::exportAligned(Recording& recording)
     const QString path = AskSavePath(m_Window, tr("Export Data"), tr("CSV (*.csv)"));
     if (path.isEmpty())
         return;
+    const WaitCursor wait;
     LabelWriter writer = makeWriter(path, recording);
     showResult(writer, writer.WriteAligned(recording.GetLabelCollection()));
 }
@@ -144,6 +149,7 @@ bool RecordingFiles::ImportLabels(Recording* recording,
     const auto labels = readLabels(recording, tr("Traceholm (*.thm)"));
     if (!labels)
         return false;
+    const WaitCursor wait;
     for (const ImportedGroup& group : cutSegments(*labels, *recording->GetCutCollection())) {
         BehaviorLabel* label = addGroup(group.name);
         if (!label) {
@@ -170,6 +176,7 @@ std::unique_ptr<GroundTruithBehaviorCollection> RecordingFiles::readLabels(Recor
         QFileDialog::getOpenFileName(m_Window, tr("Open Ground Truith Data"), QString(), filter);
     if (path.isEmpty())
         return nullptr;
+    const WaitCursor wait;
     GroundTruithReader reader(path);
     reader.SetDataSet(recording->GetDataSet());
     if (!reader.ReadFile()) {

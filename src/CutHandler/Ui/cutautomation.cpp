@@ -9,7 +9,7 @@
 #include "pipcutdialog.h"
 #include "pipextractor.h"
 #include "simplecuts.h"
-#include <QGuiApplication>
+#include "waitcursor.h"
 #include <QStringList>
 
 namespace
@@ -21,15 +21,6 @@ enum Method {
     PERIODIC = 2,
     SHARP_TRANSITIONS = 3,
     MINIMA_MAXIMA = 4
-};
-
-class WaitCursor
-{
-public:
-    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
 };
 
 } // namespace

@@ -20,6 +20,7 @@
 #include "tilt.h"
 #include "vedba.h"
 #include "vedbadialog.h"
+#include "waitcursor.h"
 #include <QLoggingCategory>
 #include <algorithm>
 #include <optional>
@@ -96,7 +97,10 @@ bool DataProcessor::movingAverage()
     if (!hasData())
         return false;
     const auto params = ask<MovingAverageDialog>(*m_DataSet, m_Parent);
-    if (!params || computeMovingAverage(params->m_Name, params->m_Attribute, params->m_Window) < 0)
+    if (!params)
+        return false;
+    const WaitCursor wait;
+    if (computeMovingAverage(params->m_Name, params->m_Attribute, params->m_Window) < 0)
         return false;
     m_DataSet->ComputeRanges();
     return true;
@@ -109,6 +113,7 @@ bool DataProcessor::basicFunction()
     const auto params = ask<BasicFunctionDialog>(*m_DataSet, m_Parent);
     if (!params || !hasAttributes({params->m_First, params->m_Second}))
         return false;
+    const WaitCursor wait;
     return finishWith(params->m_Name, BasicFunction(*m_DataSet, params->m_First, params->m_Operator,
                                                     params->m_Second));
 }
@@ -120,6 +125,7 @@ bool DataProcessor::derivative()
     const auto params = ask<DerivativeDialog>(*m_DataSet, m_Parent);
     if (!params || !hasAttributes({params->m_Attribute}))
         return false;
+    const WaitCursor wait;
     const Column differences = ForwardDifferences(*m_DataSet, params->m_Attribute);
     addAttribute(params->m_Name);
     AppendDerivative(*m_DataSet, differences);
@@ -135,6 +141,7 @@ bool DataProcessor::normalize()
     const auto params = ask<DerivativeDialog>(*m_DataSet, m_Parent);
     if (!params || !hasAttributes({params->m_Attribute}))
         return false;
+    const WaitCursor wait;
     return finishWith(params->m_Name, Normalize(m_DataSet->CopyColumn(params->m_Attribute)));
 }
 
@@ -145,6 +152,7 @@ bool DataProcessor::normalizeVector()
     const auto vector = ask<NormalizeVectorDialog>(*m_DataSet, m_Parent);
     if (!vector || !hasVector(*vector))
         return false;
+    const WaitCursor wait;
     return finishWith(namesOf(*vector, QStringLiteral("_norm")),
                       NormalizeVector(*m_DataSet, *vector));
 }
@@ -156,6 +164,7 @@ bool DataProcessor::energy()
     const auto params = ask<EnergyDialog>(*m_DataSet, m_Parent);
     if (!params || !hasAttributes({params->m_Attribute}))
         return false;
+    const WaitCursor wait;
     return finishWith(params->m_Name,
                       Energy(m_DataSet->CopyColumn(params->m_Attribute), params->m_Window));
 }
@@ -167,6 +176,7 @@ bool DataProcessor::threshold()
     const auto params = ask<ThresholdDialog>(*m_DataSet, m_Parent);
     if (!params || !hasAttributes({params->m_Attribute}))
         return false;
+    const WaitCursor wait;
     return finishWith(params->m_Name,
                       Threshold(*m_DataSet, params->m_Attribute, params->m_Threshold));
 }
@@ -180,6 +190,7 @@ bool DataProcessor::pitchRoll()
         return true;
     if (!hasVector(params->m_Acceleration))
         return false;
+    const WaitCursor wait;
     return finishWith({QStringLiteral("Pitch"), QStringLiteral("Roll")},
                       PitchAndRoll(*m_DataSet, params->m_Acceleration));
 }
@@ -194,6 +205,7 @@ bool DataProcessor::rotate()
     const VectorAttributes& vector = params->m_Vector;
     if (!hasVector(vector) || !hasAttributes({params->m_Pitch, params->m_Roll}))
         return false;
+    const WaitCursor wait;
     return finishWith(namesOf(vector, QStringLiteral("_Rotated")),
                       RotateVector(*m_DataSet, vector, params->m_Pitch, params->m_Roll));
 }
@@ -203,6 +215,7 @@ bool DataProcessor::vedba()
     if (!hasData())
         return false;
     const auto params = askWithoutCancel<VedbaDialog>(*m_DataSet, m_Parent);
+    const WaitCursor wait;
     return hasVector(params.m_Dynamic) &&
            finishWith(params.m_Name, Vedba(*m_DataSet, params.m_Dynamic));
 }
@@ -216,6 +229,7 @@ bool DataProcessor::staticDynAcc()
     if (!hasVector(acceleration))
         return false;
     const int window = params.m_Window;
+    const WaitCursor wait;
     const int x = computeMovingAverage(QStringLiteral("Static X Acc"), acceleration.m_X, window);
     const int y = computeMovingAverage(QStringLiteral("Static Y Acc"), acceleration.m_Y, window);
     const int z = computeMovingAverage(QStringLiteral("Static Z Acc"), acceleration.m_Z, window);
@@ -231,6 +245,7 @@ bool DataProcessor::constantValue()
     if (!hasData())
         return false;
     const auto params = askWithoutCancel<ConstantValueDialog>(*m_DataSet, m_Parent);
+    const WaitCursor wait;
     return finishWith(params.m_Name, ConstantValue(m_DataSet->GetRowCount(), params.m_Value));
 }
 
