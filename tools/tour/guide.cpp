@@ -139,6 +139,8 @@ void Guide::ChooseFromMenu(QWidget* window, const QStringList& titles,
     ClickAt(bar, bar->actionGeometry(top).center());
     QMenu* menu = top->menu();
     for (int i = 1; i < titles.size(); ++i) {
+        Expect(QTest::qWaitFor([menu] { return menu->isVisible(); }, patience),
+               QStringLiteral("no menu opens for ") + titles[i - 1]);
         QAction* action = entry(menu, titles[i]);
         Expect(action && action->isEnabled(), QStringLiteral("no entry ") + titles[i]);
         if (i + 1 == titles.size())
@@ -240,14 +242,15 @@ void Guide::PickFile(const QString& path, const QString& button)
     auto* dialog = Window<QFileDialog>();
     Expect(dialog, QStringLiteral("no file dialog is open"));
     auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    name->setFocus();
-    QTest::keyClick(name, Qt::Key_A, Qt::ControlModifier);
-    // At once, as input methods do: while a path is typed, the dialog looks into every folder on
-    // the way.
-    QInputMethodEvent input;
-    input.setCommitString(path);
-    QApplication::sendEvent(name, &input);
-    Expect(name->text() == path, QStringLiteral("the path does not stand in the dialog"));
+    // At once: while a path is typed, the dialog looks into every folder on the way. And again
+    // when the dialog, which is still looking around, has put another text there.
+    const auto insert = [&] {
+        name->selectAll();
+        name->insert(path);
+        return name->text() == path;
+    };
+    Expect(QTest::qWaitFor(insert, patience),
+           QStringLiteral("the path does not stand in the dialog"));
     // Not the Return key: the list of completions may be open and take it.
     Click(Button(dialog, button));
 }

@@ -56,7 +56,7 @@ public:
     void DragAndDrop(QWidget* source, const QPoint& from, QWidget* target);
     /// Selects all text of a line edit or spin box and types over it.
     void TypeInto(QWidget* field, const QString& text);
-    /// Pastes a path into the file dialog that is open and presses its button of that text.
+    /// Puts a path into the file dialog that is open and presses its button of that text.
     void PickFile(const QString& path, const QString& button);
 
     /// The visible button of that text or accessible name in parent; the tour fails without one.
