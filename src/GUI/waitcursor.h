@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCursor>
 #include <QGuiApplication>
 
 /// Shows a busy pointer while it lives: for work of a second or two that has no progress to tell.
