@@ -113,9 +113,9 @@ bool DataProcessor::basicFunction()
     const auto params = ask<BasicFunctionDialog>(*m_DataSet, m_Parent);
     if (!params || !hasAttributes({params->m_First, params->m_Second}))
         return false;
-    const WaitCursor wait;
-    return finishWith(params->m_Name, BasicFunction(*m_DataSet, params->m_First, params->m_Operator,
-                                                    params->m_Second));
+    return finishWith(params->m_Name, [&] {
+        return BasicFunction(*m_DataSet, params->m_First, params->m_Operator, params->m_Second);
+    });
 }
 
 bool DataProcessor::derivative()
@@ -141,8 +141,8 @@ bool DataProcessor::normalize()
     const auto params = ask<DerivativeDialog>(*m_DataSet, m_Parent);
     if (!params || !hasAttributes({params->m_Attribute}))
         return false;
-    const WaitCursor wait;
-    return finishWith(params->m_Name, Normalize(m_DataSet->CopyColumn(params->m_Attribute)));
+    return finishWith(params->m_Name,
+                      [&] { return Normalize(m_DataSet->CopyColumn(params->m_Attribute)); });
 }
 
 bool DataProcessor::normalizeVector()
@@ -152,9 +152,8 @@ bool DataProcessor::normalizeVector()
     const auto vector = ask<NormalizeVectorDialog>(*m_DataSet, m_Parent);
     if (!vector || !hasVector(*vector))
         return false;
-    const WaitCursor wait;
     return finishWith(namesOf(*vector, QStringLiteral("_norm")),
-                      NormalizeVector(*m_DataSet, *vector));
+                      [&] { return NormalizeVector(*m_DataSet, *vector); });
 }
 
 bool DataProcessor::energy()
@@ -164,9 +163,9 @@ bool DataProcessor::energy()
     const auto params = ask<EnergyDialog>(*m_DataSet, m_Parent);
     if (!params || !hasAttributes({params->m_Attribute}))
         return false;
-    const WaitCursor wait;
-    return finishWith(params->m_Name,
-                      Energy(m_DataSet->CopyColumn(params->m_Attribute), params->m_Window));
+    return finishWith(params->m_Name, [&] {
+        return Energy(m_DataSet->CopyColumn(params->m_Attribute), params->m_Window);
+    });
 }
 
 bool DataProcessor::threshold()
@@ -176,9 +175,9 @@ bool DataProcessor::threshold()
     const auto params = ask<ThresholdDialog>(*m_DataSet, m_Parent);
     if (!params || !hasAttributes({params->m_Attribute}))
         return false;
-    const WaitCursor wait;
-    return finishWith(params->m_Name,
-                      Threshold(*m_DataSet, params->m_Attribute, params->m_Threshold));
+    return finishWith(params->m_Name, [&] {
+        return Threshold(*m_DataSet, params->m_Attribute, params->m_Threshold);
+    });
 }
 
 bool DataProcessor::pitchRoll()
@@ -190,9 +189,8 @@ bool DataProcessor::pitchRoll()
         return true;
     if (!hasVector(params->m_Acceleration))
         return false;
-    const WaitCursor wait;
     return finishWith({QStringLiteral("Pitch"), QStringLiteral("Roll")},
-                      PitchAndRoll(*m_DataSet, params->m_Acceleration));
+                      [&] { return PitchAndRoll(*m_DataSet, params->m_Acceleration); });
 }
 
 bool DataProcessor::rotate()
@@ -205,9 +203,9 @@ bool DataProcessor::rotate()
     const VectorAttributes& vector = params->m_Vector;
     if (!hasVector(vector) || !hasAttributes({params->m_Pitch, params->m_Roll}))
         return false;
-    const WaitCursor wait;
-    return finishWith(namesOf(vector, QStringLiteral("_Rotated")),
-                      RotateVector(*m_DataSet, vector, params->m_Pitch, params->m_Roll));
+    return finishWith(namesOf(vector, QStringLiteral("_Rotated")), [&] {
+        return RotateVector(*m_DataSet, vector, params->m_Pitch, params->m_Roll);
+    });
 }
 
 bool DataProcessor::vedba()
@@ -215,9 +213,8 @@ bool DataProcessor::vedba()
     if (!hasData())
         return false;
     const auto params = askWithoutCancel<VedbaDialog>(*m_DataSet, m_Parent);
-    const WaitCursor wait;
     return hasVector(params.m_Dynamic) &&
-           finishWith(params.m_Name, Vedba(*m_DataSet, params.m_Dynamic));
+           finishWith(params.m_Name, [&] { return Vedba(*m_DataSet, params.m_Dynamic); });
 }
 
 bool DataProcessor::staticDynAcc()
@@ -245,8 +242,8 @@ bool DataProcessor::constantValue()
     if (!hasData())
         return false;
     const auto params = askWithoutCancel<ConstantValueDialog>(*m_DataSet, m_Parent);
-    const WaitCursor wait;
-    return finishWith(params.m_Name, ConstantValue(m_DataSet->GetRowCount(), params.m_Value));
+    return finishWith(params.m_Name,
+                      [&] { return ConstantValue(m_DataSet->GetRowCount(), params.m_Value); });
 }
 
 int DataProcessor::computeMovingAverage(const QString& name, int attribute, int window)
@@ -303,15 +300,19 @@ int DataProcessor::addColumn(const QString& name, const Column& column)
     return index;
 }
 
-bool DataProcessor::finishWith(const QString& name, const Column& column)
+bool DataProcessor::finishWith(const QString& name, const std::function<Column()>& compute)
 {
-    addColumn(name, column);
+    const WaitCursor wait;
+    addColumn(name, compute());
     m_DataSet->ComputeRanges();
     return true;
 }
 
-bool DataProcessor::finishWith(const QStringList& names, const std::vector<Column>& columns)
+bool DataProcessor::finishWith(const QStringList& names,
+                               const std::function<std::vector<Column>()>& compute)
 {
+    const WaitCursor wait;
+    const std::vector<Column> columns = compute();
     for (const QString& name : names)
         addAttribute(name);
     AppendColumns(*m_DataSet, columns);

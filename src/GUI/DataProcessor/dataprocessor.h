@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QList>
 #include <QStringList>
+#include <functional>
 #include <initializer_list>
 
 class QWidget;
@@ -72,9 +73,9 @@ private:
     /// Enters a new attribute, its values are the caller's work; its index.
     int addAttribute(const QString& name);
     int addColumn(const QString& name, const Column& column);
-    // Add, take the ranges anew and return true.
-    bool finishWith(const QString& name, const Column& column);
-    bool finishWith(const QStringList& names, const std::vector<Column>& columns);
+    // Compute and add, take the ranges anew and return true.
+    bool finishWith(const QString& name, const std::function<Column()>& compute);
+    bool finishWith(const QStringList& names, const std::function<std::vector<Column>()>& compute);
     QStringList namesOf(const VectorAttributes& vector, const QString& ending) const;
 
     QWidget* m_Parent;
