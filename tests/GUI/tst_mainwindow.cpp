@@ -252,12 +252,7 @@ void TestMainWindow::zoomOnRegion()
 void TestMainWindow::chooseOnGraph(const QPoint& point, const QString& text)
 {
     m_Plot->showContextMenu(point);
-    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    for (QAction* entry : menu->actions()) {
-        if (entry->text() == text)
-            menu->setActiveAction(entry);
-    }
-    QTest::keyClick(menu, Qt::Key_Return);
+    ChooseFromMenu(text);
 }
 
 QWidget* TestMainWindow::openSegmentWindow()

@@ -9,7 +9,6 @@
 #include "segmenttext.h"
 #include "testdata.h"
 #include <QComboBox>
-#include <QMenu>
 #include <QTableView>
 #include <QtTest>
 
@@ -94,15 +93,7 @@ void TestResultViews::runMenuEntry(const QString& text)
     QContextMenuEvent event(QContextMenuEvent::Keyboard,
                             m_Table->visualRect(m_Table->currentIndex()).center());
     QApplication::sendEvent(m_Table, &event);
-    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    QVERIFY(menu);
-    for (QAction* action : menu->actions()) {
-        if (action->text() == text)
-            menu->setActiveAction(action);
-    }
-    // Out of the event loop, as a real key comes: the menu is gone when that goes on.
-    QTimer::singleShot(0, menu, [=] { QTest::keyClick(menu, Qt::Key_Return); });
-    QTest::qWait(1);
+    ChooseFromMenu(text);
 }
 
 void TestResultViews::buttonsBelongToTheirRows()

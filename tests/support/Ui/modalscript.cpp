@@ -5,6 +5,7 @@
 #include <QErrorMessage>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMenu>
 #include <QProgressDialog>
 #include <QTest>
 #include <QTextEdit>
@@ -82,6 +83,18 @@ QAbstractButton* FindButton(const QWidget* widget, const QString& text)
     }
     QTest::qFail(qPrintable(QStringLiteral("no button \"%1\"").arg(text)), __FILE__, __LINE__);
     return nullptr;
+}
+
+void ChooseFromMenu(const QString& text)
+{
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QVERIFY2(menu, "no menu is open");
+    for (QAction* entry : menu->actions()) {
+        if (entry->text() == text)
+            menu->setActiveAction(entry);
+    }
+    QVERIFY2(menu->activeAction(), qPrintable(QStringLiteral("no entry ") + text));
+    QTest::keyClick(menu, Qt::Key_Return);
 }
 
 void ClickButton(const QWidget* widget, const QString& text)

@@ -45,5 +45,8 @@ QStringList TakeUserErrors();
 /// The button of that text below widget; it is checked to be there.
 class QAbstractButton* FindButton(const QWidget* widget, const QString& text);
 
+/// Chooses the entry of that text in the menu that is open, with the keyboard.
+void ChooseFromMenu(const QString& text);
+
 /// Clicks the button with the mouse.
 void ClickButton(const QWidget* widget, const QString& text);
