@@ -1,19 +1,19 @@
 # cmake -D SOURCE=<folder with src/> -D QT_HEADERS=<Qt's include folder> -P layers.cmake
 #
-# Reads every #include below src/ and fails on one that the table of layers forbids, on a
+# Reads every #include below src/ and fails on one that points down the table of folders, on a
 # folder that the table does not know, and on file names that are not lower case.
 
 cmake_policy(SET CMP0057 NEW) # if(IN_LIST)
 cmake_policy(SET CMP0054 NEW) # quoted texts in if() are texts
 include(${CMAKE_CURRENT_LIST_DIR}/../../cmake/Layers.cmake)
 
-# Layers from the bottom to the top; the program stands above all.
-set(ORDER core plot ui program)
 # Modules of Qt that bring Widgets along: for ui alone.
 set(WIDGET_MODULES QtWidgets QtOpenGL QtPrintSupport QtSvg)
 # Files that stand in src/ itself.
 set(LAYER_OF_main.cpp program)
 set(LAYER_OF_nowidgets.cpp core)
+set(PLACE_OF_main.cpp 1000) # above all folders
+set(PLACE_OF_nowidgets.cpp 0)
 
 set(FAULTS 0)
 function(fault TEXT)
@@ -22,12 +22,15 @@ function(fault TEXT)
   set(FAULTS ${FAULTS} PARENT_SCOPE)
 endfunction()
 
-macro(layer_of_file FILE OUT)
+# The layer of a file and the place of its folder in the order of all folders.
+macro(place_file FILE LAYER PLACE)
   get_filename_component(folder ${FILE} DIRECTORY)
   if(folder STREQUAL "")
-    set(${OUT} "${LAYER_OF_${FILE}}")
+    set(${LAYER} "${LAYER_OF_${FILE}}")
+    set(${PLACE} "${PLACE_OF_${FILE}}")
   else()
-    skerrymoor_layer_of(${folder} ${OUT})
+    skerrymoor_layer_of(${folder} ${LAYER})
+    skerrymoor_place_of(${folder} ${PLACE})
   endif()
 endmacro()
 
@@ -46,18 +49,17 @@ function(is_widget_header HEADER OUT)
   endforeach()
 endfunction()
 
-function(check_own_include FILE LAYER HEADER)
+function(check_own_include FILE LAYER PLACE HEADER)
   if(HEADER MATCHES "\\.moc$")
     return()
   endif()
   if(NOT DEFINED "HEADER_${HEADER}")
     fault("${FILE}: no file in src/ is called ${HEADER}")
   else()
-    layer_of_file(${HEADER_${HEADER}} included)
-    list(FIND ORDER "${LAYER}" own)
-    list(FIND ORDER "${included}" other)
-    if(other GREATER own)
-      fault("${FILE}: ${LAYER} must not include ${HEADER} of ${included}")
+    place_file(${HEADER_${HEADER}} layer place)
+    if(place GREATER PLACE)
+      get_filename_component(folder ${HEADER_${HEADER}} DIRECTORY)
+      fault("${FILE}: ${LAYER} must not include ${HEADER} of ${layer}, ${folder} comes later")
     endif()
   endif()
   set(FAULTS ${FAULTS} PARENT_SCOPE)
@@ -78,7 +80,7 @@ function(check_system_include FILE LAYER HEADER)
 endfunction()
 
 function(check_file FILE)
-  layer_of_file(${FILE} layer)
+  place_file(${FILE} layer place)
   if("${layer}" STREQUAL "")
     fault("${FILE}: its folder is not in the table of layers")
   endif()
@@ -90,7 +92,7 @@ function(check_file FILE)
   file(STRINGS ${SOURCE}/src/${FILE} lines REGEX "^[ \t]*#[ \t]*include[ \t]*[<\"]")
   foreach(line IN LISTS lines)
     if(line MATCHES "include[ \t]*\"([^\"]+)\"")
-      check_own_include(${FILE} "${layer}" ${CMAKE_MATCH_1})
+      check_own_include(${FILE} "${layer}" "${place}" ${CMAKE_MATCH_1})
     elseif(line MATCHES "include[ \t]*<([^>]+)>")
       check_system_include(${FILE} "${layer}" ${CMAKE_MATCH_1})
     endif()
