@@ -11,6 +11,9 @@ public:
     virtual void SetLabelText(const QString& text) = 0;
     virtual void SetRange(int minimum, int maximum) = 0;
     virtual void SetValue(int value) = 0;
+    /// Whether whoever waits wants the work to end early. Work that can stop asks after each
+    /// SetValue, leaves everything as it was before and says in its result that it stopped.
+    virtual bool IsStopRequested() const { return false; }
 };
 
 /// Progress nobody looks at.
