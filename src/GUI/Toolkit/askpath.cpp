@@ -1,18 +1,14 @@
 #include "askpath.h"
 
+#include "modaldialog.h"
 #include <QFileDialog>
-#include <QPointer>
 
 QString AskSavePath(QWidget* parent, const QString& title, const QString& filter,
                     const QString& proposal)
 {
-    // On the heap: the parent may take the dialog with it.
-    const QPointer<QFileDialog> dialog(new QFileDialog(parent, title, QString(), filter));
+    ModalDialog<QFileDialog> dialog(parent, title, QString(), filter);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->selectFile(proposal);
     dialog->setDefaultSuffix(filter.section(QLatin1Char('.'), -1).remove(QLatin1Char(')')));
-    const bool isAccepted = dialog->exec() == QDialog::Accepted;
-    QString path = isAccepted && dialog ? dialog->selectedFiles().value(0) : QString();
-    delete dialog;
-    return path;
+    return dialog.IsAccepted() ? dialog->selectedFiles().value(0) : QString();
 }

@@ -3,6 +3,7 @@
 #include "addcollectionform.h"
 #include "databasemessages.h"
 #include "databasequery.h"
+#include "modaldialog.h"
 #include "templaterows.h"
 #include "viewpatternform.h"
 #include <QLabel>
@@ -122,4 +123,9 @@ void DatabaseControlPanel::deletePattern()
     if (DeleteCurrentRow(*m_Patterns, &PatternsDataObject::DeletePattern, tr("Pattern Deleted"),
                          tr("Pattern succesfully deleted")))
         populatePatternsList(m_Collections->GetCurrentItem());
+}
+
+void ShowTemplateDatabase(const SharedRecording&, QWidget* parent)
+{
+    ModalDialog<DatabaseControlPanel>(parent).Run();
 }
