@@ -79,15 +79,21 @@ void CommandPalette::showMatches(const QString& letters)
         auto* item = new QTreeWidgetItem(
             {entry.m_Title, place, entry.m_Keys.toString(QKeySequence::NativeText)});
         item->setData(TITLE, entryRole, index);
-        if (!entry.m_Obstacle.isEmpty()) {
-            item->setText(PLACE, entry.m_Obstacle);
-            item->setDisabled(true);
-        }
+        if (!entry.m_Obstacle.isEmpty())
+            showObstacle(*item, entry.m_Obstacle);
         m_List->addTopLevelItem(item);
     }
     m_List->setCurrentItem(m_List->topLevelItem(0));
     m_List->resizeColumnToContents(TITLE);
     m_List->resizeColumnToContents(PLACE);
+}
+
+// Greyed out, but still to be stopped at: Enter must not run the next tool in its place.
+void CommandPalette::showObstacle(QTreeWidgetItem& item, const QString& obstacle) const
+{
+    item.setText(PLACE, obstacle);
+    for (int column = 0; column < COLUMN_COUNT; ++column)
+        item.setForeground(column, palette().color(QPalette::Disabled, QPalette::Text));
 }
 
 void CommandPalette::choose()
@@ -99,9 +105,10 @@ void CommandPalette::choose()
 std::function<void()> CommandPalette::GetChoice() const
 {
     const QTreeWidgetItem* item = m_List->currentItem();
-    if (!item || item->isDisabled())
+    if (!item)
         return {};
-    return m_Entries[size_t(item->data(TITLE, entryRole).toInt())].m_Run;
+    const Entry& entry = m_Entries[size_t(item->data(TITLE, entryRole).toInt())];
+    return entry.m_Obstacle.isEmpty() ? entry.m_Run : nullptr;
 }
 
 bool CommandPalette::eventFilter(QObject* watched, QEvent* event)

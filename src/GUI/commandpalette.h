@@ -7,6 +7,7 @@
 
 class QLineEdit;
 class QTreeWidget;
+class QTreeWidgetItem;
 
 /// Finds one of many tools by a few letters of its name. Tools that are not possible now are shown
 /// with what they wait for, and cannot be chosen.
@@ -35,6 +36,7 @@ protected:
 
 private:
     void showMatches(const QString& letters);
+    void showObstacle(QTreeWidgetItem& item, const QString& obstacle) const;
     void choose();
 
     const std::vector<Entry> m_Entries;
