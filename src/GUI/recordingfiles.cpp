@@ -1,7 +1,6 @@
 #include "recordingfiles.h"
 
-#include "askattribute.h"
-#include "askpath.h"
+#include "askuser.h"
 #include "dataexport.h"
 #include "groundtruithbehaviorcollection.h"
 #include "groundtruithinstance.h"
@@ -11,7 +10,6 @@
 #include "usererror.h"
 #include "waitcursor.h"
 #include <QFileDialog>
-#include <QInputDialog>
 
 namespace
 {
@@ -54,12 +52,7 @@ void RecordingFiles::ExportSummaryLabels(LiveRecording* recording)
                               tr("Write Label Collection (Data - Seperate Files)"),
                               tr("Write Label Collection (Data - Combined)"),
                               tr("Write Data Aligned With Behaviors")};
-    bool isChosen = false;
-    const QString format = QInputDialog::getItem(m_Window, tr("Export Labels"), tr("Format:"),
-                                                 formats, 0, false, &isChosen);
-    if (!isChosen)
-        return;
-    switch (formats.indexOf(format)) {
+    switch (AskChoice(m_Window, tr("Export Labels"), tr("Format:"), formats)) {
     case 0:
         exportSummary(*recording);
         break;
@@ -69,8 +62,11 @@ void RecordingFiles::ExportSummaryLabels(LiveRecording* recording)
     case 2:
         exportToFolder(*recording, false);
         break;
-    default:
+    case 3:
         exportAligned(*recording);
+        break;
+    default:
+        break;
     }
 }
 

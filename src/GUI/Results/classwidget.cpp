@@ -1,8 +1,8 @@
 #include "classwidget.h"
 
+#include "askuser.h"
 #include "cutcollection.h"
 #include "labellinegraphwidget.h"
-#include "modaldialog.h"
 #include "multiplelineplotwidget.h"
 #include "panelbutton.h"
 #include "segmentviews.h"

@@ -1,8 +1,7 @@
 #include "labeleddatatabwidget.h"
 
 #include "addgroupdialog.h"
-#include "askattribute.h"
-#include "askpath.h"
+#include "askuser.h"
 #include "behaviorclassstatisticswidget.h"
 #include "classwidget.h"
 #include "labelwriter.h"

@@ -36,10 +36,3 @@ public:
 private:
     const QPointer<Dialog> m_Dialog;
 };
-
-/// Asks a question that is answered by Yes or No.
-bool AskYesNo(QWidget* parent, const QString& title, const QString& question);
-
-/// Asks for one of several texts, which are not edited; -1 when the user cancels.
-int AskChoice(QWidget* parent, const QString& title, const QString& label,
-              const QStringList& choices);

@@ -1,6 +1,9 @@
-#include "modaldialog.h"
+#include "askuser.h"
 
+#include "dataset.h"
+#include "modaldialog.h"
 #include <QComboBox>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -23,4 +26,20 @@ int AskChoice(QWidget* parent, const QString& title, const QString& label,
     // By its place in the box: two choices may have one name.
     const auto* box = dialog->findChild<QComboBox*>();
     return box ? box->currentIndex() : -1;
+}
+
+int AskAttribute(QWidget* parent, const DataSet& data)
+{
+    return AskChoice(parent, QInputDialog::tr("Attribute to export"),
+                     QInputDialog::tr("Attribute: "), data.GetAttributeNames());
+}
+
+QString AskSavePath(QWidget* parent, const QString& title, const QString& filter,
+                    const QString& proposal)
+{
+    ModalDialog<QFileDialog> dialog(parent, title, QString(), filter);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->selectFile(proposal);
+    dialog->setDefaultSuffix(filter.section(QLatin1Char('.'), -1).remove(QLatin1Char(')')));
+    return dialog.IsAccepted() ? dialog->selectedFiles().value(0) : QString();
 }
