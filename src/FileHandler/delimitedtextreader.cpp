@@ -13,8 +13,6 @@ namespace
 
 constexpr int mostWarnings = 10;
 constexpr int progressStep = 100;
-// Files of nothing but line feeds should not claim memory for rows that never come.
-constexpr qint64 mostRowsReserved = qint64(1) << 24;
 
 bool isBlankLine(std::string_view line)
 {
@@ -110,14 +108,17 @@ bool DelimitedTextReader::Read(QIODevice& device, Progress& progress)
                 line, [&](std::string_view field) { numbers.push_back(NumberFromText(field)); });
         return int(numbers.size());
     };
+    std::vector<DataColumn> columns;
     const auto addRow = [&] {
-        auto row = std::make_unique<DataRow>();
-        row->SetValues(numbers.data(), int(numbers.size()));
-        m_DataSet->SetAttributeCount(int(numbers.size()));
-        m_DataSet->AddRow(row.release());
+        columns.resize(numbers.size());
+        for (size_t i = 0; i < numbers.size(); ++i)
+            columns[i].Append(numbers[i]);
         return true;
     };
-    return readRows(device, progress, split, addRow);
+    const bool isRead = readRows(device, progress, split, addRow);
+    if (m_DataSet)
+        m_DataSet->TakeColumns(std::move(columns));
+    return isRead;
 }
 
 bool DelimitedTextReader::ReadColumn(QIODevice& device, int column, QStringList& texts)
@@ -161,7 +162,6 @@ bool DelimitedTextReader::readRows(QIODevice& device, Progress& progress, const 
     for (int i = 0; i < m_Settings.startRow && text.Next(content); ++i)
         progress.SetValue(i + 1);
     m_DataSet = std::make_unique<DataSet>();
-    m_DataSet->ReserveRows(int(std::min(lines, mostRowsReserved)));
     qint64 line = m_Settings.startRow;
     int width = 0;
     while (text.Next(content)) {

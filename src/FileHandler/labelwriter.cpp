@@ -59,7 +59,7 @@ bool isFileName(const QString& name)
 QString rowLabel(const DataSet& data, int row)
 {
     const int last = data.GetRowCount() - 1;
-    return last < 0 ? QString() : data.GetRow(std::clamp(row, 0, last))->GetLabel();
+    return last < 0 ? QString() : data.GetRowLabel(std::clamp(row, 0, last));
 }
 
 template <typename Visit>
@@ -78,7 +78,7 @@ bool writeDataFile(const QString& path, const DataSet& data, const Segments& seg
         out << "\t\n";
         for (const CutSegment* segment : segments) {
             forEachRow(data, *segment, [&](int row) {
-                WriteLabelledRow(out, *data.GetRow(row), '\t');
+                WriteLabelledRow(out, data, row, '\t');
                 out << "\t\n";
             });
         }
@@ -228,7 +228,7 @@ bool LabelWriter::WriteAligned(const LabelCollection* labels)
         WriteAttributeNames(out, *m_DataSet, ',');
         out << ",Behavior\n";
         for (int row = 0; row < m_DataSet->GetRowCount(); ++row) {
-            WriteLabelledRow(out, *m_DataSet->GetRow(row), ',');
+            WriteLabelledRow(out, *m_DataSet, row, ',');
             out << ',' << behaviors[size_t(row)] << '\n';
         }
     }));

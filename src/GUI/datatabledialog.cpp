@@ -126,10 +126,10 @@ void DataTableDialog::fillTable()
     m_Table->setRowCount(end - m_From);
     QStringList labels;
     for (int row = m_From; row < end; ++row) {
-        const DataRow* values = m_DataSet->GetRow(row);
-        labels.append(values->GetLabel());
+        labels.append(m_DataSet->GetRowLabel(row));
         for (int attribute = 0; attribute < m_DataSet->GetAttributeCount(); ++attribute)
-            m_Table->setItem(row - m_From, attribute, makeCell(values->GetValue(attribute)));
+            m_Table->setItem(row - m_From, attribute,
+                             makeCell(m_DataSet->GetValue(row, attribute)));
     }
     m_Table->setVerticalHeaderLabels(labels);
     m_Table->scrollToTop();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "constspan.h"
 #include "pipsegment.h"
 #include <vector>
 
@@ -11,9 +12,10 @@
 class PIPEvaluator
 {
 public:
-    PIPEvaluator(std::vector<double> values, int measure);
+    /// values: not copied.
+    PIPEvaluator(ConstSpan<double> values, int measure);
 
-    int GetRowCount() const { return int(m_Values.size()); }
+    int GetRowCount() const { return m_Values.size(); }
     /// Leaves the rows around a split out of what is evaluated from now on: up to two in front,
     /// itself and one behind.
     void MaskAround(int row);
@@ -34,7 +36,7 @@ private:
     };
     static constexpr int BlockRows = 256;
 
-    static std::vector<Block> makeBlocks(const std::vector<double>& values);
+    static std::vector<Block> makeBlocks(ConstSpan<double> values);
     template <class Distance>
     void search(PIPSegment& segment) const;
     template <class Distance>
@@ -42,7 +44,7 @@ private:
     template <class Distance>
     void searchRows(const Span& span, const Distance& distance, PIPSegment& segment) const;
 
-    std::vector<double> m_Values;
+    ConstSpan<double> m_Values;
     std::vector<Block> m_Blocks;
     std::vector<char> m_Mask;
     int m_Measure;

@@ -12,4 +12,4 @@
 /// values: any unit, any size; not-a-number and infinities count as in a sum of their window.
 /// window: 0 divides by zero; below 0 it takes the row alone, as 0 and 1 do.
 /// The time does not depend on the window.
-Column MovingAverage(Column values, int window);
+DataColumn MovingAverage(ConstSpan<double> values, int window);

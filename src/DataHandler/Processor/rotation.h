@@ -7,5 +7,5 @@
 /// axis and that by one of minus roll about the y axis.
 ///
 /// vector: any unit, lengths are kept. pitch, roll: attributes in degrees, of any size.
-std::vector<Column> RotateVector(const DataSet& data, const VectorAttributes& vector, int pitch,
-                                 int roll);
+std::vector<DataColumn> RotateVector(const DataSet& data, const VectorAttributes& vector, int pitch,
+                                     int roll);

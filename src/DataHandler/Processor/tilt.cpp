@@ -2,13 +2,14 @@
 
 #include <cmath>
 
-std::vector<Column> PitchAndRoll(const DataSet& data, const VectorAttributes& acceleration)
+std::vector<DataColumn> PitchAndRoll(const DataSet& data, const VectorAttributes& acceleration)
 {
     constexpr double pi = 3.141592653589793;
-    return DeriveColumns<2>(data, [=](const double* row) {
-        const double x = row[acceleration.m_X];
-        const double y = row[acceleration.m_Y];
-        const double z = row[acceleration.m_Z];
+    const VectorColumns axes(data, acceleration);
+    return DeriveColumns<2>(data.GetRowCount(), [=](int row) {
+        const double x = axes.m_X[row];
+        const double y = axes.m_Y[row];
+        const double z = axes.m_Z[row];
         return std::array<double, 2>{std::atan2(y, std::sqrt(x * x + z * z)) * 180 / pi,
                                      std::atan2(x, std::sqrt(y * y + z * z)) * 180 / pi};
     });

@@ -8,4 +8,4 @@
 ///
 /// acceleration: static acceleration in any unit; while the body accelerates by itself the angles
 /// are off.
-std::vector<Column> PitchAndRoll(const DataSet& data, const VectorAttributes& acceleration);
+std::vector<DataColumn> PitchAndRoll(const DataSet& data, const VectorAttributes& acceleration);

@@ -13,16 +13,16 @@ class WindowSums
 {
 public:
     /// length: values in a whole window, 1 or more.
-    WindowSums(Column values, int length);
+    WindowSums(DataColumn&& values, int length);
 
     /// The sum of the values from up to, but without, to; from < to. That is a whole window, or
     /// one cut off by the start (from is 0) or the end (to is the size) of the column.
     double Sum(int from, int to) const;
 
 private:
-    void addUpBlock(size_t start, size_t end);
+    void addUpBlock(int start, int end);
 
     int m_Length;
-    Column m_FromBlockStart;
-    Column m_ToBlockEnd;
+    DataColumn m_FromBlockStart;
+    DataColumn m_ToBlockEnd;
 };

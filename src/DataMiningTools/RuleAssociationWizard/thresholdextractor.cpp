@@ -59,9 +59,8 @@ void ThresholdExtractor::Extract(Progress& progress)
 
 bool ThresholdExtractor::isMetByRow(int row) const
 {
-    const double* values = m_DataSet->GetRow(row)->GetValues();
     for (const ThresholdParameter& parameter : m_Parameters) {
-        if (!parameter.IsMetBy(values[parameter.m_Attribute]))
+        if (!parameter.IsMetBy(m_DataSet->GetValue(row, parameter.m_Attribute)))
             return false;
     }
     return true;

@@ -71,12 +71,12 @@ private:
     bool hasData() const;
     bool hasAttributes(std::initializer_list<int> attributes) const;
     bool hasVector(const VectorAttributes& vector) const;
-    /// Enters a new attribute, its values are the caller's work; its index.
-    int addAttribute(const QString& name);
-    int addColumn(const QString& name, const Column& column);
+    /// The index of the new attribute.
+    int addColumn(const QString& name, DataColumn&& column);
     // Compute and add, take the ranges anew and return true.
-    bool finishWith(const QString& name, const std::function<Column()>& compute);
-    bool finishWith(const QStringList& names, const std::function<std::vector<Column>()>& compute);
+    bool finishWith(const QString& name, const std::function<DataColumn()>& compute);
+    bool finishWith(const QStringList& names,
+                    const std::function<std::vector<DataColumn>()>& compute);
     QStringList namesOf(const VectorAttributes& vector, const QString& ending) const;
 
     QWidget* m_Parent;

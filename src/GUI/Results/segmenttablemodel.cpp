@@ -135,5 +135,5 @@ QString SegmentTableModel::rowLabel(int row) const
     if (rows == 0)
         return QString::number(row);
     // A segment ends before its end row, which the last one of a recording does not even have.
-    return m_DataSet->GetRow(qBound(0, row, rows - 1))->GetLabel();
+    return m_DataSet->GetRowLabel(qBound(0, row, rows - 1));
 }

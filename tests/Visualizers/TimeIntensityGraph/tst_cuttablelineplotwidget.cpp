@@ -69,7 +69,7 @@ void TestCuttableLinePlotWidget::init()
     for (int i = 0; i <= 96; ++i) {
         auto* row = new DataRow;
         row->AddValue(i % 2);
-        row->SetNumberLabel(i + 1);
+        row->SetLabel(QString::number(i + 1));
         m_Data->AddRow(row);
     }
     m_Data->ComputeRanges();
