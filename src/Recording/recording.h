@@ -1,5 +1,6 @@
 #pragma once
 
+#include "attributecolumns.h"
 #include "cutcollection.h"
 #include "labelcollection.h"
 #include "labelling.h"
@@ -18,10 +19,12 @@ public:
     DataSet* GetDataSet() const { return m_DataSet.get(); }
     CutCollection* GetCutCollection() { return &m_CutCollection; }
     LabelCollection* GetLabelCollection() { return &m_LabelCollection; }
+    AttributeColumns& GetColumns() { return m_Columns; }
     Labelling GetLabelling() { return {&m_CutCollection, &m_LabelCollection}; }
 
 private:
     std::unique_ptr<DataSet> m_DataSet;
+    AttributeColumns m_Columns;
     CutCollection m_CutCollection;
     LabelCollection m_LabelCollection;
 };

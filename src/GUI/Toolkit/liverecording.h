@@ -39,6 +39,8 @@ public:
     DataSet* GetDataSet() const { return m_Recording.GetDataSet(); }
     CutCollection* GetCutCollection() { return m_Recording.GetCutCollection(); }
     LabelCollection* GetLabelCollection() { return m_Recording.GetLabelCollection(); }
+    /// Whoever adds or removes attributes here tells it.
+    AttributeColumns& GetColumns() { return m_Recording.GetColumns(); }
     Labelling GetLabelling() { return m_Recording.GetLabelling(); }
 
     /// Tells each kind by its signal, attributes first: who shows segments reads them.
