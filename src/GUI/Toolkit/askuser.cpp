@@ -7,6 +7,11 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
+void TellUser(QWidget* parent, const QString& title, const QString& text)
+{
+    ModalDialog<QMessageBox>(QMessageBox::Information, title, text, QMessageBox::Ok, parent).Run();
+}
+
 bool AskYesNo(QWidget* parent, const QString& title, const QString& question)
 {
     ModalDialog<QMessageBox> box(QMessageBox::Question, title, question,

@@ -6,8 +6,11 @@
 class DataSet;
 class QWidget;
 
-// Questions that a window asks. Each runs a modal dialog over its parent, which may go away
+// What a window asks and tells. Each runs a modal dialog over its parent, which may go away
 // meanwhile: that counts as cancelled.
+
+/// Tells of a success until the user closes the box.
+void TellUser(QWidget* parent, const QString& title, const QString& text);
 
 /// Asks a question that is answered by Yes or No.
 bool AskYesNo(QWidget* parent, const QString& title, const QString& question);
