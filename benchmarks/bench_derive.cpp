@@ -56,6 +56,8 @@ void firstColumn(benchmark::State& state)
     for (auto _ : state) {
         state.PauseTiming();
         auto data = MakeRecording(rows, columns);
+        // As after an import.
+        data->ComputeRanges();
         state.ResumeTiming();
         data->AddColumn(QStringLiteral("VeDBA"), ATTRIBUTE_OTHER, Vedba(*data, acceleration));
         data->ComputeRanges();

@@ -9,20 +9,21 @@
 namespace
 {
 
-// Long columns are walked from end to end: fewer and larger pages make that, and the first writing,
-// quicker. Only a wish, the system may refuse.
-void askForLargePages(void* memory, size_t bytes)
+// A column that is written at once from end to end fills large pages quicker than small ones. Only
+// a wish, the system may refuse.
+void askForLargePages(double* memory, int count)
 {
 #ifdef Q_OS_LINUX
     constexpr size_t page = 4096;
-    constexpr size_t worthwhile = size_t(4) << 20;
-    if (bytes < worthwhile)
+    constexpr int worthwhile = 1 << 19;
+    if (count < worthwhile)
         return;
     const size_t skipped = page - reinterpret_cast<quintptr>(memory) % page;
-    madvise(static_cast<char*>(memory) + skipped, bytes - skipped, MADV_HUGEPAGE);
+    madvise(reinterpret_cast<char*>(memory) + skipped, size_t(count) * sizeof(double) - skipped,
+            MADV_HUGEPAGE);
 #else
     Q_UNUSED(memory)
-    Q_UNUSED(bytes)
+    Q_UNUSED(count)
 #endif
 }
 
@@ -31,6 +32,7 @@ void askForLargePages(void* memory, size_t bytes)
 DataColumn::DataColumn(int size)
 {
     Resize(size);
+    askForLargePages(data(), size);
 }
 
 DataColumn::DataColumn(int size, double value) : DataColumn(size)
@@ -86,5 +88,4 @@ void DataColumn::allocate(int capacity)
     static_cast<void>(m_Values.release());
     m_Values.reset(values);
     m_Capacity = capacity;
-    askForLargePages(values, bytes);
 }

@@ -5,8 +5,8 @@
 namespace
 {
 
-// Extremes of several values side by side do not wait for one another.
-constexpr int lanes = 16;
+// Extremes of many values side by side do not wait for one another, and are found several at once.
+constexpr int lanes = 64;
 
 struct Extremes {
     double m_Lowest[lanes];

@@ -57,7 +57,8 @@ bool FileImporter::openFile(QFile& file)
         return false;
     }
     // A folder or a device has no end or no bytes to read.
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    if (!QFileInfo(file).isFile() ||
+        !file.open(QIODevice::ReadOnly | QIODevice::Text | QIODevice::Unbuffered)) {
         m_Error = QStringLiteral("Can't open file");
         return false;
     }

@@ -1,6 +1,7 @@
 #include "columnarithmetic.h"
 #include "correlation.h"
 #include "derivative.h"
+#include "elevationangle.h"
 #include "energy.h"
 #include "movingaverage.h"
 #include "normalize.h"
@@ -76,6 +77,7 @@ private slots:
     void arithmetic();
     void derivativeLeavesRaggedRows();
     void normalizeEqualValues();
+    void elevationAngles();
     void whaleAngles();
     void whaleNumbers();
     void rotation();
@@ -164,6 +166,30 @@ void TestDerivedColumns::normalizeEqualValues()
     compareColumns(Normalize({}), {});
     compareColumns(Normalize(Values{1, infinity}), {missing, missing});
     compareColumns(Normalize(Values{1e8 + 1, 1e8 - 1}), {1, -1});
+}
+
+// The standard library's arc tangent knows the angles; two units in the last place are allowed.
+void TestDerivedColumns::elevationAngles()
+{
+    const auto check = [](double rise, double run) {
+        const double expected = std::atan2(rise, run);
+        const double angle = ElevationAngle(rise, run);
+        QCOMPARE(std::signbit(angle), std::signbit(expected));
+        compareNumbers({angle}, {expected}, std::abs(expected) * 4.5e-16);
+    };
+    const double tan1 = std::tan(std::atan(1.0) / 2);
+    for (const double rise : {0.0, 1.0, 1e-300, tan1, 1 / tan1, 1e150, infinity}) {
+        for (const double run : {0.0, 1.0, 1e-300, tan1, 1e150}) {
+            check(rise, run);
+            check(-rise, run);
+        }
+        QCOMPARE(ElevationAngle(rise, infinity), rise == infinity ? std::atan(1.0) : 0.0);
+    }
+    compareNumbers({ElevationAngle(missing, 1), ElevationAngle(1, missing)}, {missing, missing});
+    std::mt19937 random(5);
+    std::normal_distribution<double> wiggle;
+    for (int i = 0; i < 100000; ++i)
+        check(wiggle(random), std::ldexp(std::abs(wiggle(random)), i % 40 - 20));
 }
 
 void TestDerivedColumns::whaleAngles()
