@@ -15,6 +15,8 @@ constexpr double columnsPerPixel = 8;
 // stroke in their place would be darker.
 constexpr double mostFlatRows = 48;
 constexpr int mostChanges = 2;
+// How often the rows between the first gap of a column and the last one are split again.
+constexpr int mostSplits = 4;
 // Below this, reading the rows is as quick as having a summary made.
 constexpr int longRecording = 1 << 17;
 
@@ -76,23 +78,41 @@ void LineReduction::appendColumn(std::vector<LinePoint>& points, const RowSpan& 
     else if (isFlat)
         appendRows(points, rows);
     else if (contents.m_Extremes.m_HasGap)
-        appendBrokenColumn(points, rows);
+        appendPieces(points, rows, mostSplits);
     else
         appendStroke(points, rows, contents);
 }
 
-void LineReduction::appendBrokenColumn(std::vector<LinePoint>& points, const RowSpan& rows) const
+// Both the first and the last row are finite unless there are splits left.
+void LineReduction::appendPieces(std::vector<LinePoint>& points, const RowSpan& rows,
+                                 int splits) const
 {
-    int head = rows.m_From;
-    while (std::isfinite(value(head)))
-        ++head;
-    int tail = rows.m_To;
-    while (std::isfinite(value(tail - 1)))
-        --tail;
-    for (const RowSpan& piece : {RowSpan{rows.m_From, head}, {head, tail}, {tail, rows.m_To}}) {
-        if (!piece.IsEmpty())
-            appendStroke(points, piece, readRows(piece));
+    const int head = findChange(rows.m_From, rows.m_To, true);
+    if (head == rows.m_To || splits == 0) {
+        appendStroke(points, rows, readRows(rows));
+        return;
     }
+    const int tail = findChange(rows.m_To - 1, head, true) + 1;
+    const int first = findChange(head, tail, false);
+    if (rows.m_From < head)
+        appendStroke(points, {rows.m_From, head}, readRows({rows.m_From, head}));
+    appendBreak(points);
+    if (first < tail) {
+        appendPieces(points, {first, findChange(tail - 1, first, false) + 1}, splits - 1);
+        appendBreak(points);
+    }
+    if (tail < rows.m_To)
+        appendStroke(points, {tail, rows.m_To}, readRows({tail, rows.m_To}));
+}
+
+// On the way from one row to another the first that is not finite, or not missing, like those
+// before it; the other row, which is not looked at, when there is none.
+int LineReduction::findChange(int from, int to, bool isFinite) const
+{
+    const int step = from <= to ? 1 : -1;
+    while (from != to && std::isfinite(value(from)) == isFinite)
+        from += step;
+    return from;
 }
 
 void LineReduction::appendStroke(std::vector<LinePoint>& points, const RowSpan& rows,
@@ -100,19 +120,12 @@ void LineReduction::appendStroke(std::vector<LinePoint>& points, const RowSpan& 
 {
     const ColumnExtremes& found = contents.m_Extremes;
     const int jump = contents.m_JumpRow;
-    appendRows(points, {rows.m_From, rows.m_From + 1});
+    points.push_back({rows.m_From, value(rows.m_From)});
     std::array<int, 4> chosen{found.m_LowRow, found.m_HighRow, jump, jump + 1};
     const auto end = chosen.begin() + (jump < 0 ? 2 : 4);
     std::sort(chosen.begin(), end);
-    std::for_each(chosen.begin(), end, [&](int row) {
-        if (row >= 0)
-            appendLater(points, row, value(row));
-    });
-    const double last = value(rows.m_To - 1);
-    if (std::isfinite(last))
-        appendLater(points, rows.m_To - 1, last);
-    else
-        appendBreak(points);
+    std::for_each(chosen.begin(), end, [&](int row) { appendLater(points, row, value(row)); });
+    appendLater(points, rows.m_To - 1, value(rows.m_To - 1));
 }
 
 bool LineReduction::canSummarize(const RowSpan& rows, double columnRows) const

@@ -20,8 +20,7 @@ struct LinePoint {
 ///
 /// Rows are grouped into columns much narrower than a pixel, of which the line takes the first, the
 /// lowest, the highest and the last row, and both rows of a jump that makes up the column. Rows
-/// without a finite value break the line, also inside a column: what stands before the first gap
-/// and behind the last one there are pieces of their own.
+/// without a finite value break the line, also inside a column, unless it has more gaps than a few.
 class LineReduction
 {
 public:
@@ -46,12 +45,13 @@ private:
     };
 
     double value(int row) const;
+    int findChange(int from, int to, bool isFinite) const;
     bool canSummarize(const RowSpan& rows, double columnRows) const;
     Contents readColumn(const RowSpan& rows, double columnRows) const;
     Contents readRows(const RowSpan& rows) const;
     void appendRows(std::vector<LinePoint>& points, const RowSpan& rows) const;
     void appendColumn(std::vector<LinePoint>& points, const RowSpan& rows, double columnRows) const;
-    void appendBrokenColumn(std::vector<LinePoint>& points, const RowSpan& rows) const;
+    void appendPieces(std::vector<LinePoint>& points, const RowSpan& rows, int splits) const;
     void appendStroke(std::vector<LinePoint>& points, const RowSpan& rows,
                       const Contents& contents) const;
 
