@@ -239,14 +239,14 @@ QString MainWindow::obstacleOf(const Tool& tool) const
 
 void MainWindow::openFile()
 {
-    setRecording(nullptr);
+    SetRecording(nullptr);
     ModalDialog<FileImportWizard> wizard(this);
     if (wizard.IsAccepted() && wizard->GetDataSet())
-        setRecording(
+        SetRecording(
             std::make_shared<LiveRecording>(std::unique_ptr<DataSet>(wizard->GetDataSet())));
 }
 
-void MainWindow::setRecording(SharedRecording recording)
+void MainWindow::SetRecording(SharedRecording recording)
 {
     // The views let go of the old one before it may be freed.
     showRecording(nullptr);

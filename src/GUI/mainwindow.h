@@ -30,6 +30,9 @@ public:
 
     /// Null without one.
     const SharedRecording& GetRecording() const { return m_Recording; }
+    /// Shows a recording in place of the one before, in all views and without plots; null shows
+    /// none.
+    void SetRecording(SharedRecording recording);
 
 public slots:
     void showDataTable();
@@ -84,7 +87,6 @@ private:
     void addToolAction(const Tool& tool);
     void buildToolBar();
     QString obstacleOf(const Tool& tool) const;
-    void setRecording(SharedRecording recording);
     void showRecording(LiveRecording* recording);
     void enableActions();
 
