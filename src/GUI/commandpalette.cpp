@@ -56,6 +56,7 @@ CommandPalette::CommandPalette(std::vector<Entry> entries, QWidget* parent)
     connect(m_Letters, &QLineEdit::returnPressed, this, &CommandPalette::choose);
     connect(m_List, &QTreeWidget::itemClicked, this, &CommandPalette::choose);
     showMatches({});
+    m_Letters->setFocus();
 }
 
 void CommandPalette::showMatches(const QString& letters)

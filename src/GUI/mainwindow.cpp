@@ -49,7 +49,7 @@ MainWindow::MainWindow(QWidget* parent)
           new PlotNavigator(m_ScrollArea, m_LinePlot, m_OverviewTimeline, m_ZoomWidget, this)),
       m_SegmentEditor(std::make_unique<SegmentEditor>(this, m_LinePlot)),
       m_Files(std::make_unique<RecordingFiles>(this)),
-      m_SurveyResultWriter(std::make_unique<SurveyResultWriter>()),
+      m_SurveyResultWriter(new SurveyResultWriter(this)),
       m_LabelBackup(std::make_unique<LabelBackup>(SettingsFolder() + QStringLiteral("backup"))),
       m_Tools(MakeTools({this, m_ResultWidget, m_LabeledDataTabWidget}))
 {
@@ -123,7 +123,7 @@ void MainWindow::connectLabelPane()
     connect(m_ResultWidget, &ResultWidget::ShowSelected, this, &MainWindow::showRange);
     connect(m_LabeledDataTabWidget, &LabeledDataTabWidget::ShowSelected, this,
             &MainWindow::showRange);
-    connect(m_ResultWidget, &ResultWidget::MoveResults, m_SurveyResultWriter.get(),
+    connect(m_ResultWidget, &ResultWidget::MoveResults, m_SurveyResultWriter,
             qOverload<const QString&>(&SurveyResultWriter::WriteLabels));
 }
 

@@ -102,7 +102,7 @@ private:
     PlotNavigator* m_Navigator;
     std::unique_ptr<SegmentEditor> m_SegmentEditor;
     std::unique_ptr<RecordingFiles> m_Files;
-    std::unique_ptr<SurveyResultWriter> m_SurveyResultWriter;
+    SurveyResultWriter* m_SurveyResultWriter;
     std::unique_ptr<LabelBackup> m_LabelBackup;
     std::unique_ptr<PatternsDataObject> m_SavedPattern;
 
