@@ -6,10 +6,12 @@
 #include "lineplotwidget.h"
 #include "mainwindow.h"
 #include "modalscript.h"
+#include "mousedrag.h"
 #include "multiplelineplotwidget.h"
 #include "overviewtimelinewidget.h"
 #include "resultwidget.h"
 #include "testdata.h"
+#include "timeaxis.h"
 #include <QAction>
 #include <QMenu>
 #include <QTabWidget>
@@ -19,9 +21,26 @@
 
 using Change = std::function<void(LiveRecording&)>;
 Q_DECLARE_METATYPE(Change)
+using Act = std::function<void(MainWindow&, ModalScript&)>;
+Q_DECLARE_METATYPE(Act)
 
 namespace
 {
+
+// Counts the times that a widget is painted on the screen.
+class PaintSpy : public QObject
+{
+public:
+    explicit PaintSpy(QWidget* widget) { widget->installEventFilter(this); }
+    int m_Count = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        m_Count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
 
 // What each view shows, as text; pictures by their checksum.
 using Shown = QMap<QString, QString>;
@@ -73,6 +92,8 @@ private slots:
     void cleanup();
     void everyViewFollows_data();
     void everyViewFollows();
+    void everyActionTellsOnce_data();
+    void everyActionTellsOnce();
 
 private:
     void openReference();
@@ -240,7 +261,14 @@ void TestLiveViews::everyViewFollows()
     QFETCH(Change, change);
     QFETCH(QStringList, changed);
     const Shown before = readViews();
+    QCoreApplication::processEvents();
+    PaintSpy graph(m_Window->findChild<CuttableLinePlotWidget*>());
+    PaintSpy overview(m_Window->findChild<OverviewTimelineWidget*>());
     change(*m_Recording);
+    QCoreApplication::processEvents();
+    // A picture taken of a widget is always new; what the user sees has to be painted for it.
+    QCOMPARE(graph.m_Count > 0, changed.contains(QStringLiteral("graph")));
+    QCOMPARE(overview.m_Count > 0, changed.contains(QStringLiteral("graph")));
     const Shown after = readViews();
     QStringList different;
     for (auto view = before.begin(); view != before.end(); ++view) {
@@ -248,6 +276,123 @@ void TestLiveViews::everyViewFollows()
             different.append(view.key());
     }
     QCOMPARE(different, changed);
+}
+
+void TestLiveViews::everyActionTellsOnce_data()
+{
+    using Window = MainWindow;
+    QTest::addColumn<Act>("act");
+    QTest::addColumn<QList<int>>("told"); // segments, labels, attributes
+    const auto add = [](const char* name, Act act, const QList<int>& told) {
+        QTest::newRow(name) << act << told;
+    };
+    const auto accept = [](QDialog* dialog) { dialog->accept(); };
+    const auto selectRows = [](Window& window) {
+        auto* plot = window.findChild<CuttableLinePlotWidget*>();
+        DragMouse(*plot, {int(plot->GetTimeAxis()->ToX(15)), 50},
+                  {int(plot->GetTimeAxis()->ToX(65)), 50});
+    };
+    const auto table = [](const Window& window, int panel) {
+        return window.findChildren<QTableView*>().at(panel);
+    };
+    add("cut",
+        [=](Window& window, ModalScript&) {
+            selectRows(window);
+            window.cutGraph();
+        },
+        {1, 0, 0});
+    add("merge cuts",
+        [=](Window& window, ModalScript&) {
+            selectRows(window);
+            window.mergeCuts();
+        },
+        {1, 1, 0});
+    add("remove labels",
+        [=](Window& window, ModalScript&) {
+            selectRows(window);
+            window.deleteSegment();
+        },
+        {1, 1, 0});
+    add("reject result",
+        [=](Window& window, ModalScript&) {
+            table(window, 0)->selectAll();
+            QTest::keyClick(table(window, 0), Qt::Key_Delete);
+        },
+        {1, 1, 0});
+    add("move all results",
+        [=](Window& window, ModalScript& user) {
+            user.Then(accept);
+            window.findChild<ResultWidget*>()->moveAllResults();
+        },
+        {1, 1, 0});
+    add("remove all results",
+        [=](Window& window, ModalScript&) {
+            window.findChild<ResultWidget*>()->removeAllResults();
+        },
+        {1, 1, 0});
+    add("reject label",
+        [=](Window& window, ModalScript&) {
+            table(window, 1)->selectAll();
+            QTest::keyClick(table(window, 1), Qt::Key_Delete);
+        },
+        {1, 1, 0});
+    add("add behaviour",
+        [=](Window& window, ModalScript&) {
+            window.findChild<LabeledDataTabWidget*>()->AddGroup(QStringLiteral("fly"));
+        },
+        {0, 1, 0});
+    add("edit behaviour",
+        [=](Window& window, ModalScript& user) {
+            user.Then(accept);
+            window.findChild<LabeledDataTabWidget*>()->editGroup();
+        },
+        {0, 1, 0});
+    add("delete behaviour",
+        [=](Window& window, ModalScript& user) {
+            user.Then([](QDialog* dialog) { ClickButton(dialog, QStringLiteral("Yes")); });
+            window.findChild<LabeledDataTabWidget*>()->deleteGroup();
+        },
+        {1, 1, 0});
+    add("merge labels",
+        [=](Window& window, ModalScript& user) {
+            user.Then([](QDialog* dialog) {
+                ClickButton(dialog, QStringLiteral("Compute"));
+                dialog->reject();
+            });
+            window.mergeLabels();
+        },
+        {1, 1, 0});
+    add("cut by itself",
+        [=](Window& window, ModalScript& user) {
+            user.Then(accept);
+            window.cutAutomationAttribute(2);
+        },
+        {1, 0, 0});
+    add("derive",
+        [=](Window& window, ModalScript& user) {
+            user.Then(accept);
+            window.processAttribute(7);
+        },
+        {0, 0, 1});
+    add("axes",
+        [=](Window& window, ModalScript& user) {
+            user.Then([](QDialog* dialog) { ClickButton(dialog, QStringLiteral("Save")); });
+            window.axesSettings();
+        },
+        {0, 0, 1});
+}
+
+void TestLiveViews::everyActionTellsOnce()
+{
+    QFETCH(Act, act);
+    QSignalSpy segments(m_Recording.get(), &LiveRecording::SegmentsChanged);
+    QSignalSpy labels(m_Recording.get(), &LiveRecording::LabelsChanged);
+    QSignalSpy attributes(m_Recording.get(), &LiveRecording::AttributesChanged);
+    {
+        ModalScript user;
+        act(*m_Window, user);
+    }
+    QTEST(QList<int>({segments.size(), labels.size(), attributes.size()}), "told");
 }
 
 QTEST_MAIN(TestLiveViews)

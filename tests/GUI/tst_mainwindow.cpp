@@ -182,6 +182,8 @@ void TestMainWindow::attributesMenuTogglesPlots()
     QCOMPARE(attribute(0)->text(), QStringLiteral("Col_1"));
     QVERIFY(attribute(0)->isCheckable() && !attribute(0)->isChecked());
     const QImage empty = m_Plot->grab().toImage();
+    ClickButton(m_Window.get(), QStringLiteral("Axis Overlay"));
+    QVERIFY(!m_Plot->GetEnableOverlay());
     attribute(1)->trigger();
     attribute(0)->trigger();
     QCOMPARE(m_Plot->GetPlotCount(), 2);
@@ -265,7 +267,8 @@ void TestMainWindow::zoomOnRegion()
 
 void TestMainWindow::chooseOnGraph(const QPoint& point, const QString& text)
 {
-    m_Plot->showContextMenu(point);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, point);
+    QApplication::sendEvent(m_Plot, &event);
     ChooseFromMenu(text);
 }
 
