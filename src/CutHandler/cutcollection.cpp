@@ -181,7 +181,7 @@ bool CutCollection::MergeCuts(int from, int to)
         merged.back() = segment;
         if (takesNext)
             segment->MoveTo(segments[++i]->GetTo());
-        // After a removal one segment goes unvisited: kept, the next press takes the rest.
+        // After a removal one segment goes unvisited: the next press takes the rest.
         if (i + 1 < segments.size())
             merged.push_back(segments[++i]);
     }
@@ -206,8 +206,8 @@ bool CutCollection::RemoveSegment(CutSegment* cut)
         // A zero-length segment can lie between two sides that are one and the same.
         left->SetTo(right->GetTo());
     } else if (isFree(right)) {
-        // The stored end stays on the left side and moves on the right one: kept, see
-        // MergeLabels.
+        // The stored end stays on the left side and moves on the right one: MergeLabels brings the
+        // cut back on the left side only.
         right->MoveFrom(cut->GetFrom());
     } else if (isFree(left) || (left && !right)) {
         left->SetTo(cut->GetTo());
@@ -251,7 +251,8 @@ void CutCollection::MoveSegment(DataSet* dataSet, CutSegment* segment, int from,
             m_Segments.Insert(0, newSegment(0, from));
     } else if (index == last) {
         m_Segments.Get(index - 1)->SetTo(from);
-        // The tail starts where the segment does and covers it: kept.
+        // The tail starts where the segment does and covers it: rows of both belong to two
+        // segments.
         if (dataSet && to != dataSet->GetRowCount())
             m_Segments.Append(newSegment(from, dataSet->GetRowCount()));
     } else {

@@ -16,7 +16,7 @@ namespace
 {
 
 enum Method {
-    PIECEWISE_LINEAR = 0, // cuts nothing: kept
+    PIECEWISE_LINEAR = 0, // cuts nothing, and says so to nobody
     IMPORTANT_POINTS = 1,
     PERIODIC = 2,
     SHARP_TRANSITIONS = 3,
