@@ -181,7 +181,7 @@ bool CutCollection::MergeCuts(int from, int to)
         merged.back() = segment;
         if (takesNext)
             segment->MoveTo(segments[++i]->GetTo());
-        // After a removal one segment goes unvisited: the next press takes the rest.
+        // After a removal one segment goes unvisited: kept, the next press takes the rest.
         if (i + 1 < segments.size())
             merged.push_back(segments[++i]);
     }
@@ -189,33 +189,36 @@ bool CutCollection::MergeCuts(int from, int to)
     return true;
 }
 
-bool CutCollection::RemoveSegment(CutSegment* cut)
+std::optional<SegmentRemoval> CutCollection::TakeOut(CutSegment* cut)
 {
     if (!m_Segments.Contains(cut))
-        return false;
+        return std::nullopt;
     CutSegment* left = findNeighbour(cut, endingAt(cut->GetFrom()), "Left found");
     CutSegment* right = findNeighbour(cut, startingAt(cut->GetTo()), "Right found");
     const auto isFree = [](const CutSegment* segment) {
         return segment && segment->GetState() != CutSegment::SEGMENT_LABELED;
     };
+    SegmentRemoval removal;
     if (isFree(left) && isFree(right)) {
         if (left->GetState() != CutSegment::SEGMENT_CUT ||
             right->GetState() != CutSegment::SEGMENT_CUT)
-            return false;
-        m_Segments.Remove(right);
+            return std::nullopt;
+        removal = {left, left->GetEnds(), right, right->GetEnds(), m_Segments.Remove(right), -1};
         // A zero-length segment can lie between two sides that are one and the same.
         left->SetTo(right->GetTo());
     } else if (isFree(right)) {
-        // The stored end stays on the left side and moves on the right one: MergeLabels brings the
-        // cut back on the left side only.
+        // MergeLabels returns the left side to the end that it had with the segment, but the
+        // right side to the start that it has without.
+        removal = {nullptr, {}, right, right->GetEnds(), -1, -1};
         right->MoveFrom(cut->GetFrom());
     } else if (isFree(left) || (left && !right)) {
+        removal = {left, left->GetEnds(), nullptr, {}, -1, -1};
         left->SetTo(cut->GetTo());
     } else {
-        return false;
+        return std::nullopt;
     }
-    m_Segments.Remove(cut);
-    return true;
+    removal.m_Index = m_Segments.Remove(cut);
+    return removal;
 }
 
 CutSegment* CutCollection::findNeighbour(const CutSegment* cut, const EndLimits& limits,
@@ -251,8 +254,7 @@ void CutCollection::MoveSegment(DataSet* dataSet, CutSegment* segment, int from,
             m_Segments.Insert(0, newSegment(0, from));
     } else if (index == last) {
         m_Segments.Get(index - 1)->SetTo(from);
-        // The tail starts where the segment does and covers it: rows of both belong to two
-        // segments.
+        // The tail starts where the segment does and covers it: kept.
         if (dataSet && to != dataSet->GetRowCount())
             m_Segments.Append(newSegment(from, dataSet->GetRowCount()));
     } else {

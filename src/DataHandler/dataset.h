@@ -104,8 +104,10 @@ public:
     {
         return m_AxisRanges.value(attribute);
     }
+    const QHash<int, QPair<double, double>>& GetAxisRanges() const { return m_AxisRanges; }
     void SetAxisRanges(const QHash<int, QPair<double, double>>& ranges) { m_AxisRanges = ranges; }
     bool GetZeroLine(int attribute) const { return m_ZeroLines.value(attribute, false); }
+    const QHash<int, bool>& GetZeroLines() const { return m_ZeroLines; }
     void SetZeroLines(const QHash<int, bool>& zeroLines) { m_ZeroLines = zeroLines; }
 
     /// Replaces the names or types; the list is owned here from then on.

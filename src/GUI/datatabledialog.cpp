@@ -1,6 +1,7 @@
 #include "datatabledialog.h"
 
 #include "dataset.h"
+#include "modaldialog.h"
 #include <QHBoxLayout>
 #include <QIntValidator>
 #include <QLabel>
@@ -136,4 +137,9 @@ void DataTableDialog::fillTable()
                              .arg(std::min(m_From + 1, end))
                              .arg(end)
                              .arg(m_DataSet->GetRowCount()));
+}
+
+void ShowDataTable(const SharedRecording& recording, QWidget* parent)
+{
+    ModalDialog<DataTableDialog>(recording->GetDataSet(), parent).Run();
 }

@@ -318,3 +318,11 @@ QStringList DataProcessor::namesOf(const VectorAttributes& vector, const QString
             m_DataSet->GetAttributeName(vector.m_Y) + ending,
             m_DataSet->GetAttributeName(vector.m_Z) + ending};
 }
+
+void DeriveAttributes(const SharedRecording& recording, QWidget* parent, int operation)
+{
+    DataProcessor processor(parent);
+    processor.setDataSet(recording->GetDataSet());
+    if (processor.runOperation(operation))
+        recording->Tell(LiveRecording::ATTRIBUTES);
+}

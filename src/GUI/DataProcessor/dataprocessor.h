@@ -1,6 +1,7 @@
 #pragma once
 
 #include "derivedcolumn.h"
+#include "liverecording.h"
 #include <QCoreApplication>
 #include <QList>
 #include <QStringList>
@@ -82,3 +83,16 @@ private:
     DataSet* m_DataSet = nullptr;
     QList<AddedAttribute> m_AddedAttributes;
 };
+
+/// Runs the operation of a menu entry on a recording.
+void DeriveAttributes(const SharedRecording& recording, QWidget* parent, int operation);
+
+/// The same for an operation of its own.
+template <bool (DataProcessor::*operation)()>
+void DeriveBy(const SharedRecording& recording, QWidget* parent)
+{
+    DataProcessor processor(parent);
+    processor.setDataSet(recording->GetDataSet());
+    if ((processor.*operation)())
+        recording->Tell(LiveRecording::ATTRIBUTES);
+}

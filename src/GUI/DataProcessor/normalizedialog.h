@@ -8,5 +8,8 @@ class NormalizeDialog : public SingleColumnDialog
     Q_OBJECT
 public:
     explicit NormalizeDialog(const DataSet& dataSet, const SingleColumnParams& start = {},
-                             QWidget* parent = nullptr);
+                             QWidget* parent = nullptr)
+        : SingleColumnDialog(dataSet, tr("Normalize"), start, parent)
+    {
+    }
 };

@@ -24,7 +24,7 @@ void SegmentTableModel::Add(CutSegment* segment, const QColor& color)
         return;
     if (!m_Bulk)
         beginInsertRows({}, rowCount(), rowCount());
-    m_Rows.push_back({segment, color, m_NextTicket});
+    m_Rows.push_back({segment, color, m_NextTicket, {segment->GetFrom(), segment->GetTo()}});
     m_Tickets.insert(segment, m_NextTicket++);
     if (!m_Bulk)
         endInsertRows();
@@ -91,6 +91,13 @@ int SegmentTableModel::FindRow(CutSegment* segment) const
         std::lower_bound(m_Rows.begin(), m_Rows.end(), *ticket,
                          [](const Row& row, quint64 wanted) { return row.m_Ticket < wanted; });
     return int(found - m_Rows.begin());
+}
+
+bool SegmentTableModel::IsShownBy(int row, const ShownSegment& segment) const
+{
+    const Row& shown = m_Rows[size_t(row)];
+    return shown.m_Segment == segment.m_Segment && shown.m_Color == segment.m_RowColor &&
+           shown.m_Span == RowSpan{segment.m_Segment->GetFrom(), segment.m_Segment->GetTo()};
 }
 
 int SegmentTableModel::rowCount(const QModelIndex& parent) const
