@@ -166,7 +166,8 @@ bool LabelWriter::WriteProject(const LabelCollection* labels)
     return report(WriteTextFile(m_FileName, [&](TextOutput& out) {
         for (int i = 0; i < labels->GetLabelCount(); ++i) {
             const BehaviorLabel& label = *labels->GetLabel(i);
-            // Names are written bare, also those with a comma: kept.
+            // Names are written bare: a name with a comma shifts the fields behind it, and its
+            // line is passed over when the project is read.
             for (const CutSegment* segment : segmentsOf(label))
                 out << label.GetName() << ',' << segment->GetFrom() << ','
                     << std::min(segment->GetTo(), lastRow) << '\n';

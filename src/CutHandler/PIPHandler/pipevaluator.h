@@ -6,7 +6,7 @@
 
 /// Finds the row of a segment that has the largest distance from the line between its ends.
 ///
-/// The lowest and highest value of every block of rows are kept, so that blocks that can't hold
+/// The lowest and highest value of every block of rows are noted, so that blocks that can't hold
 /// the best row are passed over: cutting a long recording often at its end stays cheap. The
 /// result is that of a scan over all rows, down to the last bit.
 class PIPEvaluator

@@ -20,5 +20,6 @@ DataColumn Difference(const DataSet& data, int a, int b);
 /// 1 where the value is at the threshold or above, else -1, also for not-a-number.
 DataColumn Threshold(const DataSet& data, int attribute, double threshold);
 
-/// The value in every row but the first, which gets 0: kept.
+/// The value in every row but the first, which gets 0: the column is not constant, and its range
+/// holds 0.
 DataColumn ConstantValue(int rows, double value);

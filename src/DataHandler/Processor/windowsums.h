@@ -4,7 +4,7 @@
 
 /// Sums over a window that slides along a column, at the same small cost for any window length.
 ///
-/// The column is cut into blocks of the window's length; sums are kept from each value to the end
+/// The column is cut into blocks of the window's length; sums are stored from each value to the end
 /// of its block and from the start of the block to each value. A window reaches over two blocks at
 /// most, so its sum is one addition. Nothing is ever subtracted: rounding errors stay as small as
 /// those of adding up the window directly, however long the column is, and a not-a-number or an

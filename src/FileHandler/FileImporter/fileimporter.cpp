@@ -42,6 +42,12 @@ QStringList* FileImporter::ReadColumn(int column)
     return texts.release();
 }
 
+std::unique_ptr<DataSet> FileImporter::TakeDataSet()
+{
+    m_DataSet = nullptr;
+    return std::move(m_OwnedDataSet);
+}
+
 DataSet* FileImporter::GetDataSet()
 {
     static_cast<void>(m_OwnedDataSet.release());

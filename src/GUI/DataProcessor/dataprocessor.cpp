@@ -38,7 +38,7 @@ struct Operation {
 // In the order of the menu.
 constexpr Operation OPERATIONS[] = {
     {QT_TRANSLATE_NOOP("DataProcessor", "Moving Average"), &DataProcessor::movingAverage},
-    // Stands in the menu and does nothing: kept.
+    // Stands in the menu and does nothing: the entries behind it have their numbers by it.
     {QT_TRANSLATE_NOOP("DataProcessor", "ODBA"), nullptr},
     {QT_TRANSLATE_NOOP("DataProcessor", "Basic Function"), &DataProcessor::basicFunction},
     {QT_TRANSLATE_NOOP("DataProcessor", "Derivative"), &DataProcessor::derivative},
@@ -138,7 +138,7 @@ bool DataProcessor::normalize()
 {
     if (!hasData())
         return false;
-    // The dialog of the derivative, its heading too: kept.
+    // The dialog of the derivative, its heading too: the user reads "Derivative".
     const auto params = ask<DerivativeDialog>(*m_DataSet, m_Parent);
     if (!params || !hasAttributes({params->m_Attribute}))
         return false;
@@ -190,7 +190,7 @@ bool DataProcessor::pitchRoll()
         return true;
     if (!hasVector(params->m_Acceleration))
         return false;
-    return finishWith({QStringLiteral("Pitch"), QStringLiteral("Roll")},
+    return finishWith({StandardAttributeName(STANDARD_PITCH), StandardAttributeName(STANDARD_ROLL)},
                       [&] { return PitchAndRoll(*m_DataSet, params->m_Acceleration); });
 }
 

@@ -49,11 +49,11 @@ public:
     bool energy();
     bool threshold();
 
-    // Cancel says true as well, with nothing added: kept.
+    // Cancel says true as well, with nothing in the list of added attributes.
     bool pitchRoll();
     bool rotate();
 
-    // Cancel computes with what the dialog shows, as Compute does: kept.
+    // Cancel computes with what the dialog shows, as Compute does: there is no way back.
     bool vedba();
     bool staticDynAcc();
     bool constantValue();

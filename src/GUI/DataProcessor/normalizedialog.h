@@ -2,7 +2,7 @@
 
 #include "singlecolumndialog.h"
 
-/// Asks which attribute to normalise. Never shown, DerivativeDialog asks instead: kept.
+/// Asks which attribute to normalise. Never shown: DerivativeDialog asks instead.
 class NormalizeDialog : public SingleColumnDialog
 {
     Q_OBJECT
