@@ -1,6 +1,7 @@
 #pragma once
 
 #include "matchextraction.h"
+#include "plotmargin.h"
 #include "selectionrange.h"
 #include "stepscale.h"
 #include <QList>
@@ -10,7 +11,7 @@
 class DataSet;
 
 /// The right margin that lets a plot area above a map of the same width end where the map does.
-constexpr int MapAlignedMargin = 35;
+constexpr int MapAlignedMargin = PlotLeftMargin - 5;
 
 /// What all maps of search results share: where the steps stand, and a band of pixels that the
 /// user drags. Dragged with the left button it removes the matches on it, with the right one it

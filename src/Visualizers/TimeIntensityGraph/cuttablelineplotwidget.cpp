@@ -1,7 +1,7 @@
 #include "cuttablelineplotwidget.h"
 
-#include "collapsedwidth.h"
 #include "cutcollection.h"
+#include "cuttableamplitudeline.h"
 #include "cuttablelineplot.h"
 #include "dataset.h"
 #include "lineplotwidget.h"

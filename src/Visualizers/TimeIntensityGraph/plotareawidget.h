@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plotmargin.h"
 #include "rowrange.h"
 #include <QPixmap>
 #include <QWidget>
@@ -85,7 +86,7 @@ protected:
     CutCollection* m_CutCollection = nullptr;
     int m_From = -1;
     int m_To = -1;
-    int m_LeftMargin = 40;
+    int m_LeftMargin = PlotLeftMargin;
     int m_RightMargin = 0;
     int m_VisibleFrom = -1;
     int m_VisibleTo = -1;
