@@ -2,7 +2,7 @@
 
 #include "matchextraction.h"
 #include "plotmargin.h"
-#include "selectionrange.h"
+#include "rubberband.h"
 #include "stepscale.h"
 #include <QList>
 #include <QWidget>
@@ -77,7 +77,6 @@ protected:
 private:
     CenterPoints visibleMatches() const;
     void reduce(const StepScale& scale);
-    void paintBand(QPainter& painter) const;
     void removeMatches(double first, double last);
     void showSpan(double first, double last);
     void addRemovedSteps(std::vector<int> steps);
@@ -89,8 +88,7 @@ private:
     int m_Attribute = 0;
     float m_Threshold = 0;
     int m_ColorMap;
-    SelectionRange m_Band;
-    Qt::MouseButton m_BandButton = Qt::NoButton;
+    RubberBand m_Band;
     bool m_AreResultsStale = true;
     bool m_AreMatchesStale = true;
 };

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "lineplot.h"
-#include "rowrange.h"
+#include "rowspan.h"
 #include <QColor>
 #include <QList>
 #include <QString>
@@ -15,12 +15,12 @@ public:
     QString GetName() const { return m_Name; }
     QColor GetColor() const { return m_Color; }
     void AddSpan(int start, int end) { m_Spans.append({start, end}); }
-    const QList<RowRange>& GetSpans() const { return m_Spans; }
+    const QList<RowSpan>& GetSpans() const { return m_Spans; }
 
 private:
     QString m_Name;
     QColor m_Color;
-    QList<RowRange> m_Spans;
+    QList<RowSpan> m_Spans;
 };
 
 /// A plot with the labels of a study marked over the line.
