@@ -3,6 +3,7 @@
 #include "groundtruithbehaviorcollection.h"
 #include "grouppalette.h"
 #include "pixelmath.h"
+#include "selectionrange.h"
 #include "timeaxis.h"
 #include <QPaintEvent>
 #include <QPainter>
@@ -103,10 +104,9 @@ QPixmap GroundTruithWidget::paintTile(int index)
 
 void GroundTruithWidget::paintBehaviors(QPainter& painter) const
 {
-    constexpr double opacity = 0.4;
     if (!m_BehaviorCollection)
         return;
-    painter.setOpacity(opacity);
+    painter.setOpacity(MarkOpacity);
     const TimeAxis& axis = *m_LinePlot.GetTimeAxis();
     const auto toPixel = [&](int row) {
         return TruncateToInt(double(axis.ToPixel(row)) + axis.GetStart().x());

@@ -146,43 +146,30 @@ void ResultMapWidget::paintEvent(QPaintEvent*)
     const int left = int(scale.GetStart());
     painter.fillRect(left, 0, width() - left, height(), Qt::white);
     paintMap(painter);
-    paintBand(painter);
-}
-
-void ResultMapWidget::paintBand(QPainter& painter) const
-{
-    constexpr double opacity = 0.4;
-    SelectionRange band = m_Band;
-    band.SetStart(m_Band.GetSelectionStart());
-    band.m_End = m_Band.GetSelectionEnd();
-    painter.setOpacity(opacity);
-    band.Paint(painter, height());
+    painter.setOpacity(MarkOpacity);
+    m_Band.PaintBand(painter, height());
 }
 
 void ResultMapWidget::mousePressEvent(QMouseEvent* event)
 {
-    const bool isBandButton =
-        event->button() == Qt::LeftButton || event->button() == Qt::RightButton;
-    const bool isAlone = event->buttons() == event->button();
-    if (!isBandButton || !isAlone || m_Results.IsEmpty())
-        return;
-    m_BandButton = event->button();
-    m_Band.Begin(event->pos().x(), double(makeScale().GetStart()));
-    update();
+    const double left = double(makeScale().GetStart());
+    if (!m_Results.IsEmpty() &&
+        m_Band.Press(*event, left, RubberBand::Unlimited, Qt::LeftButton | Qt::RightButton))
+        update();
 }
 
 void ResultMapWidget::mouseMoveEvent(QMouseEvent* event)
 {
     const double left = double(makeScale().GetStart());
-    m_Band.SetEnd(qBound(left, double(event->pos().x()), std::max(left, double(width()))));
-    update();
+    if (m_Band.Move(*event, left, std::max(left, double(width()))))
+        update();
 }
 
 void ResultMapWidget::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (!m_Band.m_Active || event->button() != m_BandButton)
+    if (!m_Band.Release(*event))
         return;
-    const SelectionRange band = m_Band;
+    const RubberBand band = m_Band;
     m_Band.Clear();
     update();
     if (!band.IsValid())
@@ -190,7 +177,7 @@ void ResultMapWidget::mouseReleaseEvent(QMouseEvent* event)
     const StepScale scale = makeScale();
     const double first = scale.ToStep(band.GetSelectionStart());
     const double last = scale.ToStep(band.GetSelectionEnd());
-    if (m_BandButton == Qt::LeftButton)
+    if (band.GetButton() == Qt::LeftButton)
         removeMatches(first, last);
     else
         showSpan(first, last);

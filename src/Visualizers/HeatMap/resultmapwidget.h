@@ -1,7 +1,8 @@
 #pragma once
 
 #include "matchextraction.h"
-#include "selectionrange.h"
+#include "plotmargin.h"
+#include "rubberband.h"
 #include "stepscale.h"
 #include <QList>
 #include <QWidget>
@@ -10,7 +11,7 @@
 class DataSet;
 
 /// The right margin that lets a plot area above a map of the same width end where the map does.
-constexpr int MapAlignedMargin = 35;
+constexpr int MapAlignedMargin = PlotLeftMargin - 5;
 
 /// What all maps of search results share: where the steps stand, and a band of pixels that the
 /// user drags. Dragged with the left button it removes the matches on it, with the right one it
@@ -76,7 +77,6 @@ protected:
 private:
     CenterPoints visibleMatches() const;
     void reduce(const StepScale& scale);
-    void paintBand(QPainter& painter) const;
     void removeMatches(double first, double last);
     void showSpan(double first, double last);
     void addRemovedSteps(std::vector<int> steps);
@@ -88,8 +88,7 @@ private:
     int m_Attribute = 0;
     float m_Threshold = 0;
     int m_ColorMap;
-    SelectionRange m_Band;
-    Qt::MouseButton m_BandButton = Qt::NoButton;
+    RubberBand m_Band;
     bool m_AreResultsStale = true;
     bool m_AreMatchesStale = true;
 };

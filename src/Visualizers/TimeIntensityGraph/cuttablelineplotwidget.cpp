@@ -1,7 +1,7 @@
 #include "cuttablelineplotwidget.h"
 
-#include "collapsedwidth.h"
 #include "cutcollection.h"
+#include "cuttableamplitudeline.h"
 #include "cuttablelineplot.h"
 #include "dataset.h"
 #include "lineplotwidget.h"
@@ -153,10 +153,9 @@ void CuttableLinePlotWidget::mousePressEvent(QMouseEvent* event)
     const TimeAxis* axis = GetTimeAxis();
     if (event->button() == Qt::RightButton)
         m_SelectedIndex = -1;
-    if (event->button() != Qt::LeftButton || !axis)
+    if (!axis || !m_Selection.Press(*event, axis->GetStart().x()))
         return;
     m_SelectedIndex = -1;
-    m_Selection.Begin(event->pos().x(), axis->GetStart().x());
     update();
 }
 
@@ -165,7 +164,7 @@ void CuttableLinePlotWidget::mouseMoveEvent(QMouseEvent* event)
     m_MouseX = event->pos().x();
     if (event->buttons() & Qt::LeftButton) {
         m_DragX = m_MouseX;
-        m_Selection.SetEnd(m_MouseX);
+        m_Selection.Move(*event);
     }
     update();
 }
@@ -323,7 +322,6 @@ void CuttableLinePlotWidget::openPlot(const CutSegment& segment)
 
 void CuttableLinePlotWidget::paintEvent(QPaintEvent* event)
 {
-    constexpr double marksOpacity = 0.4;
     PlotAreaWidget::paintEvent(event);
     const TimeAxis* axis = GetTimeAxis();
     if (!axis)
@@ -331,7 +329,7 @@ void CuttableLinePlotWidget::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     painter.setFont(PlotFont());
     paintTimeAxis(painter);
-    painter.setOpacity(marksOpacity);
+    painter.setOpacity(MarkOpacity);
     paintSelection(painter);
     if (m_MouseX > 0 && m_Overlay)
         paintOverlay(painter);

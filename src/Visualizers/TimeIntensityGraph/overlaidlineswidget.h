@@ -1,5 +1,6 @@
 #pragma once
 
+#include "rubberband.h"
 #include <QPixmap>
 #include <QWidget>
 #include <memory>
@@ -46,7 +47,5 @@ private:
     std::unique_ptr<OverlaidLines> m_Lines;
     const bool m_Rejecting;
     QPixmap m_Cache;
-    QRect m_Band;
-    QPoint m_BandOrigin;
-    bool m_Dragging = false;
+    RubberBand m_Band;
 };

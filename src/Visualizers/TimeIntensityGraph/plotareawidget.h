@@ -1,6 +1,7 @@
 #pragma once
 
-#include "rowrange.h"
+#include "plotmargin.h"
+#include "rowspan.h"
 #include <QPixmap>
 #include <QWidget>
 #include <memory>
@@ -10,6 +11,7 @@ class CutCollection;
 class DataSet;
 class LinePlot;
 class PixmapCache;
+struct SelectionRange;
 class TimeAxis;
 
 /// Plots above each other, painted once into tiles of a fixed width; paintEvent copies tiles.
@@ -71,11 +73,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
-    /// The pixel of a row, absolute.
-    double rowToPixel(int row) const;
-    /// Fills the pixels of a range of rows, from the widget's top to its bottom.
-    void paintRowRange(QPainter& painter, const RowRange& range, const QColor& color,
-                       bool outline) const;
+    /// Fills the pixels of rows of the data set, from the widget's top to its bottom.
+    void paintRows(QPainter& painter, const RowSpan& rows, const QColor& color, bool outline) const;
+    /// The rows of the data set at both ends of a selection, the lower one first. False without a
+    /// selection.
+    bool toRows(const SelectionRange& selection, int& from, int& to) const;
     /// Every plot anew, after a change in what they show.
     void repaintAll();
 
@@ -85,7 +87,7 @@ protected:
     CutCollection* m_CutCollection = nullptr;
     int m_From = -1;
     int m_To = -1;
-    int m_LeftMargin = 40;
+    int m_LeftMargin = PlotLeftMargin;
     int m_RightMargin = 0;
     int m_VisibleFrom = -1;
     int m_VisibleTo = -1;
@@ -99,7 +101,7 @@ private:
     void rebuildTiles();
     void makeBackground();
     void makeTile(int index);
-    void tileRange(int& from, int& to) const;
+    RowSpan tileRange() const;
     bool isFarFromView(int tile) const;
     void paintCache();
     void paintTile(int index);

@@ -10,9 +10,8 @@ SelectionMultipleLinePlotWidget::SelectionMultipleLinePlotWidget(QWidget* parent
 void SelectionMultipleLinePlotWidget::rejectLines(const std::vector<int>& lines)
 {
     for (const int line : lines) {
-        const RowRange rows = plot().GetRows(line);
-        if (rows.IsSet())
-            m_Removed.append(rows);
+        if (const auto rows = plot().GetRows(line))
+            m_Removed.append(*rows);
     }
     OldMultipleLinePlotWidget::rejectLines(lines);
     emit ItemsRemoved();

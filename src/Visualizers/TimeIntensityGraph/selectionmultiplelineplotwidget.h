@@ -1,7 +1,7 @@
 #pragma once
 
 #include "oldmultiplelineplotwidget.h"
-#include "rowrange.h"
+#include "rowspan.h"
 #include <QList>
 
 /// Overlaid spans of which the user can reject those inside a rubber band.
@@ -12,7 +12,7 @@ public:
     explicit SelectionMultipleLinePlotWidget(QWidget* parent = nullptr);
 
     /// The spans of all lines that were rejected so far.
-    const QList<RowRange>& GetRemovedRanges() const { return m_Removed; }
+    const QList<RowSpan>& GetRemovedRanges() const { return m_Removed; }
 
 signals:
     void ItemsRemoved();
@@ -21,5 +21,5 @@ protected:
     void rejectLines(const std::vector<int>& lines) override;
 
 private:
-    QList<RowRange> m_Removed;
+    QList<RowSpan> m_Removed;
 };

@@ -2,7 +2,7 @@
 
 #include "cutcollection.h"
 #include "dataset.h"
-#include "heatrows.h"
+#include "heatcolor.h"
 #include "timeaxis.h"
 #include "verticalaxis.h"
 #include <QLoggingCategory>

@@ -1,8 +1,16 @@
 #pragma once
 
 #include "amplitudeline.h"
+#include "cutsegment.h"
+#include <algorithm>
 
 class CutCollection;
+
+/// The points of the time axis that a labelled segment takes when it is collapsed to a block.
+inline int CollapsedWidth(const CutSegment& segment)
+{
+    return std::max(segment.GetLength() / 10, 20);
+}
 
 /// The line of the main graph: rows stand at their absolute place in the recording.
 class CuttableAmplitudeLine : public AmplitudeLine

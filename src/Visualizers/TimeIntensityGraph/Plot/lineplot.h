@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plotmargin.h"
 #include <QString>
 #include <memory>
 
@@ -75,7 +76,7 @@ protected:
     std::unique_ptr<AmplitudeLine> m_AmplitudeLine;
     int m_From = -1;
     int m_To = -1;
-    int m_LeftMargin = 40;
+    int m_LeftMargin = PlotLeftMargin;
     int m_TopMargin = 9;
     int m_RightMargin = -5;
 
