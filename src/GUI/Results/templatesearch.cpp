@@ -7,6 +7,7 @@
 #include "templatewizard.h"
 #include "thresholdwizard.h"
 #include <QPointer>
+#include <optional>
 
 namespace
 {
@@ -21,15 +22,15 @@ bool runDialog(Arguments... arguments)
     return isAccepted;
 }
 
-// The state of the segments that the user wants to search; false when he cancels.
-bool askSearchMode(QWidget* parent, int& mode)
+// The state of the segments that the user wants to search; nothing when he cancels.
+std::optional<CutSegment::SEGMENT_STATE> askSearchMode(QWidget* parent)
 {
     const QPointer<ResultSearchOptionDialog> dialog(new ResultSearchOptionDialog(parent));
-    const bool isAccepted = dialog->exec() == QDialog::Accepted && dialog;
-    if (isAccepted)
+    std::optional<CutSegment::SEGMENT_STATE> mode;
+    if (dialog->exec() == QDialog::Accepted && dialog)
         mode = dialog->GetSearchMode();
     delete dialog;
-    return isAccepted;
+    return mode;
 }
 
 } // namespace
@@ -48,25 +49,24 @@ std::unique_ptr<PatternsDataObject> SaveTemplate(QWidget* parent, DataSet* data,
 bool SearchForRows(QWidget* parent, DataSet* data, CutCollection* cuts, int from, int to)
 {
     const auto pattern = SaveTemplate(parent, data, from, to);
-    return pattern && runDialog<TemplateWizard>(data, cuts, int(CutSegment::SEGMENT_CUT),
-                                                pattern.get(), parent);
+    return pattern &&
+           runDialog<TemplateWizard>(data, cuts, CutSegment::SEGMENT_CUT, pattern.get(), parent);
 }
 
 bool SearchTemplates(QWidget* parent, DataSet* data, CutCollection* cuts)
 {
-    int mode = 0;
-    return askSearchMode(parent, mode) && runDialog<TemplateWizard>(data, cuts, mode, parent);
+    const auto mode = askSearchMode(parent);
+    return mode && runDialog<TemplateWizard>(data, cuts, *mode, parent);
 }
 
 bool SearchThresholds(QWidget* parent, DataSet* data, CutCollection* cuts)
 {
-    int mode = 0;
-    return askSearchMode(parent, mode) && runDialog<ThresholdWizard>(data, cuts, mode, parent);
+    const auto mode = askSearchMode(parent);
+    return mode && runDialog<ThresholdWizard>(data, cuts, *mode, parent);
 }
 
 bool SearchRules(QWidget* parent, DataSet* data, CutCollection* cuts, LabelCollection* labels)
 {
-    int mode = 0;
-    return askSearchMode(parent, mode) &&
-           runDialog<RuleAssociationWizard>(data, cuts, labels, mode, parent);
+    const auto mode = askSearchMode(parent);
+    return mode && runDialog<RuleAssociationWizard>(data, cuts, labels, *mode, parent);
 }
