@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QPixmap>
+#include "cachedpicture.h"
 #include <QWidget>
 
 class DataSet;
@@ -25,14 +25,13 @@ public slots:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void paintCache();
+    void paintLabels(QPainter& painter) const;
 
     DataSet* m_DataSet = nullptr;
     LabelCollection* m_LabelCollection = nullptr;
-    QPixmap m_Cache;
+    CachedPicture m_Picture;
     int m_MarkerFrom = -1;
     int m_MarkerTo = -1;
 };
