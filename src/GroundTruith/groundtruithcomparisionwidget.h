@@ -1,5 +1,6 @@
 #pragma once
 
+#include "zoomedview.h"
 #include <QMainWindow>
 
 class CutCollection;
@@ -9,8 +10,6 @@ class GroundTruithBehaviorCollection;
 class GroundTruithWidget;
 class LabelCollection;
 class QComboBox;
-class QScrollArea;
-class ZoomWidget;
 
 /// The labels of a reference above the program's own, over the same data and at one zoom, to be
 /// compared by eye. Owns nothing that it shows.
@@ -28,17 +27,14 @@ public:
 
 public slots:
     /// Gives both views the width that the zoom asks for.
-    void resizeLinePlotWidget();
+    void resizeLinePlotWidget() { m_View.Resize(); }
     /// Shows an attribute, by its place in the list, in both views.
     void attributeChanged(int index);
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void makeToolBar();
     void makeViews();
-    void updateVisiblePart();
+    void resizeViews(const QSize& size);
 
     DataSet* m_DataSet = nullptr;
     CutCollection* m_CutCollection = nullptr;
@@ -51,4 +47,5 @@ private:
     QComboBox* m_Attributes;
     GroundTruithWidget* m_GroundTruith;
     CuttableLinePlotWidget* m_LinePlot;
+    ZoomedView m_View;
 };
