@@ -8,7 +8,6 @@
 #include "readlabels.h"
 #include "zoomwidget.h"
 #include <QComboBox>
-#include <QEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QLoggingCategory>
@@ -23,7 +22,8 @@ Q_LOGGING_CATEGORY(lcGroundTruith, "skerrymoor.groundtruith", QtWarningMsg)
 GroundTruithComparisionWidget::GroundTruithComparisionWidget(QWidget* parent)
     : QMainWindow(parent), m_ScrollArea(new QScrollArea), m_Views(new QWidget),
       m_ZoomWidget(new ZoomWidget), m_Attributes(new QComboBox),
-      m_GroundTruith(new GroundTruithWidget), m_LinePlot(new CuttableLinePlotWidget)
+      m_GroundTruith(new GroundTruithWidget), m_LinePlot(new CuttableLinePlotWidget),
+      m_View(m_ScrollArea, m_ZoomWidget)
 {
     setWindowTitle(tr("Ground Truith Comparision"));
     makeToolBar();
@@ -32,9 +32,12 @@ GroundTruithComparisionWidget::GroundTruithComparisionWidget(QWidget* parent)
             &GroundTruithComparisionWidget::resizeLinePlotWidget);
     connect(m_Attributes, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &GroundTruithComparisionWidget::attributeChanged);
-    connect(m_ScrollArea->horizontalScrollBar(), &QScrollBar::valueChanged, this,
-            &GroundTruithComparisionWidget::updateVisiblePart);
-    m_ScrollArea->installEventFilter(this);
+    connect(&m_View, &ZoomedView::SizeAsked, this, &GroundTruithComparisionWidget::resizeViews);
+    connect(m_ScrollArea->horizontalScrollBar(), &QScrollBar::valueChanged, &m_View,
+            &ZoomedView::UpdateVisiblePart);
+    // The graph paints what is in sight, and has to be told.
+    connect(&m_View, &ZoomedView::VisiblePartChanged, m_LinePlot,
+            &CuttableLinePlotWidget::SetVisibleRange);
     resize(fontMetrics().averageCharWidth() * 120, fontMetrics().height() * 30);
 }
 
@@ -112,29 +115,12 @@ void GroundTruithComparisionWidget::attributeChanged(int index)
     m_LinePlot->ClearAndAddPlot(attribute);
 }
 
-void GroundTruithComparisionWidget::resizeLinePlotWidget()
+void GroundTruithComparisionWidget::resizeViews(const QSize& size)
 {
-    const int width = std::max(m_ZoomWidget->value() * (m_ScrollArea->width() - 5), 1);
-    const int height = m_ScrollArea->height();
-    const QSize view(width, std::max(int(height * 0.5 - 20), 1));
-    m_GroundTruith->setFixedSize(view);
-    m_LinePlot->setFixedSize(view);
-    m_Views->resize(width, std::max(height - 20, 1));
-    updateVisiblePart();
-}
-
-// The graph paints what is in sight, and has to be told.
-void GroundTruithComparisionWidget::updateVisiblePart()
-{
-    const int from = m_ScrollArea->horizontalScrollBar()->value();
-    m_LinePlot->SetVisibleRange(from, from + m_ScrollArea->viewport()->width());
-}
-
-bool GroundTruithComparisionWidget::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == m_ScrollArea && event->type() == QEvent::Resize)
-        resizeLinePlotWidget();
-    return QMainWindow::eventFilter(watched, event);
+    const QSize half(size.width(), std::max(int(m_ScrollArea->height() * 0.5 - 20), 1));
+    m_GroundTruith->setFixedSize(half);
+    m_LinePlot->setFixedSize(half);
+    m_Views->resize(size);
 }
 
 void ShowGroundTruith(const SharedRecording& recording, QWidget* parent)

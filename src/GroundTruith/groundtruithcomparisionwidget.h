@@ -1,14 +1,13 @@
 #pragma once
 
 #include "liverecording.h"
+#include "zoomedview.h"
 #include <QMainWindow>
 
 class CuttableLinePlotWidget;
 class GroundTruithBehaviorCollection;
 class GroundTruithWidget;
 class QComboBox;
-class QScrollArea;
-class ZoomWidget;
 
 /// The labels of a reference above the program's own, over the same data and at one zoom, to be
 /// compared by eye. Owns nothing that it shows.
@@ -26,17 +25,14 @@ public:
 
 public slots:
     /// Gives both views the width that the zoom asks for.
-    void resizeLinePlotWidget();
+    void resizeLinePlotWidget() { m_View.Resize(); }
     /// Shows an attribute, by its place in the list, in both views.
     void attributeChanged(int index);
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void makeToolBar();
     void makeViews();
-    void updateVisiblePart();
+    void resizeViews(const QSize& size);
 
     DataSet* m_DataSet = nullptr;
     CutCollection* m_CutCollection = nullptr;
@@ -49,6 +45,7 @@ private:
     QComboBox* m_Attributes;
     GroundTruithWidget* m_GroundTruith;
     CuttableLinePlotWidget* m_LinePlot;
+    ZoomedView m_View;
 };
 
 /// Shows a reference labelling, from a file that the user picks, beside the recording's own.

@@ -67,13 +67,13 @@ void ResultMapWidget::addRemovedSteps(std::vector<int> steps)
 void ResultMapWidget::SetThreshold(float threshold)
 {
     m_Threshold = threshold;
-    update();
+    invalidatePicture();
 }
 
 void ResultMapWidget::SetColorMap(int scheme)
 {
     m_ColorMap = scheme;
-    update();
+    invalidatePicture();
 }
 
 StepScale ResultMapWidget::makeScale() const
@@ -104,6 +104,12 @@ QRect ResultMapWidget::rowOf(int factor) const
     return {0, top, width(), height() * (factor + 1) / rows - top};
 }
 
+void ResultMapWidget::invalidatePicture()
+{
+    m_Picture.Invalidate();
+    update();
+}
+
 void ResultMapWidget::markStale()
 {
     m_AreResultsStale = true;
@@ -113,7 +119,7 @@ void ResultMapWidget::markStale()
 void ResultMapWidget::markMatchesStale()
 {
     m_AreMatchesStale = true;
-    update();
+    invalidatePicture();
 }
 
 void ResultMapWidget::resizeEvent(QResizeEvent* event)
@@ -140,12 +146,14 @@ void ResultMapWidget::reduce(const StepScale& scale)
 
 void ResultMapWidget::paintEvent(QPaintEvent*)
 {
-    const StepScale scale = makeScale();
-    reduce(scale);
     QPainter painter(this);
-    const int left = int(scale.GetStart());
-    painter.fillRect(left, 0, width() - left, height(), Qt::white);
-    paintMap(painter);
+    m_Picture.Paint(painter, {}, size(), devicePixelRatioF(), [this](QPainter& map) {
+        const StepScale scale = makeScale();
+        reduce(scale);
+        const int left = int(scale.GetStart());
+        map.fillRect(left, 0, width() - left, height(), Qt::white);
+        paintMap(map);
+    });
     painter.setOpacity(MarkOpacity);
     m_Band.PaintBand(painter, height());
 }

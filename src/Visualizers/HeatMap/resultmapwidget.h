@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cachedpicture.h"
 #include "matchextraction.h"
 #include "plotmargin.h"
 #include "rubberband.h"
@@ -70,6 +71,8 @@ protected:
     int stepWidth() const;
     /// Where the row of a frequency factor stands, of as many rows as there are factors.
     QRect rowOf(int factor) const;
+    /// What is shown without being reduced to pixels has become other.
+    void invalidatePicture();
     /// The scale or the results have become others.
     void markStale();
     void markMatchesStale();
@@ -89,6 +92,8 @@ private:
     float m_Threshold = 0;
     int m_ColorMap;
     RubberBand m_Band;
+    // The ground of the widget stays to be seen in the gutter.
+    CachedPicture m_Picture{Qt::transparent};
     bool m_AreResultsStale = true;
     bool m_AreMatchesStale = true;
 };

@@ -105,10 +105,8 @@ void CuttableLinePlotWidget::ClearSelection()
 void CuttableLinePlotWidget::ShowLabeledData(bool show)
 {
     m_ShowLabeled = show;
-    for (const auto& plot : m_Plots) {
-        if (auto* cuttable = dynamic_cast<CuttableLinePlot*>(plot.get()))
-            cuttable->SetShowLabeled(show);
-    }
+    for (const auto& plot : m_Plots)
+        plot->SetShowLabeled(show);
     RepaintCache();
 }
 

@@ -90,7 +90,7 @@ private:
 
     QPointer<LiveRecording> m_Recording;
     LabelCollection* m_LabelCollection = nullptr;
-    // A pixel after a click, a row after the context menu: kept, the keys move it by 5 of either.
+    // The row of the last context menu, which the keys move by 5; -1 without one.
     int m_SelectedIndex = -1;
     int m_MouseX = 0;
     RubberBand m_Selection;

@@ -44,7 +44,7 @@ void OverlaidLinesWidget::RepaintLines()
 
 void OverlaidLinesWidget::markStale()
 {
-    m_Cache = QPixmap();
+    m_Picture.Invalidate();
     update();
 }
 
@@ -57,16 +57,11 @@ void OverlaidLinesWidget::resizeEvent(QResizeEvent* event)
 
 void OverlaidLinesWidget::paintEvent(QPaintEvent*)
 {
-    if (m_Cache.isNull() || m_Cache.devicePixelRatioF() != devicePixelRatioF()) {
-        m_Cache = QPixmap(size() * devicePixelRatioF());
-        m_Cache.setDevicePixelRatio(devicePixelRatioF());
-        m_Cache.fill(Qt::white);
-        QPainter cachePainter(&m_Cache);
-        cachePainter.setRenderHint(QPainter::Antialiasing);
-        m_Lines->Paint(cachePainter);
-    }
     QPainter painter(this);
-    painter.drawPixmap(0, 0, m_Cache);
+    m_Picture.Paint(painter, {}, size(), devicePixelRatioF(), [this](QPainter& lines) {
+        lines.setRenderHint(QPainter::Antialiasing);
+        m_Lines->Paint(lines);
+    });
     if (!m_Band.m_Active || !m_Band.IsValid())
         return;
     painter.setOpacity(MarkOpacity);

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "cachedpicture.h"
 #include "rubberband.h"
-#include <QPixmap>
 #include <QWidget>
 #include <memory>
 #include <vector>
@@ -46,6 +46,6 @@ private:
 
     std::unique_ptr<OverlaidLines> m_Lines;
     const bool m_Rejecting;
-    QPixmap m_Cache;
+    CachedPicture m_Picture;
     RubberBand m_Band;
 };

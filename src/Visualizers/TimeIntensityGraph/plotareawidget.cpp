@@ -33,10 +33,8 @@ void PlotAreaWidget::SetDataSet(DataSet* dataSet)
 void PlotAreaWidget::SetCutCollection(CutCollection* cuts)
 {
     m_CutCollection = cuts;
-    for (const auto& plot : m_Plots) {
-        if (auto* cuttable = dynamic_cast<CuttableLinePlot*>(plot.get()))
-            cuttable->SetCutCollection(cuts);
-    }
+    for (const auto& plot : m_Plots)
+        plot->SetCutCollection(cuts);
     update();
 }
 

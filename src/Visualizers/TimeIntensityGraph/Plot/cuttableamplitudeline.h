@@ -21,12 +21,12 @@ public:
     {
     }
 
-    /// The last row of the recording is never drawn: kept, the row is only the end mark of the
-    /// last segment.
+    /// The last row of the recording is never drawn: it is only the end mark of the last segment.
     void PaintDataSet(QPainter& painter) override;
     /// Labelled segments as blocks in their colours, the others in heat colours.
     ///
-    /// Nothing calls this: kept for the collapsed display that the selection already reckons with.
+    /// The display of collapsed segments, which no window shows yet, though the selection already
+    /// reckons with it.
     void PaintCollapsed(QPainter& painter);
 
     void SetCutCollection(CutCollection* cuts) { m_CutCollection = cuts; }

@@ -5,6 +5,7 @@
 #include <memory>
 
 class AmplitudeLine;
+class CutCollection;
 class DataSet;
 class QPainter;
 class TimeAxis;
@@ -48,7 +49,7 @@ public:
     /// A SlittedAxis, or a linear one for 0, with the point count of the present axis.
     void SetSlitted(int slitted);
     /// The same by the number of an axis type. The new axis is given what GetLastIndex returns
-    /// as its number of points: kept, the axis loses one point at each change.
+    /// as its number of points, so that the axis loses one point at each change.
     void ChangeAxisType(int axisType);
     void ShowVerticalAxis(bool show) { m_ShowVerticalAxis = show; }
 
@@ -58,6 +59,9 @@ public:
 
     /// Rows stand at their absolute place on the time axis, whatever range is painted.
     virtual bool HasAbsoluteRows() const { return false; }
+    /// The segments, and whether labelled ones stand in their place: for plots that know segments.
+    virtual void SetCutCollection(CutCollection*) {}
+    virtual void SetShowLabeled(bool) {}
 
 protected:
     void setAmplitudeLine(std::unique_ptr<AmplitudeLine> line);
