@@ -7,7 +7,7 @@
 class CuttableLinePlotWidget;
 class GroundTruithBehaviorCollection;
 class GroundTruithWidget;
-class QComboBox;
+class AttributeBox;
 
 /// The labels of a reference above the program's own, over the same data and at one zoom, to be
 /// compared by eye. Owns nothing that it shows.
@@ -17,6 +17,8 @@ class GroundTruithComparisionWidget : public QMainWindow
 public:
     explicit GroundTruithComparisionWidget(QWidget* parent = nullptr);
 
+    /// Shows a recording and follows its changes.
+    void SetRecording(LiveRecording* recording);
     void SetBehaviorCollection(GroundTruithBehaviorCollection* behaviors);
     /// Shows the first attribute of the data set and offers the others.
     void SetDataSet(DataSet* dataSet);
@@ -34,7 +36,6 @@ private:
     void makeViews();
     void resizeViews(const QSize& size);
 
-    DataSet* m_DataSet = nullptr;
     CutCollection* m_CutCollection = nullptr;
     LabelCollection* m_LabelCollection = nullptr;
     GroundTruithBehaviorCollection* m_BehaviorCollection = nullptr;
@@ -42,7 +43,7 @@ private:
     QScrollArea* m_ScrollArea;
     QWidget* m_Views;
     ZoomWidget* m_ZoomWidget;
-    QComboBox* m_Attributes;
+    AttributeBox* m_Attributes;
     GroundTruithWidget* m_GroundTruith;
     CuttableLinePlotWidget* m_LinePlot;
     ZoomedView m_View;

@@ -46,7 +46,7 @@ void CuttableLinePlotWidget::SetRecording(LiveRecording* recording)
     connect(recording, &LiveRecording::SegmentsChanged, this,
             &CuttableLinePlotWidget::UpdateCutViz);
     connect(recording, &LiveRecording::AttributesChanged, this,
-            &CuttableLinePlotWidget::ResetVerticalAxes);
+            &CuttableLinePlotWidget::UpdateAttributes);
 }
 
 void CuttableLinePlotWidget::SetDataSet(DataSet* dataSet)
@@ -312,7 +312,10 @@ void CuttableLinePlotWidget::zoomOnSelection(const CutSegment&)
 void CuttableLinePlotWidget::openPlot(const CutSegment& segment)
 {
     auto* window = new LinePlotWidget(0);
-    window->SetDataSet(m_DataSet);
+    if (m_Recording)
+        window->SetRecording(m_Recording);
+    else
+        window->SetDataSet(m_DataSet);
     window->SetRange(segment.GetFrom(), segment.GetTo());
     window->resize(600, 300);
     OpenWindow(window, this, m_Recording ? m_Recording->shared_from_this() : nullptr);

@@ -7,6 +7,7 @@
 #include "plotgrid.h"
 #include "selectionrange.h"
 #include "timeaxis.h"
+#include "verticalaxis.h"
 #include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
@@ -26,6 +27,7 @@ PlotAreaWidget::~PlotAreaWidget() = default;
 void PlotAreaWidget::SetDataSet(DataSet* dataSet)
 {
     m_DataSet = dataSet;
+    m_LostPlots.clear();
     m_Plots.clear();
     repaintAll();
 }
@@ -123,6 +125,44 @@ void PlotAreaWidget::TogglePlot(int attribute)
         AddPlot(attribute);
 }
 
+void PlotAreaWidget::UpdateAttributes()
+{
+    bool hasChanged = false;
+    for (const auto& plot : m_Plots)
+        hasChanged = plot->FollowAttribute() || hasChanged;
+    const bool hasLost = takeLostPlots();
+    // Plots that come back paint all of them anew by themselves.
+    if (!returnLostPlots() && (hasChanged || hasLost))
+        repaintAll();
+}
+
+bool PlotAreaWidget::takeLostPlots()
+{
+    const auto isLost = [](const auto& plot) { return plot->HasLostAttribute(); };
+    for (const auto& plot : m_Plots) {
+        if (isLost(plot))
+            m_LostPlots.append(plot->GetVerticalAxis()->GetTitle());
+    }
+    const auto end = std::remove_if(m_Plots.begin(), m_Plots.end(), isLost);
+    const bool hasLost = end != m_Plots.end();
+    m_Plots.erase(end, m_Plots.end());
+    return hasLost;
+}
+
+bool PlotAreaWidget::returnLostPlots()
+{
+    bool isBack = false;
+    for (const QString& name : QStringList(m_LostPlots)) {
+        const int attribute = m_DataSet ? m_DataSet->GetAttributeIndex(name) : -1;
+        if (attribute == -1)
+            continue;
+        m_LostPlots.removeOne(name);
+        AddPlot(attribute);
+        isBack = true;
+    }
+    return isBack;
+}
+
 void PlotAreaWidget::PlotDataRange(int from, int to)
 {
     m_From = from;
@@ -134,7 +174,7 @@ void PlotAreaWidget::PlotDataRange(int from, int to)
 
 void PlotAreaWidget::ClearAndAddPlot(int attribute)
 {
-    m_Plots.clear();
+    ClearPlot();
     AddPlot(attribute);
 }
 
@@ -155,6 +195,7 @@ TimeAxis* PlotAreaWidget::GetTimeAxis() const
 
 void PlotAreaWidget::ClearPlot()
 {
+    m_LostPlots.clear();
     m_Plots.clear();
 }
 

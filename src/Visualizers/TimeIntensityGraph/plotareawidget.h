@@ -65,6 +65,9 @@ public slots:
     /// there is no plot.
     TimeAxis* GetTimeAxis() const;
     void ClearPlot();
+    /// Plots follow their attributes by name. One whose attribute is gone goes, too, and comes back
+    /// with it, below the others. Nothing is painted anew that looks as before.
+    void UpdateAttributes();
     /// Paints everything without tiles, for an export.
     void PaintWidget(QPainter& painter);
 
@@ -96,6 +99,8 @@ protected:
     std::vector<std::unique_ptr<PixmapCache>> m_Tiles;
 
 private:
+    bool takeLostPlots();
+    bool returnLostPlots();
     void appendPlot(std::unique_ptr<LinePlot> plot);
     void layoutPlots();
     void rebuildTiles();
@@ -106,6 +111,8 @@ private:
     void paintCache();
     void paintTile(int index);
 
+    // Of plots that went with their attributes.
+    QStringList m_LostPlots;
     // The size that the tiles were made for.
     QSize m_TileSize;
 };

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "attributelook.h"
 #include "plotmargin.h"
 #include <QString>
 #include <memory>
 
 class AmplitudeLine;
 class CutCollection;
-class DataSet;
 class QPainter;
 class TimeAxis;
 class VerticalAxis;
@@ -31,6 +31,11 @@ public:
     void SetData(double* values, int size, const QString& name);
     void SetAttribute(int attribute);
     int GetAttribute() const { return m_AttributeId; }
+    /// Finds the attribute again by its name, after attributes have come or gone, and takes what
+    /// has changed about it. False when it looks as before.
+    bool FollowAttribute();
+    /// The attribute that is shown was removed; nothing is painted until it comes back.
+    bool HasLostAttribute() const { return m_HasLostAttribute; }
     /// Reads the limits of the vertical axis anew.
     void ResetAxis();
     void SetRange(int from, int to);
@@ -89,4 +94,7 @@ private:
     void setArrayLimits();
 
     int m_DataSize = 0;
+    // As of the last reset of the axis.
+    AttributeLook m_Look;
+    bool m_HasLostAttribute = false;
 };
