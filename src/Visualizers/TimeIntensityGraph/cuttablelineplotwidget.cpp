@@ -6,7 +6,7 @@
 #include "dataset.h"
 #include "lineplotwidget.h"
 #include "pixelmath.h"
-#include "plotfont.h"
+#include "plotlook.h"
 #include "segmentpainter.h"
 #include "timeaxis.h"
 #include "verticalaxis.h"
