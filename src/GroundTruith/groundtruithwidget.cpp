@@ -3,7 +3,7 @@
 #include "groundtruithbehaviorcollection.h"
 #include "grouppalette.h"
 #include "pixelmath.h"
-#include "selectionrange.h"
+#include "plotlook.h"
 #include "timeaxis.h"
 #include <QPaintEvent>
 #include <QPainter>

@@ -3,6 +3,7 @@
 #include "colormaps.h"
 #include "dataset.h"
 #include "lineplotwidget.h"
+#include "plotlook.h"
 #include <QDialog>
 #include <QMouseEvent>
 #include <QPainter>

@@ -7,7 +7,7 @@
 #include "lineplotwidget.h"
 #include "openwindow.h"
 #include "pixelmath.h"
-#include "plotfont.h"
+#include "plotlook.h"
 #include "segmentpainter.h"
 #include "timeaxis.h"
 #include "verticalaxis.h"

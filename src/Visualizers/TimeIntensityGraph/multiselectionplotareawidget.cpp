@@ -1,5 +1,6 @@
 #include "multiselectionplotareawidget.h"
 
+#include "plotlook.h"
 #include "timeaxis.h"
 #include <QMouseEvent>
 #include <QPainter>

@@ -1,6 +1,7 @@
 #include "overlaidlineswidget.h"
 
 #include "overlaidlines.h"
+#include "plotlook.h"
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPainter>

@@ -1,6 +1,7 @@
 #include "plotarealabelwidget.h"
 
 #include "lineplotlabel.h"
+#include "plotlook.h"
 #include "timeaxis.h"
 #include <QContextMenuEvent>
 #include <QMenu>

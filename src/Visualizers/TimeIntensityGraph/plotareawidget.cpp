@@ -4,7 +4,7 @@
 #include "dataset.h"
 #include "pixelmath.h"
 #include "pixmapcache.h"
-#include "plotgrid.h"
+#include "plotlook.h"
 #include "selectionrange.h"
 #include "timeaxis.h"
 #include "verticalaxis.h"

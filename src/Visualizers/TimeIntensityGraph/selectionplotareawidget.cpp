@@ -1,6 +1,6 @@
 #include "selectionplotareawidget.h"
 
-#include "selectionrange.h"
+#include "plotlook.h"
 #include <QPainter>
 
 void SelectionPlotAreaWidget::SetSelection(int from, int to)

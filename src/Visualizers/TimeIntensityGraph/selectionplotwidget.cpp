@@ -1,6 +1,7 @@
 #include "selectionplotwidget.h"
 
 #include "dataset.h"
+#include "plotlook.h"
 #include "timeaxis.h"
 #include <QMouseEvent>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "windowlineplot.h"
 
-#include "selectionrange.h"
+#include "plotlook.h"
 #include "timeaxis.h"
 #include <QMouseEvent>
 #include <QPainter>

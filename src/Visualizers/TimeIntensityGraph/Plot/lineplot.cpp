@@ -3,7 +3,7 @@
 #include "amplitudeline.h"
 #include "dataset.h"
 #include "pixelmath.h"
-#include "plotgrid.h"
+#include "plotlook.h"
 #include "slittedaxis.h"
 #include "verticalaxis.h"
 #include <QPainter>

@@ -3,9 +3,6 @@
 class QPainter;
 class QRect;
 
-/// The opacity of selections and other marks over plots.
-constexpr double MarkOpacity = 0.4;
-
 /// A yellow area with a black outline. The caller sets the opacity.
 void PaintSelected(QPainter& painter, const QRect& area);
 
