@@ -359,7 +359,7 @@ void CuttableLinePlotWidget::paintTimeAxis(QPainter& painter) const
         const int row = axis->ToIndex(float(x));
         if (!m_DataSet || row < 0 || row >= m_DataSet->GetRowCount())
             continue;
-        const QString label = m_DataSet->GetRow(row)->GetLabel();
+        const QString label = m_DataSet->GetRowLabel(row);
         const int labelWidth = painter.fontMetrics().horizontalAdvance(label);
         painter.drawText(QPointF(x - labelWidth / 2.0, height() - 5), label);
     }

@@ -118,7 +118,7 @@ bool OverlaidLines::hasValueInside(const Entry& entry, const QRectF& box, float 
         const int row = entry.m_From + i;
         if (data && (row < 0 || row >= data->GetRowCount()))
             continue;
-        const double value = data ? data->GetRow(row)->GetValue(attribute) : array[i];
+        const double value = data ? data->GetValue(row, attribute) : array[i];
         if (double(low) <= value && value <= double(high))
             return true;
     }
