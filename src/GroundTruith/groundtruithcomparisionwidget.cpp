@@ -4,6 +4,8 @@
 #include "dataset.h"
 #include "groundtruithbehaviorcollection.h"
 #include "groundtruithwidget.h"
+#include "openwindow.h"
+#include "readlabels.h"
 #include "zoomwidget.h"
 #include <QComboBox>
 #include <QEvent>
@@ -133,4 +135,19 @@ bool GroundTruithComparisionWidget::eventFilter(QObject* watched, QEvent* event)
     if (watched == m_ScrollArea && event->type() == QEvent::Resize)
         resizeLinePlotWidget();
     return QMainWindow::eventFilter(watched, event);
+}
+
+void ShowGroundTruith(const SharedRecording& recording, QWidget* parent)
+{
+    auto reference = ReadLabels(parent, recording->GetDataSet(),
+                                GroundTruithComparisionWidget::tr("Text (*.txt)"));
+    if (!reference)
+        return;
+    auto* window = new GroundTruithComparisionWidget;
+    window->SetLabelCollection(recording->GetLabelCollection());
+    window->SetBehaviorCollection(reference.get());
+    window->SetCutCollection(recording->GetCutCollection());
+    window->SetDataSet(recording->GetDataSet());
+    using Shown = std::pair<SharedRecording, decltype(reference)>;
+    OpenWindow(window, parent, std::make_shared<Shown>(recording, std::move(reference)));
 }

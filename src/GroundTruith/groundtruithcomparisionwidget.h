@@ -1,13 +1,11 @@
 #pragma once
 
+#include "liverecording.h"
 #include <QMainWindow>
 
-class CutCollection;
 class CuttableLinePlotWidget;
-class DataSet;
 class GroundTruithBehaviorCollection;
 class GroundTruithWidget;
-class LabelCollection;
 class QComboBox;
 class QScrollArea;
 class ZoomWidget;
@@ -52,3 +50,6 @@ private:
     GroundTruithWidget* m_GroundTruith;
     CuttableLinePlotWidget* m_LinePlot;
 };
+
+/// Shows a reference labelling, from a file that the user picks, beside the recording's own.
+void ShowGroundTruith(const SharedRecording& recording, QWidget* parent);

@@ -290,10 +290,10 @@ void PlotAreaWidget::paintTile(int index)
             painter.translate(0, plotGap);
         // Only a plot with its rows at absolute places can paint a part of them in place.
         if (m_ViewportOnly && plot->HasAbsoluteRows()) {
-            const TimeAxis* axis = plot->GetTimeAxis();
-            const int from = axis->ToIndex(float(left - joint)) - 1;
-            const int to = axis->ToIndex(float(left + tileWidth + joint)) + 1;
-            plot->Paint(painter, std::max(from, 0), std::max(to, 0), false);
+            const TimeAxis& axis = *plot->GetTimeAxis();
+            const RowSpan rows =
+                axis.RowsUnder(left - joint, left + tileWidth + joint, axis.GetRows());
+            plot->Paint(painter, rows.m_From, rows.m_To, false);
         } else {
             plot->Paint(painter, false);
         }
@@ -336,9 +336,7 @@ void PlotAreaWidget::PaintWidget(QPainter& painter)
 
 double PlotAreaWidget::rowToPixel(int row) const
 {
-    const TimeAxis* axis = GetTimeAxis();
-    const double offset = axis->IsUniform() ? axis->ToExactPixel(row) : double(axis->ToPixel(row));
-    return offset + axis->GetStart().x();
+    return GetTimeAxis()->ToX(row);
 }
 
 void PlotAreaWidget::paintRowRange(QPainter& painter, const RowRange& range, const QColor& color,

@@ -6,7 +6,6 @@
 #include "timeaxis.h"
 #include <QPainter>
 #include <cmath>
-#include <limits>
 
 namespace
 {
@@ -52,25 +51,14 @@ private:
 
 SegmentPainter::SegmentPainter(const CutCollection& cuts, const TimeAxis& axis,
                                const QRect& visible, int height)
-    : m_Cuts(cuts), m_Axis(axis), m_Height(height), m_FirstRow(std::numeric_limits<int>::min()),
-      m_LastRow(std::numeric_limits<int>::max())
+    : m_Cuts(cuts), m_Axis(axis), m_Height(height),
+      m_Rows(axis.RowsUnder(visible.left() - 2, visible.right() + 2, axis.GetRows()))
 {
-    if (!axis.IsUniform())
-        return;
-    m_FirstRow = axis.ToIndex(float(visible.left() - 2));
-    m_LastRow = axis.ToIndex(float(visible.right() + 2));
-}
-
-double SegmentPainter::toPixel(int row) const
-{
-    const double offset =
-        m_Axis.IsUniform() ? m_Axis.ToExactPixel(row) : double(m_Axis.ToPixel(row));
-    return offset + m_Axis.GetStart().x();
 }
 
 int SegmentPainter::nextVisible(int start) const
 {
-    return m_Cuts.FindNextTouching(m_FirstRow, m_LastRow, start);
+    return m_Cuts.FindNextTouching(m_Rows.m_From, m_Rows.m_To, start);
 }
 
 void SegmentPainter::PaintFills(QPainter& painter) const
@@ -79,9 +67,10 @@ void SegmentPainter::PaintFills(QPainter& painter) const
     for (int i = nextVisible(0); i != -1; i = nextVisible(i + 1)) {
         const CutSegment& segment = *m_Cuts.GetSegment(i);
         if (segment.GetState() == CutSegment::SEGMENT_LABELED)
-            fills.Add(toPixel(segment.GetFrom()), toPixel(segment.GetTo()), segment.GetColor());
+            fills.Add(m_Axis.ToX(segment.GetFrom()), m_Axis.ToX(segment.GetTo()),
+                      segment.GetColor());
         else if (segment.GetState() == CutSegment::SEGMENT_RESULT)
-            fills.Add(toPixel(segment.GetFrom()), toPixel(segment.GetTo()), Qt::gray);
+            fills.Add(m_Axis.ToX(segment.GetFrom()), m_Axis.ToX(segment.GetTo()), Qt::gray);
     }
 }
 
@@ -91,8 +80,8 @@ void SegmentPainter::PaintOutlines(QPainter& painter, bool collapsed) const
     painter.setPen(Qt::black);
     painter.setBrush(Qt::NoBrush);
     const auto outline = [&](int from, int to) {
-        const double left = toPixel(from);
-        const double right = toPixel(to);
+        const double left = m_Axis.ToX(from);
+        const double right = m_Axis.ToX(to);
         if (right - left < 1)
             narrow.Add(left, right, Qt::black);
         else
@@ -117,7 +106,7 @@ void SegmentPainter::forEachCollapsed(const Outline& outline) const
         const int to = shift + segment.GetTo();
         if (segment.GetState() == CutSegment::SEGMENT_LABELED)
             shift += CollapsedWidth(segment) - segment.GetLength();
-        else if (to >= m_FirstRow && from <= m_LastRow)
+        else if (to >= m_Rows.m_From && from <= m_Rows.m_To)
             outline(from, to);
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "rowspan.h"
 #include <QColor>
 #include <QRect>
 
@@ -28,11 +29,10 @@ private:
     /// Gives an outline the rows at which each segment that is not labelled stands.
     template <class Outline>
     void forEachCollapsed(const Outline& outline) const;
-    double toPixel(int row) const;
 
     const CutCollection& m_Cuts;
     const TimeAxis& m_Axis;
     const int m_Height;
-    int m_FirstRow;
-    int m_LastRow;
+    // Those in sight and a few more.
+    const RowSpan m_Rows;
 };

@@ -18,7 +18,7 @@ constexpr double lineOpacity = 0.4;
 
 MatchPlot::MatchPlot(const QString& title, DataSet* dataSet, QWidget* parent)
     : QGroupBox(title, parent), m_DataSet(dataSet),
-      m_Attribute(MakeAttributeBox(dataSet, tr("The attribute that the lines show"))),
+      m_Attribute(new AttributeBox(dataSet, tr("The attribute that the lines show"))),
       m_Hint(new QLabel), m_Plot(new SelectionMultipleLinePlotWidget)
 {
     m_Plot->setMinimumHeight(smallestPlot);

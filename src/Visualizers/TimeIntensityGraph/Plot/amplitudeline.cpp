@@ -42,10 +42,17 @@ void AmplitudeLine::SetRange(int from, int to)
 
 void AmplitudeLine::GetRange(int& from, int& to) const
 {
+    const RowSpan rows = getRange();
+    from = rows.m_From;
+    to = rows.m_To;
+}
+
+RowSpan AmplitudeLine::getRange() const
+{
     const int count = m_DataSet ? m_DataSet->GetRowCount() : m_ArraySize;
-    const bool all = m_From == -1 || m_To == -1;
-    from = all ? 0 : std::max(m_From, 0);
-    to = all ? count : std::min(m_To, count);
+    if (m_From == -1 || m_To == -1)
+        return {0, count};
+    return {std::max(m_From, 0), std::min(m_To, count)};
 }
 
 void AmplitudeLine::Paint(QPainter& painter)
@@ -64,11 +71,9 @@ void AmplitudeLine::PaintDataSet(QPainter& painter)
 {
     if (m_Color.isValid())
         m_Color.setAlphaF(m_Alpha);
-    int from = 0;
-    int to = 0;
-    GetRange(from, to);
+    const RowSpan rows = getRange();
     painter.setPen(FastPen(painter, m_Color, double(m_PenWidth)));
-    paintRows(painter, from, to, from);
+    paintRows(painter, rows, rows.m_From);
 }
 
 void AmplitudeLine::PaintArray(QPainter& painter)
@@ -76,25 +81,24 @@ void AmplitudeLine::PaintArray(QPainter& painter)
     if (m_Color.isValid())
         m_Color.setAlphaF(m_Alpha);
     painter.setPen(FastPen(painter, m_Color, double(m_PenWidth)));
-    int from = 0;
-    int to = m_ArraySize;
-    cutToVisible(painter, 0, from, to);
+    const RowSpan seen = visibleRows(painter, 0, {0, m_ArraySize});
     QVector<QLineF> lines;
-    lines.reserve(std::max(to - from, 0));
-    for (int i = from + 1; i < to; ++i) {
+    lines.reserve(std::max(seen.GetLength(), 0));
+    for (int i = seen.m_From + 1; i < seen.m_To; ++i) {
         if (std::isfinite(m_Array[i - 1]) && std::isfinite(m_Array[i]))
             lines.append(QLineF(toPoint(i - 1, m_Array[i - 1]), toPoint(i, m_Array[i])));
     }
     painter.drawLines(lines);
 }
 
-void AmplitudeLine::paintRows(QPainter& painter, int from, int to, int origin) const
+void AmplitudeLine::paintRows(QPainter& painter, const RowSpan& rows, int origin) const
 {
     if (m_AttributeId < 0 || m_AttributeId >= m_DataSet->GetAttributeCount())
         return;
-    cutToVisible(painter, origin, from, to);
-    const LineReduction reduction(*m_DataSet, m_AttributeId, columnRows(painter));
-    const std::vector<LinePoint> points = reduction.Reduce(from, to);
+    const double columnWidth = LineReduction::GetColumnWidth(HorizontalScale(painter));
+    const LineReduction reduction(*m_DataSet, m_AttributeId,
+                                  PixelColumns(*m_TimeAxis, origin, columnWidth));
+    const auto points = reduction.Reduce(visibleRows(painter, origin, rows));
     QPolygonF piece;
     piece.reserve(int(points.size()));
     for (const LinePoint& point : points) {
@@ -108,33 +112,18 @@ void AmplitudeLine::paintRows(QPainter& painter, int from, int to, int origin) c
 
 QPointF AmplitudeLine::toPoint(int index, double value) const
 {
-    const double offset = m_TimeAxis->IsUniform() ? m_TimeAxis->ToExactPixel(index)
-                                                  : double(m_TimeAxis->ToPixel(index));
     const double y =
         m_VerticalAxis->GetBottom().y() - double(m_VerticalAxis->ToPixel(float(value)));
-    return {offset + m_TimeAxis->GetStart().x(), SafeCoordinate(y)};
+    return {m_TimeAxis->ToX(index), SafeCoordinate(y)};
 }
 
-void AmplitudeLine::cutToVisible(const QPainter& painter, int origin, int& from, int& to) const
+RowSpan AmplitudeLine::visibleRows(const QPainter& painter, int origin, const RowSpan& rows) const
 {
-    const double rowWidth = m_TimeAxis->ToExactPixel(1);
-    if (!m_TimeAxis->IsUniform() || rowWidth <= 0)
-        return;
-    // One row more on both sides, so that the line runs on beyond the edge, and some pixels for
-    // the width of the pen and for columns that would otherwise be cut in the picture.
+    // Some pixels more on both sides, for the width of the pen and for columns that would otherwise
+    // be cut in the picture.
     const double margin = 2 + double(m_PenWidth);
     const QRectF visible = VisibleRect(painter);
-    const double start = m_TimeAxis->GetStart().x();
-    const double left = origin + (visible.left() - margin - start) / rowWidth - 1;
-    const double right = origin + (visible.right() + margin - start) / rowWidth + 2;
-    from = std::max(from, TruncateToInt(std::floor(left)));
-    to = std::min(to, TruncateToInt(std::ceil(right)));
-}
-
-double AmplitudeLine::columnRows(const QPainter& painter) const
-{
-    constexpr double everyRow = 1;
-    if (!m_TimeAxis->IsUniform())
-        return everyRow;
-    return LineReduction::ColumnRows(m_TimeAxis->ToExactPixel(1) * HorizontalScale(painter));
+    const RowSpan seen = m_TimeAxis->RowsUnder(visible.left() - margin, visible.right() + margin,
+                                               {rows.m_From - origin, rows.m_To - origin});
+    return {seen.m_From + origin, seen.m_To + origin};
 }

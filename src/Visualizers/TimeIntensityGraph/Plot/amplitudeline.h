@@ -1,5 +1,6 @@
 #pragma once
 
+#include "rowspan.h"
 #include <QColor>
 #include <QPointF>
 
@@ -43,9 +44,10 @@ public:
     void GetRange(int& from, int& to) const;
 
 protected:
-    /// The line through the rows from up to, but without, to, with row origin at the axis start.
-    /// Rows that the painter cannot show are left out.
-    void paintRows(QPainter& painter, int from, int to, int origin) const;
+    /// The line through these rows, with row origin at the axis start. Rows that the painter cannot
+    /// show are left out.
+    void paintRows(QPainter& painter, const RowSpan& rows, int origin) const;
+    RowSpan getRange() const;
 
     int m_AttributeId;
     DataSet* m_DataSet = nullptr;
@@ -61,6 +63,5 @@ protected:
 
 private:
     QPointF toPoint(int index, double value) const;
-    void cutToVisible(const QPainter& painter, int origin, int& from, int& to) const;
-    double columnRows(const QPainter& painter) const;
+    RowSpan visibleRows(const QPainter& painter, int origin, const RowSpan& rows) const;
 };

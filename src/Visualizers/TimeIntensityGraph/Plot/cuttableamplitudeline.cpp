@@ -14,11 +14,9 @@ void CuttableAmplitudeLine::PaintDataSet(QPainter& painter)
 {
     const int rows = m_DataSet->GetRowCount();
     m_TimeAxis->SetNumberOfPoints(rows);
-    int from = 0;
-    int to = 0;
-    GetRange(from, to);
+    const RowSpan range = getRange();
     painter.setPen(FastPen(painter, Qt::black, 0.5));
-    paintRows(painter, from, std::min(to + 1, rows - 1), 0);
+    paintRows(painter, {range.m_From, std::min(range.m_To + 1, rows - 1)}, 0);
 }
 
 void CuttableAmplitudeLine::PaintCollapsed(QPainter& painter)

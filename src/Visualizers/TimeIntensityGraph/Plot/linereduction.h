@@ -1,7 +1,8 @@
 #pragma once
 
 #include "columnsummary.h"
-#include <QtGlobal>
+#include "pixelcolumns.h"
+#include <limits>
 #include <vector>
 
 class DataSet;
@@ -17,43 +18,44 @@ struct LinePoint {
 
 /// The rows that a line has to pass through to look as if it passed through all of them.
 ///
-/// Rows are grouped into columns much narrower than a pixel, of which the first, the lowest, the
-/// highest and the last row are kept, and both rows of a jump that makes up the column. Columns are
-/// counted from the first row of the recording, so that neighbouring tiles agree. Rows without a
-/// finite value break the line.
+/// Rows are grouped into columns much narrower than a pixel, of which the line takes the first, the
+/// lowest, the highest and the last row, and both rows of a jump that makes up the column. Rows
+/// without a finite value break the line, also inside a column, unless it has more gaps than a few.
 class LineReduction
 {
 public:
-    /// columnRows: rows in a column on average; all rows are kept when there are no
-    /// more of them than points of a column.
-    LineReduction(const DataSet& data, int attribute, double columnRows);
+    LineReduction(const DataSet& data, int attribute, const PixelColumns& columns)
+        : m_Data(data), m_Attribute(attribute), m_Columns(columns)
+    {
+    }
 
-    /// The column size for rows of that width in device pixels.
-    static double ColumnRows(double rowWidth);
+    /// The width of the columns, in logical pixels, for that many device pixels in each of these.
+    static double GetColumnWidth(double scale);
 
-    /// The points for the rows from up to, but without, to; all must exist. Breaks stand only
-    /// between points.
-    std::vector<LinePoint> Reduce(int from, int to) const;
+    /// The points for these rows, which must all exist. No two breaks follow each other.
+    std::vector<LinePoint> Reduce(const RowSpan& rows) const;
 
 private:
-    struct Column {
+    struct Contents {
         ColumnExtremes m_Extremes;
         /// The row before the jump, -1 without one.
         int m_JumpRow = -1;
-        /// One value but for a step or a spike.
-        bool m_IsFlat = false;
+        /// How often the value changes from one row to the next; not counted in a summary.
+        int m_Changes = std::numeric_limits<int>::max();
     };
 
-    /// The first row of a column.
-    int columnStart(qint64 column) const;
     double value(int row) const;
-    Column readColumn(int from, int to) const;
-    void appendRows(std::vector<LinePoint>& points, int from, int to) const;
-    void appendColumn(std::vector<LinePoint>& points, int from, int to) const;
+    int findChange(int from, int to, bool isFinite) const;
+    bool canSummarize(const RowSpan& rows, double columnRows) const;
+    Contents readColumn(const RowSpan& rows, double columnRows) const;
+    Contents readRows(const RowSpan& rows) const;
+    void appendRows(std::vector<LinePoint>& points, const RowSpan& rows) const;
+    void appendColumn(std::vector<LinePoint>& points, const RowSpan& rows, double columnRows) const;
+    void appendPieces(std::vector<LinePoint>& points, const RowSpan& rows, int splits) const;
+    void appendStroke(std::vector<LinePoint>& points, const RowSpan& rows,
+                      const Contents& contents) const;
 
     const DataSet& m_Data;
     const int m_Attribute;
-    const double m_ColumnRows;
-    // Columns start at multiples of this many rows.
-    const int m_Unit;
+    const PixelColumns m_Columns;
 };

@@ -4,11 +4,16 @@
 
 float SlittedAxis::ToPixel(int index) const
 {
+    return float(ToExactPixel(index));
+}
+
+double SlittedAxis::ToExactPixel(int index) const
+{
     const double half = m_LastIndex * 0.5;
     const double halfWidth = double(float(width())) * 0.5;
     if (index < half)
-        return float(double(index) * index / (half * half) * halfWidth);
+        return double(index) * index / (half * half) * halfWidth;
     const double root = std::sqrt(half);
     const double divisor = root > 0 ? root : 1.0;
-    return float(std::sqrt(index - half) / divisor * halfWidth + halfWidth);
+    return std::sqrt(index - half) / divisor * halfWidth + halfWidth;
 }

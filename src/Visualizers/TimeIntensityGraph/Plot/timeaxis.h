@@ -1,15 +1,18 @@
 #pragma once
 
+#include "rowspan.h"
 #include <QColor>
 #include <QPointF>
 #include <QString>
 
 class QPainter;
 
-/// Maps rows to horizontal pixels and back, linearly; lenses derive from it.
+/// Maps rows to horizontal pixels and back, linearly; lenses derive from it. All pixels are
+/// logical.
 ///
 /// ToPixel gives an offset from the axis start, which every caller adds; ToIndex takes an absolute
-/// pixel.
+/// pixel. A lens has to override these two only: everything else follows them. It tells where its
+/// rows turn back, if they do.
 class TimeAxis
 {
 public:
@@ -23,10 +26,18 @@ public:
     TimeAxis(const TimeAxis&) = delete;
     TimeAxis& operator=(const TimeAxis&) = delete;
 
-    /// Rows are mapped by this class itself, all equally wide.
-    bool IsUniform() const;
-    /// ToPixel of a uniform axis before it is narrowed to single precision.
-    double ToExactPixel(double index) const;
+    /// ToPixel before it is narrowed to single precision.
+    virtual double ToExactPixel(int index) const;
+    /// The end of the rows that stand in order, from a first one on: all of them from left to right
+    /// or all from right to left.
+    virtual int OrderedEnd(int first) const;
+
+    /// The absolute pixel of a row.
+    double ToX(int index) const { return m_Start.x() + ToExactPixel(index); }
+    /// Of the given rows, those through which a line passes between two absolute pixels, and two
+    /// more on either side. Rows elsewhere may be among them on an axis that turns back.
+    RowSpan RowsUnder(double left, double right, const RowSpan& rows) const;
+    RowSpan GetRows() const { return {0, m_LastIndex + 1}; }
 
     void SetNumberOfPoints(int count) { m_LastIndex = count - 1; }
     /// The number of points less one.
@@ -49,4 +60,7 @@ protected:
     QColor m_Color = Qt::black;
     QString m_Title;
     int m_LastIndex = 0;
+
+private:
+    double linearPixel(int index) const { return width() * index / intervals(); }
 };

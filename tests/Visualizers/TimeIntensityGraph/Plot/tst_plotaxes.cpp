@@ -10,6 +10,8 @@
 #include <cmath>
 #include <limits>
 
+Q_DECLARE_METATYPE(RowSpan)
+
 class TestPlotAxes : public QObject
 {
     Q_OBJECT
@@ -17,6 +19,8 @@ private slots:
     void timeAxisMapsBothWays_data();
     void timeAxisMapsBothWays();
     void slittedAxis();
+    void findsRowsUnderPixels_data();
+    void findsRowsUnderPixels();
     void verticalAxisMapsBothWays_data();
     void verticalAxisMapsBothWays();
     void plotLayout();
@@ -74,7 +78,45 @@ void TestPlotAxes::slittedAxis()
     QCOMPARE(axis.ToIndex(110), 25);
     axis.SetNumberOfPoints(1);
     QCOMPARE(axis.ToPixel(0), 200.0F);
-    QVERIFY(!axis.IsUniform());
+}
+
+void TestPlotAxes::findsRowsUnderPixels_data()
+{
+    QTest::addColumn<int>("shift");
+    QTest::addColumn<double>("left");
+    QTest::addColumn<double>("right");
+    QTest::addColumn<RowSpan>("rows");
+    // Twenty rows stand ten pixels apart; from the tenth on they are shifted.
+    QTest::newRow("inside") << 0 << 45.0 << 72.0 << RowSpan{3, 10};
+    QTest::newRow("everything") << 0 << -5.0 << 500.0 << RowSpan{0, 20};
+    QTest::newRow("between two rows") << 0 << 51.0 << 58.0 << RowSpan{4, 8};
+    QTest::newRow("out of sight") << 0 << -50.0 << -20.0 << RowSpan{0, 0};
+    QTest::newRow("a gap") << 500 << 200.0 << 300.0 << RowSpan{8, 12};
+    // The line goes back through all that lies between.
+    QTest::newRow("before the turn") << -1000 << 45.0 << 52.0 << RowSpan{3, 12};
+    QTest::newRow("across the turn") << -1000 << -500.0 << -400.0 << RowSpan{8, 12};
+    QTest::newRow("behind the turn") << -1000 << -855.0 << -848.0 << RowSpan{8, 18};
+    QTest::newRow("left of the turn") << -1000 << -920.0 << -905.0 << RowSpan{0, 0};
+    QTest::newRow("on both sides") << -55 << 52.0 << 58.0 << RowSpan{4, 14};
+}
+
+void TestPlotAxes::findsRowsUnderPixels()
+{
+    struct ShiftedAxis : TimeAxis {
+        float ToPixel(int index) const override
+        {
+            return float(10 * index + (index < 10 ? 0 : m_Shift));
+        }
+        int OrderedEnd(int first) const override { return first < 10 && m_Shift < 0 ? 10 : 20; }
+        int m_Shift = 0;
+    };
+    ShiftedAxis axis;
+    QFETCH(int, shift);
+    QFETCH(double, left);
+    QFETCH(double, right);
+    axis.m_Shift = shift;
+    axis.SetNumberOfPoints(20);
+    QTEST(axis.RowsUnder(left, right, axis.GetRows()), "rows");
 }
 
 void TestPlotAxes::verticalAxisMapsBothWays_data()
@@ -158,7 +200,7 @@ void TestPlotAxes::axisTypeKeepsOrLosesPoints()
     QCOMPARE(plot.GetTimeAxis()->GetLastIndex(), 3);
     QCOMPARE(plot.GetTimeAxis()->GetEnd(), QPointF(340, 91));
     plot.ChangeAxisType(0);
-    QVERIFY(plot.GetTimeAxis()->IsUniform());
+    QVERIFY(!dynamic_cast<SlittedAxis*>(plot.GetTimeAxis()));
     QCOMPARE(plot.GetTimeAxis()->GetLastIndex(), 2);
 }
 
