@@ -33,9 +33,9 @@ std::unique_ptr<PatternsDataObject> SaveTemplate(QWidget* parent, DataSet* data,
 bool SearchForRows(QWidget* parent, DataSet* data, CutCollection* cuts, int from, int to)
 {
     const auto pattern = SaveTemplate(parent, data, from, to);
-    return pattern && ModalDialog<TemplateWizard>(data, cuts, CutSegment::SEGMENT_CUT,
-                                                  pattern.get(), parent)
-                          .IsAccepted();
+    return pattern &&
+           ModalDialog<TemplateWizard>(data, cuts, CutSegment::SEGMENT_CUT, pattern.get(), parent)
+               .IsAccepted();
 }
 
 bool SearchTemplates(QWidget* parent, DataSet* data, CutCollection* cuts)
@@ -53,5 +53,6 @@ bool SearchThresholds(QWidget* parent, DataSet* data, CutCollection* cuts)
 bool SearchRules(QWidget* parent, DataSet* data, CutCollection* cuts, LabelCollection* labels)
 {
     const auto mode = askSearchMode(parent);
-    return mode && ModalDialog<RuleAssociationWizard>(data, cuts, labels, *mode, parent).IsAccepted();
+    return mode &&
+           ModalDialog<RuleAssociationWizard>(data, cuts, labels, *mode, parent).IsAccepted();
 }
