@@ -3,7 +3,6 @@
 #include "cutcollection.h"
 #include "dataset.h"
 #include "progress.h"
-#include "rowwindow.h"
 #include "stepprogress.h"
 #include <algorithm>
 
@@ -69,10 +68,9 @@ bool ThresholdExtractor::Extract(Progress& progress)
 std::vector<char> ThresholdExtractor::findMetRows(RowSpan rows) const
 {
     std::vector<char> isMet(size_t(rows.GetLength()), 1);
-    std::vector<double> values(isMet.size());
     for (const ThresholdParameter& parameter : m_Parameters) {
-        ReadRows(*m_DataSet, parameter.m_Attribute, rows.m_From, rows.m_To, values.data());
-        for (size_t i = 0; i < values.size(); ++i)
+        const double* values = m_DataSet->GetColumn(parameter.m_Attribute).data() + rows.m_From;
+        for (size_t i = 0; i < isMet.size(); ++i)
             isMet[i] = char(isMet[i] & int(parameter.IsMetBy(values[i])));
     }
     return isMet;

@@ -6,7 +6,8 @@
 struct fftw_plan_s;
 
 /// A prepared Fourier transform of one length between real values and the lower half of their
-/// spectrum, length / 2 + 1 complex values. Base of the two directions.
+/// spectrum, length / 2 + 1 complex values. Base of the two directions; the work is done by FFTW
+/// (Frigo and Johnson 2005).
 ///
 /// Plans are made on the main thread. Before the first one, what the library has learnt in
 /// earlier runs is read from "wisdom3.txt" in the working directory; it is written back after

@@ -1,6 +1,5 @@
 #include "rowwindow.h"
 
-#include "dataset.h"
 #include "processorclones.h"
 #include <algorithm>
 #include <cmath>
@@ -18,48 +17,43 @@ bool holdsGap(const double* values, int count)
     return gaps != 0;
 }
 
-} // namespace
-
-void ReadRows(const DataSet& data, int attribute, int from, int to, double* values)
+bool isNumber(double value)
 {
-    const ConstSpan<double> rows = data.GetColumn(attribute).Part(from, to);
-    std::copy(rows.begin(), rows.end(), values);
+    return std::isfinite(value);
 }
 
-RowWindow::RowWindow(const DataSet& data, int attribute, int start, int end)
-    : m_Data(data), m_Attribute(attribute), m_Start(start), m_End(end)
+} // namespace
+
+RowWindow::RowWindow(ConstSpan<double> rows) : m_Rows(rows)
 {
-    for (int row = start; row < end; ++row) {
-        double value = 0.0;
-        ReadRows(data, attribute, row, row + 1, &value);
-        if (std::isfinite(value)) {
-            m_LastNumber = value;
+    const auto* number = std::find_if(rows.begin(), rows.end(), isNumber);
+    if (number != rows.end())
+        m_NumberBefore = *number;
+}
+
+void RowWindow::passRows(int from)
+{
+    for (int row = from - 1; row >= m_From; --row) {
+        if (isNumber(m_Rows[row])) {
+            m_NumberBefore = m_Rows[row];
             break;
         }
     }
+    m_From = from;
 }
 
 const double* RowWindow::Get(int from, int to)
 {
-    const int first = std::max(from, m_To);
-    std::copy(m_Values.begin() + std::min(from, m_To) - m_From, m_Values.begin() + m_To - m_From,
-              m_Values.begin());
-    if (m_Values.size() < size_t(to - from))
-        m_Values.resize(size_t(to - from));
-    m_From = from;
+    passRows(from);
+    const int firstNew = std::max(from, m_To);
+    if (holdsGap(m_Rows.data() + firstNew, to - firstNew))
+        m_GapEnd = to;
     m_To = to;
-    double* values = m_Values.data() + (first - from);
-    ReadRows(m_Data, m_Attribute, m_Start + first, m_Start + to, values);
-    bridgeGaps(values, to - first);
-    return m_Values.data();
-}
-
-void RowWindow::bridgeGaps(double* values, int count)
-{
-    for (int i = holdsGap(values, count) ? 0 : count; i < count; ++i) {
-        if (!std::isfinite(values[i]))
-            values[i] = i > 0 ? values[i - 1] : m_LastNumber;
-    }
-    if (count > 0)
-        m_LastNumber = values[count - 1];
+    if (m_GapEnd <= from)
+        return m_Rows.data() + from;
+    m_Bridged.assign(m_Rows.data() + from, m_Rows.data() + to);
+    double number = m_NumberBefore;
+    for (double& value : m_Bridged)
+        value = number = isNumber(value) ? value : number;
+    return m_Bridged.data();
 }

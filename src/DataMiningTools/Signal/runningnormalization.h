@@ -13,8 +13,8 @@ class RowWindow;
 ///
 /// The first window is not advanced before it is used and the value that leaves is that
 /// (width - 1) / 2 before the middle: the value after the first window counts twice in it and in
-/// all that follow. Stored thresholds hold for confidences with this term. A sum of squares that
-/// rounding brings below 0 is held at 0.
+/// all that follow. Confidences are off by that, the more the shorter the window, and may go
+/// beyond 1. A sum of squares that rounding brings below 0 is held at 0.
 class RunningNormalization
 {
 public:

@@ -42,9 +42,9 @@ void CorrelateWithSignal(RowWindow& rows, const SignalTemplateDataObject& signal
     CorrelateNormalized(rows, filter.get(), signal.GetLength(), float(signal.GetSd()), sink);
 }
 
-AttributeSearch::AttributeSearch(const DataSet& data, int attribute, RowSpan rows,
+AttributeSearch::AttributeSearch(ConstSpan<double> rows,
                                  const std::vector<SignalGroups::Member>& members)
-    : m_Data(data), m_Attribute(attribute), m_Rows(rows), m_SignalCount(int(members.size()))
+    : m_Rows(rows), m_SignalCount(int(members.size()))
 {
     for (const auto& member : members)
         m_LongestSignal = std::max(m_LongestSignal, member.m_Signal->GetLength());
@@ -52,16 +52,11 @@ AttributeSearch::AttributeSearch(const DataSet& data, int attribute, RowSpan row
 
 AttributeSearch::~AttributeSearch() = default;
 
-RowWindow AttributeSearch::readRows() const
-{
-    return RowWindow(m_Data, m_Attribute, m_Rows.m_From, m_Rows.m_To);
-}
-
 void AttributeSearch::AddCorrelation(const SignalTemplateDataObject& signal,
                                      std::vector<float>& sums)
 {
     const auto filter = copySignal(signal);
-    RowWindow rows = readRows();
+    RowWindow rows(m_Rows);
     if (m_SignalCount == 1) {
         CorrelateByBlocks(rows, filter.get(), signal.GetLength(), adderTo(sums, signal));
         return;
@@ -74,6 +69,6 @@ void AttributeSearch::AddCorrelation(const SignalTemplateDataObject& signal,
 void AttributeSearch::AddNormalizedCorrelation(const SignalTemplateDataObject& signal,
                                                std::vector<float>& sums) const
 {
-    RowWindow rows = readRows();
+    RowWindow rows(m_Rows);
     CorrelateWithSignal(rows, signal, adderTo(sums, signal));
 }

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "constspan.h"
 #include "normalizedcorrelation.h"
-#include "rowspan.h"
 #include "signalgroups.h"
 #include <memory>
 
-class DataSet;
 class DataSpectra;
 
 /// The normalised correlation of a signal with the rows, by its stored mean and deviation, both
@@ -18,10 +17,8 @@ void CorrelateWithSignal(RowWindow& rows, const SignalTemplateDataObject& signal
 class AttributeSearch
 {
 public:
-    /// Borrows data. The rows and the attribute exist; members: with the signals to come, none of
-    /// them longer than the rows.
-    AttributeSearch(const DataSet& data, int attribute, RowSpan rows,
-                    const std::vector<SignalGroups::Member>& members);
+    /// Borrows the values. members: with the signals to come, none of them longer than the rows.
+    AttributeSearch(ConstSpan<double> rows, const std::vector<SignalGroups::Member>& members);
     ~AttributeSearch();
 
     /// Adds the sums of products at the windows' middles; what is no positive number adds nothing.
@@ -31,11 +28,7 @@ public:
                                   std::vector<float>& sums) const;
 
 private:
-    RowWindow readRows() const;
-
-    const DataSet& m_Data;
-    int m_Attribute;
-    RowSpan m_Rows;
+    ConstSpan<double> m_Rows;
     int m_SignalCount;
     int m_LongestSignal = 0;
     // Made when several signals are to be correlated with them.

@@ -15,8 +15,8 @@ struct Source {
 
 std::unique_ptr<double[]> copyRows(const DataSet& data, int start, int end, int attribute)
 {
-    std::unique_ptr<double[]> values(new double[size_t(end - start)]);
     const ConstSpan<double> rows = data.GetColumn(attribute).Part(start, end);
+    std::unique_ptr<double[]> values(new double[size_t(end - start)]);
     std::copy(rows.begin(), rows.end(), values.get());
     return values;
 }

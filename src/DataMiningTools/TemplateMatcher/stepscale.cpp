@@ -15,7 +15,8 @@ StepScale StepScale::OverAll(int steps, int width)
     scale.m_Start = PlotLeftMargin;
     const int count = std::max(steps, 1);
     scale.m_PixelsPerStep = float(std::max(width - PlotLeftMargin, 0)) / float(count);
-    // The way back takes one pixel more than the way there: kept.
+    // The way back takes one pixel more than the way there: a band does not reach the steps of the
+    // last pixel.
     scale.m_PixelsBack = double(std::max(width - PlotLeftMargin + 1, 1)) / count;
     return scale;
 }

@@ -174,10 +174,13 @@ bool TemplateMatcher::matchGroup(RowSpan rows, const SignalGroups::Group& group,
                                  Results& results)
 {
     const auto fitting = fittingOf(group, m_DataSet, rows);
-    if (!fitting.empty() && getMeasureName(m_Measure).isEmpty())
-        return refuse(QStringLiteral("There is no such measure."));
     m_Done += int(group.m_Members.size() - fitting.size());
-    AttributeSearch search(*m_DataSet, group.m_Attribute, rows, fitting);
+    if (fitting.empty())
+        return true;
+    if (getMeasureName(m_Measure).isEmpty())
+        return refuse(QStringLiteral("There is no such measure."));
+    const ConstSpan<double> column = m_DataSet->GetColumn(group.m_Attribute);
+    AttributeSearch search(column.Part(rows.m_From, rows.m_To), fitting);
     for (const auto& [collection, signal] : fitting) {
         if (m_Measure == MEASURE_CORRELATION)
             search.AddCorrelation(*signal, results[collection]);
@@ -238,7 +241,7 @@ void TemplateMatcher::fastNormalizedRunningCorrelation(const DataSet* dataSet,
 {
     if (!canMatch(dataSet, signal, attribute, {startIndex, endIndex}))
         return;
-    RowWindow rows(*dataSet, attribute, startIndex, endIndex);
+    RowWindow rows(dataSet->GetColumn(attribute).Part(startIndex, endIndex));
     float* middles = results + (signal->GetLength() - 1) / 2;
     CorrelateWithSignal(rows, *signal, [=](int first, const float* confidences, int count) {
         std::copy_n(confidences, count, middles + first);
@@ -251,7 +254,7 @@ void TemplateMatcher::directCorrelation(const DataSet* dataSet,
 {
     if (!canMatch(dataSet, signal, attribute, {startIndex, endIndex}))
         return;
-    RowWindow rows(*dataSet, attribute, startIndex, endIndex);
+    RowWindow rows(dataSet->GetColumn(attribute).Part(startIndex, endIndex));
     CorrelateDirectly(rows.Get(0, rows.GetLength()), rows.GetLength(), *signal, results);
 }
 
@@ -262,7 +265,7 @@ void TemplateMatcher::normalizedCorrelation(const DataSet* dataSet,
     if (!canMatch(dataSet, signal, attribute, {startIndex, endIndex}))
         return;
     const int length = dataSet->GetRowCount();
-    RowWindow rows(*dataSet, attribute, 0, length);
+    RowWindow rows(dataSet->GetColumn(attribute));
     const double* column = rows.Get(0, length);
     CorrelateNormalized(column + startIndex, endIndex - startIndex, *signal, {column, length},
                         results);
@@ -275,6 +278,6 @@ void TemplateMatcher::normalizedRunningCorrelation(const DataSet* dataSet,
 {
     if (!canMatch(dataSet, signal, attribute, {startIndex, endIndex}))
         return;
-    RowWindow rows(*dataSet, attribute, startIndex, endIndex);
+    RowWindow rows(dataSet->GetColumn(attribute).Part(startIndex, endIndex));
     CorrelateNormalizedByWindow(rows.Get(0, rows.GetLength()), rows.GetLength(), *signal, results);
 }

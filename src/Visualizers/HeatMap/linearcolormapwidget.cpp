@@ -7,7 +7,7 @@
 namespace
 {
 
-// The scale looks the same whatever scheme the plots around it use.
+// Whatever scheme the plots around it use.
 constexpr int colorMap = 3;
 
 QColor colorAt(double value)

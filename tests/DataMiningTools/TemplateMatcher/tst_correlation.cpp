@@ -167,11 +167,11 @@ void TestCorrelation::sumsProducts()
         QVERIFY2(worstDistance(whole, expected) <= 1, qPrintable(QString::number(length)));
         Confidences blocks(data.size(), 7.0F);
         const auto table = MakeColumn(data);
-        RowWindow rows(*table, 0, 0, length);
+        RowWindow rows(table->GetColumn(0));
         CorrelateByBlocks(rows, filter.data(), filterLength, writer(blocks, filterLength));
         QVERIFY2(worstDistance(blocks, expected) <= 1, qPrintable(QString::number(length)));
         Confidences kept(data.size(), 7.0F);
-        RowWindow sameRows(*table, 0, 0, length);
+        RowWindow sameRows(table->GetColumn(0));
         DataSpectra spectra(sameRows, std::min(length, filterLength + length / 3));
         spectra.Correlate(filter.data(), filterLength, writer(kept, filterLength));
         QVERIFY2(worstDistance(kept, expected) <= 1, qPrintable(QString::number(length)));
@@ -208,7 +208,7 @@ void TestCorrelation::runsSumsStepByStep()
         const auto table = MakeColumn(data);
         for (const int m : {1, 2, 40, 401, 5990, 6001}) {
             const Steps expected(data, m);
-            RowWindow rows(*table, 0, 0, 6001);
+            RowWindow rows(table->GetColumn(0));
             RunningNormalization running(rows, m, 1700);
             const int h = (m - 1) / 2;
             for (int start = 0, count = 0; start < 6002 - m; start += count) {

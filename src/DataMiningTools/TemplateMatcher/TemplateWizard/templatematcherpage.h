@@ -13,7 +13,7 @@ class ThresholdSlider;
 class TwoDimensionalHeatMapViz;
 
 /// An older form of ResultFilterPage without single matches: shows the template and lets the user
-/// find a threshold, which it hands on. No wizard adds it: kept for its parts.
+/// find a threshold, which it hands on. No wizard adds it.
 class TemplateMatcherPage : public TemplateSearchPage
 {
     Q_OBJECT
