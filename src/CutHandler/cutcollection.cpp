@@ -181,7 +181,7 @@ bool CutCollection::MergeCuts(int from, int to)
         merged.back() = segment;
         if (takesNext)
             segment->MoveTo(segments[++i]->GetTo());
-        // After a removal one segment goes unvisited: kept, the next press takes the rest.
+        // After a removal one segment goes unvisited: the next press takes the rest.
         if (i + 1 < segments.size())
             merged.push_back(segments[++i]);
     }
@@ -276,7 +276,7 @@ void CutCollection::MoveSegment(DataSet* dataSet, CutSegment* segment, int from,
             m_Segments.Insert(0, newSegment(0, from));
     } else if (index == last) {
         m_Segments.Get(index - 1)->SetTo(from);
-        // The tail starts where the segment does and covers it: kept.
+        // The tail starts where the segment does and covers it: those rows belong to both.
         if (dataSet && to != dataSet->GetRowCount())
             m_Segments.Append(newSegment(from, dataSet->GetRowCount()));
     } else {

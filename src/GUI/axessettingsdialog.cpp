@@ -107,7 +107,7 @@ void AxesSettingsDialog::adjustAxesValues()
     for (size_t i = 0; i < m_Rows.size(); ++i) {
         const Row& row = m_Rows[i];
         ranges.insert(int(i), qMakePair(row.m_Minimum->GetLimit(), row.m_Maximum->GetLimit()));
-        // The boxes never show what is stored, so each save sets all zero lines afresh: kept.
+        // The boxes never show what is stored: a zero line that is not ticked again is gone.
         zeroLines.insert(int(i), row.m_Baseline->isChecked());
     }
     m_DataSet->SetAxisRanges(ranges);

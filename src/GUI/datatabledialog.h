@@ -17,8 +17,9 @@ public:
 public slots:
     void navPreviousPage();
     void navNextPage();
-    /// Goes to the page whose number stands in the page box. Page n starts at row n * 100
-    /// counted from 0, though the box says "1" for the first page when it opens: kept.
+    /// Goes to the page whose number stands in the page box. Page n starts at row n * 100 counted
+    /// from 0, though the box says "1" for the first page when it opens: typing that 1 goes on to
+    /// row 101.
     void pageManuallySet();
 
 private:

@@ -24,7 +24,7 @@ public slots:
     void viewSignal();
     /// Deletes the current signal, without asking.
     void deleteSignal();
-    /// Only closes the form; name and description are shown, never written back: kept.
+    /// Only closes the form; name and description are shown, never written back.
     void save() { accept(); }
     void cancel() { reject(); }
 
