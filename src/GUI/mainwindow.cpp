@@ -40,6 +40,22 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+namespace
+{
+
+// Beside the menus: no higher than a line of text, or the bar would grow.
+class CornerButton : public QToolButton
+{
+public:
+    QSize sizeHint() const override
+    {
+        return {QToolButton::sizeHint().width(), fontMetrics().height()};
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
+} // namespace
+
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent), m_OverviewTimeline(new OverviewTimelineWidget),
       m_LinePlot(new CuttableLinePlotWidget), m_ZoomWidget(new ZoomWidget),
@@ -140,7 +156,7 @@ void MainWindow::buildMenus()
     connect(m_AttributesMenu, &AttributesMenu::AttributeToggled, m_LinePlot,
             &CuttableLinePlotWidget::TogglePlot);
 
-    auto* palette = new QToolButton;
+    auto* palette = new CornerButton;
     palette->setText(tr("Find a tool ..."));
     palette->setAutoRaise(true);
     palette->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_P);

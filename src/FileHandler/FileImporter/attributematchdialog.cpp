@@ -26,6 +26,7 @@ QStringList templateAttributes(const QList<PatternsDataObject*>& patterns)
 QComboBox* makeChoice(const QString& name, const DataSet* dataSet)
 {
     auto* choice = new AttributeBox(dataSet, QDialog::tr("The column to search for %1").arg(name));
+    choice->FitToNames();
     choice->SetAttribute(dataSet->GetAttributeIndex(name));
     return choice;
 }

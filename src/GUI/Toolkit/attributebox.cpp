@@ -66,6 +66,12 @@ void AttributeBox::SetAttribute(int attribute)
     setCurrentIndex(attribute);
 }
 
+void AttributeBox::FitToNames()
+{
+    setSizeAdjustPolicy(QComboBox::AdjustToContentsOnFirstShow);
+    setMinimumContentsLength(0);
+}
+
 void AttributeBox::choose(int attribute)
 {
     m_WantedName = itemText(attribute);

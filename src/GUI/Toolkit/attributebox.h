@@ -28,6 +28,8 @@ public:
     int GetAttribute() const { return currentIndex(); }
     /// Does nothing for an attribute that there is not.
     void SetAttribute(int attribute);
+    /// Makes the box as wide as the longest name, for a dialog that is made for it.
+    void FitToNames();
 
 signals:
     /// Another attribute is chosen, or the chosen one has another index, other values or another

@@ -38,9 +38,7 @@ QComboBox* FormDialog::addChoice(const QString& label, const QStringList& choice
 QComboBox* FormDialog::makeAttributeBox(const DataSet& dataSet, int current)
 {
     auto* box = new AttributeBox;
-    // A dialog is as wide as the longest name.
-    box->setSizeAdjustPolicy(QComboBox::AdjustToContentsOnFirstShow);
-    box->setMinimumContentsLength(0);
+    box->FitToNames();
     box->SetDataSet(&dataSet);
     box->SetAttribute(current);
     return box;
