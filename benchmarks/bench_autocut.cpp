@@ -33,14 +33,9 @@ std::vector<double> makeValues(int rows, Shape shape)
 std::unique_ptr<DataSet> makeColumns(int rows, int columns, Shape shape)
 {
     auto data = std::make_unique<DataSet>();
+    const std::vector<double> values = makeValues(rows, shape);
     for (int i = 0; i < columns; ++i)
-        data->AddAttribute(QString::number(i), ATTRIBUTE_OTHER);
-    for (const double value : makeValues(rows, shape)) {
-        auto* row = new DataRow;
-        for (int i = 0; i < columns; ++i)
-            row->AddValue(value);
-        data->AddRow(row);
-    }
+        data->AddColumn(QString::number(i), ATTRIBUTE_OTHER, DataColumn(values));
     return data;
 }
 

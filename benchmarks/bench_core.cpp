@@ -23,7 +23,7 @@ void importText(benchmark::State& state)
             state.SkipWithError("the recording was not read");
         state.PauseTiming();
         const Memory after = MemoryInUse();
-        const std::unique_ptr<DataSet> data(importer.GetDataSet());
+        const std::unique_ptr<DataSet> data = importer.TakeDataSet();
         state.counters["bytes/row"] = (after.resident - before.resident) / data->GetRowCount();
         state.counters["peak bytes/row"] = (after.peak - before.resident) / data->GetRowCount();
         state.ResumeTiming();

@@ -26,24 +26,21 @@ DataSet& recordingOf(int rows)
     return *recording;
 }
 
-std::vector<Column> single(Column column)
+std::vector<DataColumn> single(DataColumn column)
 {
-    std::vector<Column> columnsOfOne(1);
+    std::vector<DataColumn> columnsOfOne(1);
     columnsOfOne.front() = std::move(column);
     return columnsOfOne;
 }
 
-// What a user waits for: the columns, their place in every row and the ranges. The room that the
-// first column makes in every row is measured by firstColumn alone.
+// What a user waits for: the columns, their place in the table and the ranges.
 template <class Derive>
 void appendDerived(benchmark::State& state, const Derive& derive)
 {
     DataSet& data = recordingOf(int(state.range(0)));
     for (auto _ : state) {
-        const std::vector<Column> derived = derive(data);
-        for (size_t i = 0; i < derived.size(); ++i)
-            data.AddAttribute(QStringLiteral("derived"), ATTRIBUTE_OTHER);
-        AppendColumns(data, derived);
+        for (DataColumn& column : derive(data))
+            data.AddColumn(QStringLiteral("derived"), ATTRIBUTE_OTHER, std::move(column));
         data.ComputeRanges();
         state.PauseTiming();
         while (data.GetAttributeCount() > columns)
@@ -59,10 +56,10 @@ void firstColumn(benchmark::State& state)
     for (auto _ : state) {
         state.PauseTiming();
         auto data = MakeRecording(rows, columns);
+        // As after an import.
+        data->ComputeRanges();
         state.ResumeTiming();
-        const Column column = Vedba(*data, acceleration);
-        data->AddAttribute(QStringLiteral("VeDBA"), ATTRIBUTE_OTHER);
-        AppendColumn(*data, column);
+        data->AddColumn(QStringLiteral("VeDBA"), ATTRIBUTE_OTHER, Vedba(*data, acceleration));
         data->ComputeRanges();
         state.PauseTiming();
         data.reset();
@@ -82,7 +79,7 @@ void pitchAndRoll(benchmark::State& state)
 
 void normalize(benchmark::State& state)
 {
-    appendDerived(state, [](DataSet& data) { return single(Normalize(data.CopyColumn(0))); });
+    appendDerived(state, [](DataSet& data) { return single(Normalize(data.GetColumn(0))); });
 }
 
 void normalizeVector(benchmark::State& state)
@@ -105,9 +102,9 @@ void derivative(benchmark::State& state)
 {
     DataSet& data = recordingOf(int(state.range(0)));
     for (auto _ : state) {
-        const Column differences = ForwardDifferences(data, 0);
+        DataColumn differences = ForwardDifferences(data, 0);
         data.AddAttribute(QStringLiteral("derived"), ATTRIBUTE_OTHER);
-        AppendDerivative(data, differences);
+        AppendDerivative(data, std::move(differences));
         data.ComputeRanges();
         state.PauseTiming();
         data.GetRow(0)->RemoveValue(columns + 1);
@@ -117,10 +114,10 @@ void derivative(benchmark::State& state)
 }
 
 // The computation alone: its time per row must not grow with the window.
-template <Column (*Compute)(Column, int)>
+template <DataColumn (*Compute)(ConstSpan<double>, int)>
 void window(benchmark::State& state)
 {
-    const Column column = recordingOf(int(state.range(0))).CopyColumn(0);
+    const ConstSpan<double> column = recordingOf(int(state.range(0))).GetColumn(0);
     for (auto _ : state)
         benchmark::DoNotOptimize(Compute(column, int(state.range(1))).data());
     state.SetItemsProcessed(state.iterations() * state.range(0));

@@ -19,8 +19,7 @@ class LabelledRecording
 public:
     explicit LabelledRecording(int rows) : m_Data(MakeRecording(rows, columns))
     {
-        for (int row = 0; row < rows; ++row)
-            m_Data->GetRow(row)->SetNumberLabel(row + 1);
+        m_Data->NumberRows();
         for (const char* name : {"rest", "graze", "walk", "run"})
             m_Labels.AddLabel(new BehaviorLabel(QLatin1String(name)));
         const int length = rows / instances;

@@ -51,17 +51,15 @@ RecordingFile::RecordingFile(int rows, int columns)
 
 std::unique_ptr<DataSet> MakeRecording(int rows, int columns)
 {
-    auto data = std::make_unique<DataSet>();
-    data->SetAttributeCount(columns);
-    data->ReserveRows(rows);
+    std::vector<DataColumn> values;
+    for (int column = 0; column < columns; ++column)
+        values.emplace_back(rows);
     Samples samples;
-    std::vector<double> values(static_cast<size_t>(columns));
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column)
-            values[size_t(column)] = samples.Next(row, column);
-        auto* dataRow = new DataRow;
-        dataRow->SetValues(values.data(), columns);
-        data->AddRow(dataRow);
+            values[size_t(column)][row] = samples.Next(row, column);
     }
+    auto data = std::make_unique<DataSet>();
+    data->TakeColumns(std::move(values));
     return data;
 }

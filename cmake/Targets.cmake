@@ -34,21 +34,24 @@ function(skerrymoor_add_layer LAYER)
   set_target_properties(${target} PROPERTIES AUTOGEN_TARGET_DEPENDS "${sources};${list}")
 endfunction()
 
-# Adds a test that never touches the settings and data of the user: it has a home of its own.
-# DISPLAY: offscreen, or xvfb for tests that need a window system.
+# Adds a test that never touches the settings and data of the user: it has a home of its own, empty
+# at the start of every run, in which it works. DISPLAY: offscreen, or xvfb for tests that need a
+# window system.
 function(skerrymoor_register_test NAME DISPLAY)
   set(home ${CMAKE_CURRENT_BINARY_DIR}/home/${NAME})
-  file(MAKE_DIRECTORY ${home}/run)
-  file(CHMOD ${home}/run PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+  file(MAKE_DIRECTORY ${home})
   set(suppressions ${PROJECT_SOURCE_DIR}/tests/lsan.supp)
   set(environment HOME=${home} XDG_CONFIG_HOME=${home}/config XDG_DATA_HOME=${home}/data
       XDG_RUNTIME_DIR=${home}/run LC_ALL=C.UTF-8 UBSAN_OPTIONS=print_stacktrace=1
       LSAN_OPTIONS=suppressions=${suppressions}:print_suppressions=0)
+  set(display)
   if(DISPLAY STREQUAL xvfb)
-    add_test(NAME ${NAME} COMMAND xvfb-run -a -s "-screen 0 1600x1200x24" $<TARGET_FILE:${NAME}> ${ARGN})
+    set(display xvfb-run -a -s "-screen 0 1600x1200x24")
   else()
-    add_test(NAME ${NAME} COMMAND ${NAME} ${ARGN})
     list(APPEND environment QT_QPA_PLATFORM=offscreen)
   endif()
-  set_tests_properties(${NAME} PROPERTIES ENVIRONMENT "${environment}" TIMEOUT 300)
+  add_test(NAME ${NAME} COMMAND ${PROJECT_SOURCE_DIR}/tests/in_empty_home ${home} ${display}
+                                $<TARGET_FILE:${NAME}> ${ARGN})
+  set_tests_properties(${NAME} PROPERTIES ENVIRONMENT "${environment}" TIMEOUT 300
+                                          WORKING_DIRECTORY ${home})
 endfunction()

@@ -189,33 +189,36 @@ bool CutCollection::MergeCuts(int from, int to)
     return true;
 }
 
-bool CutCollection::RemoveSegment(CutSegment* cut)
+std::optional<SegmentRemoval> CutCollection::TakeOut(CutSegment* cut)
 {
     if (!m_Segments.Contains(cut))
-        return false;
+        return std::nullopt;
     CutSegment* left = findNeighbour(cut, endingAt(cut->GetFrom()), "Left found");
     CutSegment* right = findNeighbour(cut, startingAt(cut->GetTo()), "Right found");
     const auto isFree = [](const CutSegment* segment) {
         return segment && segment->GetState() != CutSegment::SEGMENT_LABELED;
     };
+    SegmentRemoval removal;
     if (isFree(left) && isFree(right)) {
         if (left->GetState() != CutSegment::SEGMENT_CUT ||
             right->GetState() != CutSegment::SEGMENT_CUT)
-            return false;
-        m_Segments.Remove(right);
+            return std::nullopt;
+        removal = {left, left->GetEnds(), right, right->GetEnds(), m_Segments.Remove(right), -1};
         // A zero-length segment can lie between two sides that are one and the same.
         left->SetTo(right->GetTo());
     } else if (isFree(right)) {
-        // The stored end stays on the left side and moves on the right one: kept, see
-        // MergeLabels.
+        // MergeLabels returns the left side to the end that it had with the segment, but the
+        // right side to the start that it has without.
+        removal = {nullptr, {}, right, right->GetEnds(), -1, -1};
         right->MoveFrom(cut->GetFrom());
     } else if (isFree(left) || (left && !right)) {
+        removal = {left, left->GetEnds(), nullptr, {}, -1, -1};
         left->SetTo(cut->GetTo());
     } else {
-        return false;
+        return std::nullopt;
     }
-    m_Segments.Remove(cut);
-    return true;
+    removal.m_Index = m_Segments.Remove(cut);
+    return removal;
 }
 
 CutSegment* CutCollection::findNeighbour(const CutSegment* cut, const EndLimits& limits,

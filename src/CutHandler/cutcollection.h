@@ -5,10 +5,24 @@
 #include <QList>
 #include <QPair>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class DataSet;
 class PatternsDataObject;
+
+/// What the removal of a segment has changed beside it. A neighbour that there was not, or that
+/// stayed as it was, is null.
+struct SegmentRemoval {
+    CutSegment* m_Left = nullptr;
+    SegmentEnds m_LeftBefore;
+    CutSegment* m_Right = nullptr;
+    SegmentEnds m_RightBefore;
+    /// Where the right neighbour stood, when it has left the list, too; else -1.
+    int m_RightIndex = -1;
+    /// Where the segment stood after that.
+    int m_Index = -1;
+};
 
 /// The ordered partition of a recording's rows into segments.
 ///
@@ -62,7 +76,9 @@ public:
     /// Gives a segment's span to a neighbour. False, and nothing changed, when both neighbours
     /// are labelled or otherwise can't take it, or there is none on the left and a labelled one
     /// on the right.
-    bool RemoveSegment(CutSegment* cut);
+    bool RemoveSegment(CutSegment* cut) { return TakeOut(cut).has_value(); }
+    /// The same, and says what else it has changed; nothing where RemoveSegment is false.
+    std::optional<SegmentRemoval> TakeOut(CutSegment* cut);
     /// RemoveSegment on all of that state, from the last to the first.
     void RemoveSegments(CutSegment::SEGMENT_STATE state);
     /// Moves both ends of a segment and those of its neighbours with them. A first segment that

@@ -19,7 +19,8 @@ struct LocalVarianceParameters {
     int m_Y = 0;
     int m_Z = 0;
     int m_SmoothingWindow = 10; ///< in rows, as the next two
-    int m_SmoothingOverlap = 5; ///< from one smoothing window's start to the next one's: kept
+    /// From one smoothing window's start to the next one's, so a larger one overlaps less.
+    int m_SmoothingOverlap = 5;
     int m_VarianceWindow = 100;
     double m_Threshold = double(0.1F);
 };

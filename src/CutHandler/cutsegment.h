@@ -5,6 +5,20 @@
 
 class SegmentList;
 
+/// The present and the stored ends of a segment.
+struct SegmentEnds {
+    int m_From = 0;
+    int m_To = 0;
+    int m_OriginalFrom = 0;
+    int m_OriginalTo = 0;
+
+    bool operator==(const SegmentEnds& other) const
+    {
+        return m_From == other.m_From && m_To == other.m_To &&
+               m_OriginalFrom == other.m_OriginalFrom && m_OriginalTo == other.m_OriginalTo;
+    }
+};
+
 /// A span of rows, from a first row up to an end row that it shares with its right neighbour.
 class CutSegment : public QObject
 {
@@ -24,6 +38,7 @@ public:
     /// The ends as of creation or the last Move, to which merged labels return.
     int GetOriginalFrom() const { return m_OriginalFrom; }
     int GetOriginalTo() const { return m_OriginalTo; }
+    SegmentEnds GetEnds() const { return {m_From, m_To, m_OriginalFrom, m_OriginalTo}; }
 
     /// Set changes the present end only, Move the stored one too.
     void SetFrom(int from) { setEnds(from, m_To); }

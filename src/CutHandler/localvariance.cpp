@@ -56,22 +56,22 @@ size_t countBlocks(size_t values, int window, int step)
 
 } // namespace
 
-std::vector<float> BlockMeans(const std::vector<double>& values, int window, int step)
+std::vector<float> BlockMeans(ConstSpan<double> values, int window, int step)
 {
     constexpr size_t lanes = 8;
-    std::vector<float> smooth(values.size(), 0.0F);
-    std::vector<float> means(countBlocks(values.size(), window, step));
+    std::vector<float> smooth(size_t(values.size()), 0.0F);
+    std::vector<float> means(countBlocks(smooth.size(), window, step));
     if (means.empty())
         return smooth;
     const auto width = size_t(window);
     const auto stride = size_t(step);
     size_t block = 0;
     for (; block + lanes <= means.size(); block += lanes) {
-        const auto found = meansOfBlocks<lanes>(&values[block * stride], width, stride);
+        const auto found = meansOfBlocks<lanes>(values.data() + block * stride, width, stride);
         std::copy(found.begin(), found.end(), means.begin() + std::ptrdiff_t(block));
     }
     for (; block < means.size(); ++block)
-        means[block] = meansOfBlocks<1>(&values[block * stride], width, stride)[0];
+        means[block] = meansOfBlocks<1>(values.data() + block * stride, width, stride)[0];
     for (size_t i = 0; i < smooth.size(); ++i)
         smooth[i] = means[std::min(i / stride, means.size() - 1)];
     return smooth;

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <vector>
+#include "constspan.h"
 
 /// The means of blocks of window values, a block every step values as long as it starts more
 /// than window values before the end. A later block overwrites an earlier one where they overlap,
 /// and behind the last one its mean stays. Zeros without a block, or with a step below 1.
-std::vector<float> BlockMeans(const std::vector<double>& values, int window, int step);
+std::vector<float> BlockMeans(ConstSpan<double> values, int window, int step);
 
 /// The variance of the window values from each value on; the windows stop before the last value,
 /// and the variance of the last window stays to the end. Zeros without a window.

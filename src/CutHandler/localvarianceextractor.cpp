@@ -26,8 +26,8 @@ LocalVarianceExtractor::combinedVariance(const LocalVarianceParameters& paramete
     std::vector<double> squares(size_t(m_DataSet->GetRowCount()), 0.0);
     for (const int attribute : {parameters.m_X, parameters.m_Y, parameters.m_Z}) {
         const std::vector<float> variances =
-            LocalVariances(BlockMeans(m_DataSet->CopyColumn(attribute),
-                                      parameters.m_SmoothingWindow, parameters.m_SmoothingOverlap),
+            LocalVariances(BlockMeans(m_DataSet->GetColumn(attribute), parameters.m_SmoothingWindow,
+                                      parameters.m_SmoothingOverlap),
                            parameters.m_VarianceWindow);
         for (size_t row = 0; row < squares.size(); ++row)
             squares[row] += double(variances[row]) * double(variances[row]);

@@ -8,7 +8,8 @@
 ///
 /// The curve is flooded from its lowest value up. Each local minimum starts a component; where
 /// two meet, that local maximum is paired with the higher one of their minima. The global
-/// minimum is left without a pair. One sort apart, the work grows linearly.
+/// minimum is left without a pair. One sort apart, the work grows linearly (Edelsbrunner, Letscher,
+/// Zomorodian 2002, Discrete & Computational Geometry 28).
 class PersistenceExtractor
 {
 public:

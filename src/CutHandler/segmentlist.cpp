@@ -24,15 +24,16 @@ void SegmentList::Insert(int index, CutSegment* segment)
     segment->SetList(this);
 }
 
-void SegmentList::Remove(const CutSegment* segment)
+int SegmentList::Remove(const CutSegment* segment)
 {
     const int index = IndexOf(segment);
     if (index == -1)
-        return;
+        return -1;
     Get(index)->SetList(nullptr);
     m_Segments.erase(m_Segments.begin() + index);
     m_Ends.erase(m_Ends.begin() + index);
     forgetBlocks(size_t(index));
+    return index;
 }
 
 std::vector<CutSegment*> SegmentList::TakeAll()

@@ -30,7 +30,8 @@ public:
 
     void Insert(int index, CutSegment* segment);
     void Append(CutSegment* segment) { Insert(GetCount(), segment); }
-    void Remove(const CutSegment* segment);
+    /// The index that the segment had, -1 when it was not in the list.
+    int Remove(const CutSegment* segment);
     /// Empties the list for changes to many segments at once.
     std::vector<CutSegment*> TakeAll();
     /// Fills an empty list.

@@ -19,7 +19,7 @@ std::vector<int> MinimaMaximaCuts(const DataSet& dataSet, const MinimaMaximaPara
     std::vector<int> rows;
     if (parameters.m_Attribute < 0 || parameters.m_Attribute >= dataSet.GetAttributeCount())
         return rows;
-    const std::vector<double> column = dataSet.CopyColumn(parameters.m_Attribute);
+    const ConstSpan<double> column = dataSet.GetColumn(parameters.m_Attribute);
     PersistenceExtractor persistence;
     persistence.extract(std::vector<float>(column.begin(), column.end()));
     for (const PairedExtrema& pair : persistence.getPairs(float(parameters.m_Persistence))) {

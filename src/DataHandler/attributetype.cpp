@@ -60,6 +60,8 @@ constexpr const char* standardNames[] = {"Acc_X",
                                          "Heading Offset",
                                          "Speed Coefficent"};
 
+static_assert(std::size(standardNames) == STANDARD_ATTRIBUTE_COUNT);
+
 } // namespace
 
 QStringList AttributeTypeNames()
@@ -78,7 +80,8 @@ AttributeType AttributeTypeFromName(const QString& name)
         const char* name;
         AttributeType type;
     };
-    // "Com_Z" has an underscore where its neighbours have a blank: kept, files are written so.
+    // "Com_Z" has an underscore where its neighbours have a blank, as in existing data files: the
+    // name with a blank is that of no compass axis.
     constexpr NamedType types[] = {{"Time", ATTRIBUTE_TIME},   {"Acc X", ATTRIBUTE_ACC_X},
                                    {"Acc Y", ATTRIBUTE_ACC_Y}, {"Acc Z", ATTRIBUTE_ACC_Z},
                                    {"Com X", ATTRIBUTE_MAG_X}, {"Com Y", ATTRIBUTE_MAG_Y},
@@ -92,7 +95,7 @@ AttributeType AttributeTypeFromName(const QString& name)
 
 QString StandardAttributeName(int id)
 {
-    if (id < 0 || id >= int(std::size(standardNames)))
+    if (id < 0 || id >= STANDARD_ATTRIBUTE_COUNT)
         return QStringLiteral("Error");
     return QLatin1String(standardNames[id]);
 }

@@ -1,6 +1,5 @@
 #include "columnsummary.h"
 
-#include "dataset.h"
 #include <algorithm>
 #include <cmath>
 
@@ -10,6 +9,8 @@ void ColumnExtremes::Add(int row, double value)
         m_HasGap = true;
         return;
     }
+    m_Sum += value;
+    ++m_Count;
     if (m_LowRow < 0 || value < m_Low) {
         m_Low = value;
         m_LowRow = row;
@@ -23,8 +24,10 @@ void ColumnExtremes::Add(int row, double value)
 void ColumnExtremes::Add(const ColumnExtremes& following)
 {
     m_HasGap = m_HasGap || following.m_HasGap;
-    if (following.m_LowRow < 0)
+    if (following.m_Count == 0)
         return;
+    m_Sum += following.m_Sum;
+    m_Count += following.m_Count;
     if (m_LowRow < 0 || following.m_Low < m_Low) {
         m_Low = following.m_Low;
         m_LowRow = following.m_LowRow;
@@ -35,23 +38,23 @@ void ColumnExtremes::Add(const ColumnExtremes& following)
     }
 }
 
-ColumnSummary::ColumnSummary(const DataSet& data, int attribute) : m_Revision(data.GetRevision())
+ColumnSummary::ColumnSummary(ConstSpan<double> values)
 {
-    m_Levels.push_back(readRows(data, attribute));
+    m_Levels.push_back(readRows(values));
     while (m_Levels.back().size() > BlockRows)
         m_Levels.push_back(joinBlocks(m_Levels.back()));
 }
 
-ColumnSummary::Level ColumnSummary::readRows(const DataSet& data, int attribute)
+ColumnSummary::Level ColumnSummary::readRows(ConstSpan<double> values)
 {
-    const int rows = data.GetRowCount();
+    const int rows = values.size();
     Level blocks;
     blocks.reserve(size_t(rows / BlockRows) + 1);
     for (int from = 0; from < rows; from += BlockRows) {
         ColumnExtremes block;
         const int to = from + std::min(BlockRows, rows - from);
         for (int row = from; row < to; ++row)
-            block.Add(row, data.GetRow(row)->GetValue(attribute));
+            block.Add(row, values[row]);
         blocks.push_back(block);
     }
     return blocks;

@@ -1,15 +1,14 @@
 #pragma once
 
-#include <QtGlobal>
-#include <vector>
+#include "constspan.h"
 
-class DataSet;
-
-/// The lowest and highest finite value of a span of rows and where they stand. The first of equal
-/// values counts.
+/// What the finite values of a span of rows come to: the lowest and the highest and where they
+/// stand, of equal ones the first; their sum and number.
 struct ColumnExtremes {
     double m_Low = 0;
     double m_High = 0;
+    double m_Sum = 0;
+    int m_Count = 0;
     /// -1 when no row of the span has a finite value.
     int m_LowRow = -1;
     int m_HighRow = -1;
@@ -21,27 +20,25 @@ struct ColumnExtremes {
     void Add(const ColumnExtremes& following);
 };
 
-/// Extremes over blocks of rows of one attribute: blocks of 16 rows, blocks of 16 blocks, and so
-/// on, so that the extremes of any long span cost few reads. Made in one pass, never changed: it
-/// belongs to one revision of the data set.
+/// Extremes, sums and counts over blocks of rows of one attribute: blocks of 16 rows, blocks of 16
+/// blocks, and so on, so that those of any long span cost few reads. Made in one pass over the
+/// values, never changed. Adding up block by block also keeps rounding errors small.
 class ColumnSummary
 {
 public:
     static constexpr int BlockRows = 16;
 
-    ColumnSummary(const DataSet& data, int attribute);
+    explicit ColumnSummary(ConstSpan<double> values);
 
-    quint64 GetRevision() const { return m_Revision; }
-    /// The extremes of rows from up to, but without, to. Both are multiples of BlockRows; to may
+    /// Of the rows from up to, but without, to. Both are multiples of BlockRows; to may
     /// also be the row count.
     ColumnExtremes GetExtremes(int from, int to) const;
 
 private:
     using Level = std::vector<ColumnExtremes>;
 
-    static Level readRows(const DataSet& data, int attribute);
+    static Level readRows(ConstSpan<double> values);
     static Level joinBlocks(const Level& fine);
 
-    quint64 m_Revision;
     std::vector<Level> m_Levels;
 };

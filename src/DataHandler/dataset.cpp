@@ -1,6 +1,5 @@
 #include "dataset.h"
 
-#include "columnsummary.h"
 #include <algorithm>
 
 DataSet::DataSet()
@@ -10,18 +9,18 @@ DataSet::DataSet()
 }
 
 DataSet::DataSet(int count, QStringList* names, QList<AttributeType>* types)
-    : m_AttributeCount(count), m_AttributeNames(names), m_AttributeTypes(types),
-      m_RowCapacity(count)
+    : m_AttributeNames(names), m_AttributeTypes(types)
 {
+    SetAttributeCount(count);
 }
 
 DataSet::~DataSet() = default;
 
 void DataSet::AddRow(DataRow* row)
 {
-    m_Rows.emplace_back(row);
-    row->Reserve(m_AttributeCount);
-    m_RowCapacity = m_AttributeCount;
+    std::unique_ptr<DataRow> object(row);
+    row->MoveTo(m_Store);
+    m_Rows.Bring(std::move(object), GetRowCount() - 1);
     ++m_Revision;
 }
 
@@ -29,19 +28,46 @@ void DataSet::AddAttribute(const QString& name, AttributeType type)
 {
     m_AttributeNames->append(name);
     m_AttributeTypes->append(type);
-    makeRoomInRows(m_AttributeCount + 1);
-    ++m_AttributeCount;
+    SetAttributeCount(m_AttributeCount + 1);
+}
+
+int DataSet::AddColumn(const QString& name, AttributeType type, DataColumn&& values)
+{
+    if (m_AttributeCount == 0 && GetRowCount() == 0) {
+        std::vector<DataColumn> columns;
+        columns.push_back(std::move(values));
+        m_Store.TakeColumns(std::move(columns));
+    } else if (values.size() == GetRowCount()) {
+        m_Store.AppendValues(std::move(values));
+    } else {
+        return -1;
+    }
+    AddAttribute(name, type);
+    return m_AttributeCount - 1;
+}
+
+bool DataSet::ReplaceColumn(int attribute, DataColumn&& values)
+{
+    if (attribute < 0 || attribute >= m_AttributeCount || values.size() != GetRowCount())
+        return false;
+    m_Store.ReplaceValues(attribute, std::move(values));
     ++m_Revision;
+    return true;
+}
+
+void DataSet::TakeColumns(std::vector<DataColumn>&& columns)
+{
+    const auto count = int(columns.size());
+    m_Store.TakeColumns(std::move(columns));
+    SetAttributeCount(count);
 }
 
 void DataSet::RemoveAttribute(int attribute)
 {
     if (attribute >= 0 && attribute < m_AttributeNames->size())
         m_AttributeNames->removeAt(attribute);
-    for (const auto& row : m_Rows)
-        row->RemoveValue(attribute);
-    m_AttributeCount = m_AttributeNames->size();
-    ++m_Revision;
+    m_Store.RemoveColumn(attribute);
+    SetAttributeCount(m_AttributeNames->size());
 }
 
 void DataSet::RemoveAttribute(const QString& name)
@@ -61,56 +87,49 @@ int DataSet::GetAttributeIndexByType(AttributeType type) const
     return m_AttributeTypes->indexOf(type);
 }
 
-int DataSet::GetRowIndexByLabel(const QString& label) const
+ConstSpan<double> DataSet::GetColumn(int attribute) const
 {
-    const auto found = std::find_if(m_Rows.begin(), m_Rows.end(),
-                                    [&](const auto& row) { return row->HasLabel(label); });
-    return found == m_Rows.end() ? 0 : int(found - m_Rows.begin());
+    if (!m_Store.HasColumn(attribute))
+        return {};
+    return m_Store.GetColumn(attribute).GetValues();
 }
 
-int DataSet::GetRowIndex(const DataRow* row) const
+int DataSet::FindRowByLabel(const QString& label) const
 {
-    const auto found = std::find_if(m_Rows.begin(), m_Rows.end(),
-                                    [=](const auto& own) { return own.get() == row; });
-    return found == m_Rows.end() ? -1 : int(found - m_Rows.begin());
+    return m_Store.GetLabels().Find(label, GetRowCount());
+}
+
+int DataSet::GetRowIndexByLabel(const QString& label) const
+{
+    return std::max(FindRowByLabel(label), 0);
 }
 
 DataRow* DataSet::FindRow(int a, int b, int c, double va, double vb, double vc, int d, double vd,
                           bool useD, int e, double ve, bool useE, int start)
 {
-    for (int i = std::max(start, 0); i < GetRowCount(); ++i) {
-        DataRow* row = GetRow(i);
-        if (row->GetValue(a) == va && row->GetValue(b) == vb && row->GetValue(c) == vc &&
-            (!useD || row->GetValue(d) == vd) && (!useE || row->GetValue(e) == ve))
-            return row;
+    const ConstSpan<double> first = GetColumn(a);
+    const ConstSpan<double> second = GetColumn(b);
+    const ConstSpan<double> third = GetColumn(c);
+    if (first.empty() || second.empty() || third.empty())
+        return nullptr;
+    for (int row = std::max(start, 0); row < GetRowCount(); ++row) {
+        if (first[row] == va && second[row] == vb && third[row] == vc &&
+            (!useD || GetValue(row, d) == vd) && (!useE || GetValue(row, e) == ve))
+            return GetRow(row);
     }
     return nullptr;
 }
 
 void DataSet::ComputeRanges()
 {
-    // Narrowing keeps order, so the extreme doubles narrowed once are the extremes of the
-    // narrowed values.
-    const auto count = size_t(m_AttributeCount);
-    std::vector<double> low(count, GetInitialMin());
-    std::vector<double> high(count, GetInitialMax());
-    double* lows = low.data();
-    double* highs = high.data();
-    for (const auto& row : m_Rows) {
-        if (count == 0)
-            break;
-        const double* values = row->GetValues();
-        for (size_t j = 0; j < count; ++j) {
-            const double value = values[j];
-            lows[j] = value < lows[j] ? value : lows[j];
-            highs[j] = value > highs[j] ? value : highs[j];
-        }
+    m_RawMin.resize(size_t(m_AttributeCount));
+    m_RawMax.resize(size_t(m_AttributeCount));
+    for (int attribute = 0; attribute < m_AttributeCount; ++attribute) {
+        StoredColumn& column = m_Store.GetColumn(attribute);
+        column.Update();
+        m_RawMin[size_t(attribute)] = column.GetRange().m_Minimum;
+        m_RawMax[size_t(attribute)] = column.GetRange().m_Maximum;
     }
-    const auto narrow = [](double value) { return float(value); };
-    m_RawMin.resize(count);
-    m_RawMax.resize(count);
-    std::transform(low.begin(), low.end(), m_RawMin.begin(), narrow);
-    std::transform(high.begin(), high.end(), m_RawMax.begin(), narrow);
     ++m_Revision;
 }
 
@@ -150,32 +169,7 @@ void DataSet::SetAttributeTypes(QList<AttributeType>* types)
 
 void DataSet::SetAttributeCount(int count)
 {
-    makeRoomInRows(count);
     m_AttributeCount = count;
-}
-
-std::vector<double> DataSet::CopyColumn(int attribute) const
-{
-    std::vector<double> column(m_Rows.size());
-    std::transform(m_Rows.begin(), m_Rows.end(), column.begin(),
-                   [=](const auto& row) { return row->GetValue(attribute); });
-    return column;
-}
-
-const ColumnSummary& DataSet::GetColumnSummary(int attribute) const
-{
-    auto& summary = m_Summaries[attribute];
-    if (!summary || summary->GetRevision() != m_Revision)
-        summary = std::make_unique<const ColumnSummary>(*this, attribute);
-    return *summary;
-}
-
-void DataSet::makeRoomInRows(int attributes)
-{
-    if (attributes <= m_RowCapacity || m_Rows.empty())
-        return;
-    // A quarter more than asked for: further columns then cost no new memory for a while.
-    m_RowCapacity = attributes + attributes / 4 + 1;
-    for (const auto& row : m_Rows)
-        row->Reserve(m_RowCapacity);
+    m_Store.Widen(count);
+    ++m_Revision;
 }

@@ -1,20 +1,19 @@
 #pragma once
 
 #include "attributetype.h"
-#include "datarow.h"
+#include "columnstore.h"
+#include "rowobjects.h"
 #include <QHash>
 #include <QPair>
 #include <memory>
-#include <unordered_map>
 #include <vector>
-
-class ColumnSummary;
 
 /// The one table of a recording: rows are time steps, columns are attributes.
 ///
-/// Rows are stored one by one; a derived attribute is added by AddAttribute once and
-/// DataRow::AddValue on every row, followed by ComputeRanges. Nothing is emitted: whoever
-/// changes the data refreshes the views. Indices are not checked unless stated.
+/// Values are stored, and best read, by columns. Row objects are views that are made when asked
+/// for, and by one thread alone. A derived attribute is added by AddColumn as a whole, or by
+/// AddAttribute and DataRow::AddValue on every row, and made known by ComputeRanges. Nothing is
+/// emitted: whoever changes the data refreshes the views. Indices are not checked unless stated.
 class DataSet
 {
 public:
@@ -27,11 +26,22 @@ public:
 
     /// Appends a row and takes ownership of it.
     void AddRow(DataRow* row);
-    /// Makes room for count rows, when the number is known beforehand.
-    void ReserveRows(int count) { m_Rows.reserve(size_t(count)); }
     /// Appends a column; the caller then appends one value to every row. Until it has, the
     /// column reads as NaN.
     void AddAttribute(const QString& name, AttributeType type);
+    /// Appends a column and one of the values to every row, behind those that the row has: in rows
+    /// that lack a value, or have one too many, that is another column. values: one for each row;
+    /// where there are neither rows nor attributes, they bring the rows along. The index of the
+    /// attribute, -1 and nothing changed when the number of values is another one.
+    int AddColumn(const QString& name, AttributeType type, DataColumn&& values);
+    /// Appends one value to each row, from the first row on; there may be fewer values than rows.
+    void AppendValues(DataColumn&& values) { m_Store.AppendValues(std::move(values)); }
+    /// Sets an attribute in all rows that have a value for it. values: one for each row. False and
+    /// nothing changed when there is no such attribute or the number of values is another one.
+    bool ReplaceColumn(int attribute, DataColumn&& values);
+    /// Replaces all rows: one for each value of the columns, which are equally long. The attribute
+    /// count becomes their number; names, types and labels are left as they were.
+    void TakeColumns(std::vector<DataColumn>&& columns);
     /// Removes a column's name and values. Types, ranges and axis settings are left as they
     /// were: the type list stays long by one, ranges are right again after ComputeRanges.
     void RemoveAttribute(int attribute);
@@ -39,9 +49,20 @@ public:
     void RemoveAttribute(const QString& name);
 
     int GetAttributeCount() const { return m_AttributeCount; }
-    int GetRowCount() const { return int(m_Rows.size()); }
-    DataRow* GetRow(int row) { return m_Rows[size_t(row)].get(); }
-    const DataRow* GetRow(int row) const { return m_Rows[size_t(row)].get(); }
+    int GetRowCount() const { return m_Store.GetRowCount(); }
+    /// The row stays valid as long as the data set.
+    DataRow* GetRow(int row) { return m_Rows.Get(m_Store, row); }
+    const DataRow* GetRow(int row) const { return m_Rows.Get(m_Store, row); }
+
+    /// All values of an attribute, NaN where a row lacks one. Holds until columns or rows are
+    /// added, replaced or removed. Without values when there is no such attribute.
+    ConstSpan<double> GetColumn(int attribute) const;
+    /// What GetRow(row)->GetValue(attribute) gives, without making a row object.
+    double GetValue(int row, int attribute) const { return m_Store.GetValue(row, attribute); }
+    int GetValueCount(int row) const { return m_Store.GetValueCount(row); }
+    QString GetRowLabel(int row) const { return m_Store.GetLabels().Get(row); }
+    /// Labels all rows with their numbers, from 1 on.
+    void NumberRows() { m_Store.GetLabels().NumberRows(GetRowCount()); }
 
     QString GetAttributeName(int attribute) const { return m_AttributeNames->at(attribute); }
     const QStringList& GetAttributeNames() const { return *m_AttributeNames; }
@@ -53,19 +74,20 @@ public:
     {
         return m_AttributeTypes->value(attribute, ATTRIBUTE_OTHER);
     }
-    /// The first row with that label; 0 also when there is none.
+    /// The first row with that label, -1 if absent.
+    int FindRowByLabel(const QString& label) const;
+    /// The same, but 0 also when there is none.
     int GetRowIndexByLabel(const QString& label) const;
     /// The index of a row object, -1 if absent.
-    int GetRowIndex(const DataRow* row) const;
+    int GetRowIndex(const DataRow* row) const { return row ? row->GetRowIn(m_Store) : -1; }
 
     /// The first row from start on in which attributes a, b and c equal va, vb and vc, and, where
     /// asked for, d equals vd and e equals ve. Equality is exact. Null when there is none.
     DataRow* FindRow(int a, int b, int c, double va, double vb, double vc, int d, double vd,
                      bool useD, int e, double ve, bool useE, int start);
 
-    /// Takes the minimum and maximum of every attribute anew, in single precision. NaN changes
-    /// nothing. The maximum starts from the smallest positive float, so an attribute without a
-    /// positive value keeps 1.1754944e-38: kept, the value axes rely on it.
+    /// Takes the minimum and maximum of every attribute whose values have changed anew: see
+    /// ValueRange.
     void ComputeRanges();
     void UpdateRanges() { ComputeRanges(); }
     /// Ranges as of the last ComputeRanges; the start values for attributes added since.
@@ -74,16 +96,18 @@ public:
     /// The user's axis limit where one is set, else the raw one.
     double GetMaxValue(int attribute) const;
     double GetMinValue(int attribute) const;
-    static float GetInitialMin() { return 3.4028235e38F; }
-    static float GetInitialMax() { return 1.1754944e-38F; }
+    static float GetInitialMin() { return ValueRange::StartMinimum; }
+    static float GetInitialMax() { return ValueRange::StartMaximum; }
 
     /// The user's (minimum, maximum) of an attribute's axis; (0, 0) when none is set.
     QPair<double, double> GetAxisRange(int attribute) const
     {
         return m_AxisRanges.value(attribute);
     }
+    const QHash<int, QPair<double, double>>& GetAxisRanges() const { return m_AxisRanges; }
     void SetAxisRanges(const QHash<int, QPair<double, double>>& ranges) { m_AxisRanges = ranges; }
     bool GetZeroLine(int attribute) const { return m_ZeroLines.value(attribute, false); }
+    const QHash<int, bool>& GetZeroLines() const { return m_ZeroLines; }
     void SetZeroLines(const QHash<int, bool>& zeroLines) { m_ZeroLines = zeroLines; }
 
     /// Replaces the names or types; the list is owned here from then on.
@@ -91,13 +115,13 @@ public:
     void SetAttributeTypes(QList<AttributeType>* types);
     void SetAttributeCount(int count);
 
-    /// One column as an array, for algorithms that walk it more than once.
-    std::vector<double> CopyColumn(int attribute) const;
-
-    /// The extremes of a column's blocks, for views that look at millions of rows at once. Made
-    /// when first asked for and anew when the revision has changed; the reference holds until
-    /// then.
-    const ColumnSummary& GetColumnSummary(int attribute) const;
+    /// What a column's blocks come to, for views that look at millions of rows at once. Made when
+    /// first asked for, and anew when values of the column have changed: those written through a
+    /// row count from ComputeRanges on. The reference holds until then.
+    const ColumnSummary& GetColumnSummary(int attribute) const
+    {
+        return m_Store.GetColumn(attribute).GetSummary();
+    }
 
     /// Grows by every change that the data set itself can see: rows, columns, ranges. Caches
     /// over the values compare it. Values written through a row count from ComputeRanges on.
@@ -107,18 +131,16 @@ public:
     int m_SamplingRate = 40;
 
 private:
-    void makeRoomInRows(int attributes);
-
     int m_AttributeCount = 0;
     std::vector<float> m_RawMax;
     std::vector<float> m_RawMin;
     QHash<int, QPair<double, double>> m_AxisRanges;
     std::unique_ptr<QStringList> m_AttributeNames;
-    std::vector<std::unique_ptr<DataRow>> m_Rows;
+    // No fewer columns than attributes. Mutable, since row objects are made on demand: reading
+    // never changes it.
+    mutable ColumnStore m_Store;
+    mutable RowObjects m_Rows;
     std::unique_ptr<QList<AttributeType>> m_AttributeTypes;
     QHash<int, bool> m_ZeroLines;
     quint64 m_Revision = 0;
-    mutable std::unordered_map<int, std::unique_ptr<const ColumnSummary>> m_Summaries;
-    // Every row can be read up to this many values.
-    int m_RowCapacity = 0;
 };

@@ -33,7 +33,7 @@ bool CutCollectionWriter::WriteData(const CutCollection* cuts)
             out << '\n';
             const int to = std::min(segment->GetTo(), m_DataSet->GetRowCount());
             for (int row = segment->GetFrom(); row < to; ++row) {
-                WriteLabelledRow(out, *m_DataSet->GetRow(row), '\t');
+                WriteLabelledRow(out, *m_DataSet, row, '\t');
                 out << '\n';
             }
         });

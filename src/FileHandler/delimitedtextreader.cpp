@@ -1,11 +1,12 @@
 #include "delimitedtextreader.h"
 
+#include "columnbuilder.h"
 #include "fieldsplitter.h"
+#include "numberline.h"
 #include "numbertext.h"
 #include "textlines.h"
 #include <QIODevice>
 #include <algorithm>
-#include <cstring>
 #include <limits>
 
 namespace
@@ -13,8 +14,6 @@ namespace
 
 constexpr int mostWarnings = 10;
 constexpr int progressStep = 100;
-// Files of nothing but line feeds should not claim memory for rows that never come.
-constexpr qint64 mostRowsReserved = qint64(1) << 24;
 
 bool isBlankLine(std::string_view line)
 {
@@ -27,61 +26,7 @@ bool isBlankLine(std::string_view line)
     return QString::fromUtf8(line.data(), int(line.size())).trimmed().isEmpty();
 }
 
-static_assert(TextLines::Padding >= ShortDecimalPadding, "lines are scanned in place");
-
-// The fast way through a line: the number itself shows where its field ends. For delimiters of
-// one byte that is no part of a short number.
-class NumberScanner
-{
-public:
-    NumberScanner(char delimiter, int startColumn)
-        : m_Delimiter(delimiter), m_StartColumn(startColumn)
-    {
-    }
-
-    static bool Supports(const QString& delimiter)
-    {
-        return delimiter.size() == 1 && delimiter[0].unicode() < 0x80 &&
-               !QStringLiteral("0123456789.-").contains(delimiter);
-    }
-
-    void Scan(std::string_view line, std::vector<double>& numbers) const
-    {
-        const char* at = line.data();
-        const char* end = at + line.size();
-        for (int column = 0; column < m_StartColumn; ++column) {
-            at = fieldEnd(at, end);
-            if (at == end)
-                return;
-            ++at;
-        }
-        for (;; ++at) {
-            numbers.push_back(take(at, end));
-            if (at == end)
-                return;
-        }
-    }
-
-private:
-    double take(const char*& at, const char* end) const
-    {
-        const char* begin = at;
-        double number = 0.0;
-        if (TakeShortDecimal(at, end, number) && (at == end || *at == m_Delimiter))
-            return number;
-        at = fieldEnd(begin, end);
-        return NumberFromText(std::string_view(begin, size_t(at - begin)));
-    }
-
-    const char* fieldEnd(const char* at, const char* end) const
-    {
-        const void* found = at == end ? nullptr : std::memchr(at, m_Delimiter, size_t(end - at));
-        return found ? static_cast<const char*>(found) : end;
-    }
-
-    char m_Delimiter;
-    int m_StartColumn;
-};
+static_assert(TextLines::Padding >= NumberLine::Padding, "lines are scanned in place");
 
 } // namespace
 
@@ -95,35 +40,46 @@ DelimitedTextReader::DelimitedTextReader(const DelimitedTextSettings& settings)
 bool DelimitedTextReader::Read(QIODevice& device, Progress& progress)
 {
     m_DataSet.reset();
-    std::vector<double> numbers;
+    qint64 lines = 0;
+    if (!countLines(device, lines))
+        return false;
+    // There is no value without a byte of its own.
+    ColumnBuilder rows(lines, device.size());
     const FieldSplitter splitter(m_Settings.delimiter, m_Settings.startColumn);
-    const NumberScanner scanner(m_Settings.delimiter.isEmpty() ? '\0'
-                                                               : m_Settings.delimiter[0].toLatin1(),
-                                m_Settings.startColumn);
-    const bool canScan = NumberScanner::Supports(m_Settings.delimiter);
+    const bool isByte = NumberLine::Supports(m_Settings.delimiter);
+    NumberLine fields(isByte ? m_Settings.delimiter[0].toLatin1() : '\0', m_Settings.startColumn);
+    std::vector<double> numbers;
     const auto split = [&](std::string_view line) {
-        numbers.clear();
-        if (canScan)
-            scanner.Scan(line, numbers);
-        else
+        if (isByte) {
+            fields.Read(line, numbers);
+        } else {
+            numbers.clear();
             splitter.Split(
                 line, [&](std::string_view field) { numbers.push_back(NumberFromText(field)); });
+        }
         return int(numbers.size());
     };
     const auto addRow = [&] {
-        auto row = std::make_unique<DataRow>();
-        row->SetValues(numbers.data(), int(numbers.size()));
-        m_DataSet->SetAttributeCount(int(numbers.size()));
-        m_DataSet->AddRow(row.release());
+        if (rows.GetRowCount() == ColumnBuilder::MostRows)
+            return fail(QStringLiteral("The file has too many rows"));
+        rows.AddRow(numbers);
         return true;
     };
-    return readRows(device, progress, split, addRow);
+    const bool isRead = readRows(device, lines, progress, split, addRow);
+    if (isRead || !progress.IsStopRequested()) {
+        m_DataSet = std::make_unique<DataSet>();
+        m_DataSet->TakeColumns(rows.Take());
+    }
+    return isRead;
 }
 
 bool DelimitedTextReader::ReadColumn(QIODevice& device, int column, QStringList& texts)
 {
     m_DataSet.reset();
     texts.clear();
+    qint64 lines = 0;
+    if (!countLines(device, lines))
+        return false;
     std::vector<std::string> fields;
     const FieldSplitter splitter(m_Settings.delimiter, m_Settings.startColumn);
     const auto split = [&](std::string_view line) {
@@ -138,20 +94,25 @@ bool DelimitedTextReader::ReadColumn(QIODevice& device, int column, QStringList&
         return true;
     };
     NoProgress progress;
-    return readRows(device, progress, split, addRow);
+    return readRows(device, lines, progress, split, addRow);
 }
 
-bool DelimitedTextReader::readRows(QIODevice& device, Progress& progress, const Split& split,
-                                   const AddRow& addRow)
+// Leaves the device at its start. It cannot be stopped: it is over before there is a range that
+// progress could be told in.
+bool DelimitedTextReader::countLines(QIODevice& device, qint64& lines)
 {
     m_Error.clear();
     m_Warnings.clear();
     TextLines counted(device);
-    const qint64 lines = counted.CountLines();
+    lines = counted.CountLines();
     if (!counted.GetError().isEmpty())
         return fail(counted.GetError());
-    if (!device.reset())
-        return fail(QStringLiteral("Can't open file"));
+    return device.reset() || fail(QStringLiteral("Can't open file"));
+}
+
+bool DelimitedTextReader::readRows(QIODevice& device, qint64 lines, Progress& progress,
+                                   const Split& split, const AddRow& addRow)
+{
     progress.SetRange(0, int(std::min<qint64>(lines, std::numeric_limits<int>::max())));
     progress.SetLabelText(QStringLiteral("Initalizing File Reader"));
     progress.SetLabelText(QStringLiteral("Reading file"));
@@ -160,13 +121,14 @@ bool DelimitedTextReader::readRows(QIODevice& device, Progress& progress, const 
     std::string_view content;
     for (int i = 0; i < m_Settings.startRow && text.Next(content); ++i)
         progress.SetValue(i + 1);
-    m_DataSet = std::make_unique<DataSet>();
-    m_DataSet->ReserveRows(int(std::min(lines, mostRowsReserved)));
     qint64 line = m_Settings.startRow;
     int width = 0;
     while (text.Next(content)) {
-        if (line % progressStep == 0)
+        if (line % progressStep == 0) {
             progress.SetValue(int(std::min(line, lines)));
+            if (progress.IsStopRequested())
+                return fail(QStringLiteral("Reading the file was stopped"));
+        }
         ++line;
         if (isBlankLine(content))
             continue;

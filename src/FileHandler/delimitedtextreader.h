@@ -30,7 +30,7 @@ public:
 
     /// Reads an open device. Texts that are no numbers become 0. False with GetError after a
     /// failure: the data set then holds the rows read before it, and is null when the device
-    /// could not be read at all.
+    /// could not be read at all or the reading was stopped.
     bool Read(QIODevice& device, Progress& progress);
     /// The texts of one column, counted from the start column on, one for each row that Read
     /// would make. False with GetError as Read does, and when there is no such column.
@@ -47,7 +47,9 @@ private:
     // Takes the line last split as a row.
     using AddRow = std::function<bool()>;
 
-    bool readRows(QIODevice& device, Progress& progress, const Split& split, const AddRow& addRow);
+    bool countLines(QIODevice& device, qint64& lines);
+    bool readRows(QIODevice& device, qint64 lines, Progress& progress, const Split& split,
+                  const AddRow& addRow);
     bool fail(const QString& error);
     bool warn(qint64 line);
 

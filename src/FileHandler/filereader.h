@@ -6,8 +6,9 @@
 
 class QIODevice;
 
-/// Reads a recording from XML: elements "attributenames" and "attributetypes" with
-/// comma-separated lists, and an "item" per row with its comma-separated values.
+/// Reads XML, and nothing else, whatever its name says: a recording as elements "attributenames"
+/// and "attributetypes" with comma-separated lists, and an "item" per row with its comma-separated
+/// values. FileImporter reads delimited text.
 class FileReader
 {
 public:
@@ -22,7 +23,8 @@ public:
     void constructDataSet(const QStringList& names, const QStringList& types,
                           const QStringList& items);
 
-    /// The data set of the last reading, or null. The caller owns it from then on.
+    /// The data set of the last reading, or null, also when asked again. The caller owns it from
+    /// then on.
     DataSet* GetDataSet();
     /// "N/A" when nothing went wrong.
     QString GetError() const { return m_Error; }

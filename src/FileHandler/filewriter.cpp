@@ -8,11 +8,14 @@ namespace
 {
 
 // Separators stand between values only.
-void writeRow(TextOutput& out, const DataRow& row)
+void writeRow(TextOutput& out, const DataSet& data, int row)
 {
-    if (row.GetValueCount() > 0)
-        out.Number(row.GetFirstValue(), FileWriter::Digits)
-            .Numbers(row.GetValues() + 1, row.GetValueCount() - 1, ',', FileWriter::Digits);
+    const int count = data.GetValueCount(row);
+    for (int i = 0; i < count; ++i) {
+        if (i > 0)
+            out << ',';
+        out.Number(data.GetValue(row, i), FileWriter::Digits);
+    }
     out << '\n';
 }
 
@@ -39,7 +42,7 @@ bool FileWriter::Write()
         out << m_DataSet->GetAttributeNames().join(QLatin1Char(',')) << '\n';
         const int to = isAll ? rows : std::min(m_To, rows);
         for (int row = isAll ? 0 : m_From; row < to; ++row)
-            writeRow(out, *m_DataSet->GetRow(row));
+            writeRow(out, *m_DataSet, row);
     });
     if (!isWritten)
         m_Error = QStringLiteral("Unable to open file");

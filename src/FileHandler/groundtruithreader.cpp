@@ -40,7 +40,7 @@ QHash<QString, int> findRows(const DataSet& data, const std::vector<Record>& rec
     }
     int missing = rows.size();
     for (int row = 0; row < data.GetRowCount() && missing > 0; ++row) {
-        const auto found = rows.find(data.GetRow(row)->GetLabel());
+        const auto found = rows.find(data.GetRowLabel(row));
         if (found == rows.end() || *found != none)
             continue;
         *found = row;

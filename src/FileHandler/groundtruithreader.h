@@ -9,7 +9,7 @@ class DataSet;
 ///
 /// Fields in double quotes may hold commas and line ends; a quote that is never closed loses its
 /// record. The rows are looked up by their labels, though projects are written with row indices,
-/// and fields are lower-cased: kept, so a project comes back one row earlier, in lower case and
+/// and fields are lower-cased: a project comes back one row earlier, in lower case and
 /// without its segments that start at row 0.
 class GroundTruithReader : public QFile
 {

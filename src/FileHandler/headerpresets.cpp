@@ -3,9 +3,6 @@
 namespace
 {
 
-// Ids of StandardAttributeName beyond the sensor axes 0 to 5.
-enum { NAME_PRESSURE = 15, NAME_UNKNOWN, NAME_HOUR, NAME_MINUTE, NAME_SECOND };
-
 void appendAxes(ColumnHeaders& headers, int firstName, AttributeType firstType)
 {
     for (int axis = 0; axis < 3; ++axis)
@@ -14,13 +11,13 @@ void appendAxes(ColumnHeaders& headers, int firstName, AttributeType firstType)
 
 void appendSensors(ColumnHeaders& headers)
 {
-    appendAxes(headers, 0, ATTRIBUTE_ACC_X);
-    appendAxes(headers, 3, ATTRIBUTE_MAG_X);
+    appendAxes(headers, STANDARD_ACC_X, ATTRIBUTE_ACC_X);
+    appendAxes(headers, STANDARD_COMP_X, ATTRIBUTE_MAG_X);
 }
 
 void appendPressure(ColumnHeaders& headers)
 {
-    headers.Append(StandardAttributeName(NAME_PRESSURE), ATTRIBUTE_PRESSURE);
+    headers.Append(StandardAttributeName(STANDARD_TG_PRESSURE), ATTRIBUTE_PRESSURE);
 }
 
 QString columnName(int number)
@@ -45,13 +42,13 @@ ColumnHeaders namedColumns(int preset)
     if (preset == 0 || preset == 1)
         headers.Append(QStringLiteral("Time"), ATTRIBUTE_TIME);
     if (preset == 3) {
-        appendAxes(headers, 0, ATTRIBUTE_ACC_X);
+        appendAxes(headers, STANDARD_ACC_X, ATTRIBUTE_ACC_X);
         return headers;
     }
     appendSensors(headers);
     appendPressure(headers);
     if (preset == 2) {
-        for (int name : {NAME_UNKNOWN, NAME_SECOND, NAME_MINUTE, NAME_HOUR})
+        for (int name : {STANDARD_TG_UNKNOWN, STANDARD_TG_SEC, STANDARD_TG_MIN, STANDARD_TG_HOUR})
             headers.Append(StandardAttributeName(name), ATTRIBUTE_OTHER);
     }
     return headers;
@@ -79,10 +76,11 @@ QStringList LoggerColumnNames(int columns)
         return plainHeaders(columns).m_Names;
     appendSensors(headers);
     appendPressure(headers);
-    for (int name : {NAME_UNKNOWN, NAME_SECOND, NAME_MINUTE, NAME_HOUR, NAME_UNKNOWN})
+    for (int name : {STANDARD_TG_UNKNOWN, STANDARD_TG_SEC, STANDARD_TG_MIN, STANDARD_TG_HOUR,
+                     STANDARD_TG_UNKNOWN})
         headers.Append(StandardAttributeName(name), ATTRIBUTE_OTHER);
     for (int number = 13; number <= columns; ++number)
-        headers.Append(StandardAttributeName(NAME_UNKNOWN) + QString::number(number),
+        headers.Append(StandardAttributeName(STANDARD_TG_UNKNOWN) + QString::number(number),
                        ATTRIBUTE_OTHER);
     return headers.m_Names;
 }

@@ -19,7 +19,7 @@ struct ColumnHeaders {
 /// The headers of import preset 0 to 4 ("Preset 1" to "Preset 5") for a table of that many
 /// columns. A table too narrow for its preset, and any other preset number, gets plain numbered
 /// names. Plain names count from 1, the numbered names behind a preset's own go by the column
-/// index from 0: kept, users tell the two apart by it.
+/// index from 0: that is how users tell the two apart.
 ColumnHeaders PresetHeaders(int preset, int columns);
 
 /// The names that the logger page gives: the logger's own columns for a table of twelve columns

@@ -12,20 +12,17 @@ void removeFirstColumnOfType(DataSet& data, ColumnHeaders& headers, AttributeTyp
         return;
     headers.m_Types.removeAt(column);
     headers.m_Names.removeAt(column);
-    for (int row = 0; row < data.GetRowCount(); ++row)
-        data.GetRow(row)->RemoveValue(column);
-    data.SetAttributeCount(data.GetRow(0)->GetValueCount());
+    data.RemoveAttribute(column);
 }
 
 } // namespace
 
 void FinishImport(DataSet& data, ColumnHeaders& headers, int samplingRate)
 {
+    data.SetAttributeNames(new QStringList(headers.m_Names));
     removeFirstColumnOfType(data, headers, ATTRIBUTE_TIME);
     removeFirstColumnOfType(data, headers, ATTRIBUTE_DATE);
-    for (int row = 0; row < data.GetRowCount(); ++row)
-        data.GetRow(row)->SetNumberLabel(row + 1);
-    data.SetAttributeNames(new QStringList(headers.m_Names));
+    data.NumberRows();
     data.SetAttributeTypes(new QList<AttributeType>(headers.m_Types));
     data.m_SamplingRate = samplingRate;
 }

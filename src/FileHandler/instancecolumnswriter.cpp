@@ -33,7 +33,7 @@ bool WriteInstanceColumns(const QString& path, const DataSet& data, const Behavi
                 const int row = segment(i)->GetFrom() + line;
                 const bool isInside = row < std::min(segment(i)->GetTo(), data.GetRowCount());
                 out << (i == 0 ? "" : ", ");
-                out.Number(isInside ? data.GetRow(row)->GetValue(attribute) : 0);
+                out.Number(isInside ? data.GetValue(row, attribute) : 0);
             }
             out << '\n';
         }

@@ -63,9 +63,13 @@ QString LabelBackup::path()
     if (m_Path.isEmpty()) {
         QDir().mkpath(m_Folder);
         removeOldest();
-        const QString time =
-            QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd-hhmmss-zzz"));
-        m_Path = m_Folder + QStringLiteral("/labels-") + time + QStringLiteral(".thm");
+        // Never over the file of a recording that was left in the same millisecond.
+        QDateTime time = QDateTime::currentDateTime();
+        do {
+            m_Path =
+                m_Folder + time.toString(QStringLiteral("'/labels-'yyyy-MM-dd-hhmmss-zzz'.thm'"));
+            time = time.addMSecs(1);
+        } while (QFile::exists(m_Path));
     }
     return m_Path;
 }

@@ -59,7 +59,7 @@ bool isFileName(const QString& name)
 QString rowLabel(const DataSet& data, int row)
 {
     const int last = data.GetRowCount() - 1;
-    return last < 0 ? QString() : data.GetRow(std::clamp(row, 0, last))->GetLabel();
+    return last < 0 ? QString() : data.GetRowLabel(std::clamp(row, 0, last));
 }
 
 template <typename Visit>
@@ -78,7 +78,7 @@ bool writeDataFile(const QString& path, const DataSet& data, const Segments& seg
         out << "\t\n";
         for (const CutSegment* segment : segments) {
             forEachRow(data, *segment, [&](int row) {
-                WriteLabelledRow(out, *data.GetRow(row), '\t');
+                WriteLabelledRow(out, data, row, '\t');
                 out << "\t\n";
             });
         }
@@ -166,7 +166,8 @@ bool LabelWriter::WriteProject(const LabelCollection* labels)
     return report(WriteTextFile(m_FileName, [&](TextOutput& out) {
         for (int i = 0; i < labels->GetLabelCount(); ++i) {
             const BehaviorLabel& label = *labels->GetLabel(i);
-            // Names are written bare, also those with a comma: kept.
+            // Names are written bare: a name with a comma shifts the fields behind it, and its
+            // line is passed over when the project is read.
             for (const CutSegment* segment : segmentsOf(label))
                 out << label.GetName() << ',' << segment->GetFrom() << ','
                     << std::min(segment->GetTo(), lastRow) << '\n';
@@ -228,7 +229,7 @@ bool LabelWriter::WriteAligned(const LabelCollection* labels)
         WriteAttributeNames(out, *m_DataSet, ',');
         out << ",Behavior\n";
         for (int row = 0; row < m_DataSet->GetRowCount(); ++row) {
-            WriteLabelledRow(out, *m_DataSet->GetRow(row), ',');
+            WriteLabelledRow(out, *m_DataSet, row, ',');
             out << ',' << behaviors[size_t(row)] << '\n';
         }
     }));

@@ -39,8 +39,10 @@ std::string_view withoutBlanks(std::string_view text)
 double NumberFromText(std::string_view text)
 {
     std::string_view number = withoutBlanks(text);
-    const bool negative = !number.empty() && number.front() == '-';
-    if (!number.empty() && (negative || number.front() == '+'))
+    if (number.empty())
+        return 0.0;
+    const bool negative = number.front() == '-';
+    if (negative || number.front() == '+')
         number.remove_prefix(1);
     if (startsWithDigit(number)) {
         double value = 0.0;

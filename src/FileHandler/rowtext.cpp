@@ -9,8 +9,10 @@ void WriteAttributeNames(TextOutput& out, const DataSet& data, char separator)
         out << separator << name;
 }
 
-void WriteLabelledRow(TextOutput& out, const DataRow& row, char separator)
+void WriteLabelledRow(TextOutput& out, const DataSet& data, int row, char separator)
 {
-    out << row.GetLabel();
-    out.Numbers(row.GetValues(), row.GetValueCount(), separator);
+    out << data.GetRowLabel(row);
+    const int count = data.GetValueCount(row);
+    for (int i = 0; i < count; ++i)
+        (out << separator).Number(data.GetValue(row, i));
 }

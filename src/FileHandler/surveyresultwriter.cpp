@@ -10,7 +10,7 @@ constexpr int PERIOD_MILLISECONDS = 30000;
 SurveyResultWriter::SurveyResultWriter(QObject* parent)
     : QObject(parent), m_Directory(QDir::currentPath() + m_Folder)
 {
-    // The system refuses this inside a directory that is not there, so none appears: kept.
+    // The system refuses this inside a directory that is not there, so none appears.
     if (!m_Directory.exists())
         m_Directory.mkdir(QStringLiteral("."));
     connect(&m_Timer, &QTimer::timeout, this, qOverload<>(&SurveyResultWriter::WriteLabels));

@@ -27,7 +27,7 @@ public:
 public slots:
     /// Counts a move, once there are data, segments and labels. The behaviour does not matter.
     void WriteLabels(const QString& alias);
-    /// The tick; it writes nothing: kept.
+    /// The tick; it writes nothing, so a survey leaves no files behind yet.
     void WriteLabels();
 
 private:

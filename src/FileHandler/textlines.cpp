@@ -8,7 +8,7 @@
 namespace
 {
 
-constexpr size_t blockSize = size_t(64) * 1024;
+constexpr size_t blockSize = size_t(256) * 1024;
 // No recording has such lines; a file of that kind is something else.
 constexpr size_t longestLine = size_t(64) * 1024 * 1024;
 constexpr int utf8Mib = 106;
@@ -39,6 +39,12 @@ const char* findByte(const char* begin, const char* end, char byte)
 {
     const void* found = begin == end ? nullptr : std::memchr(begin, byte, size_t(end - begin));
     return found ? static_cast<const char*>(found) : end;
+}
+
+// Moves the text together; its new end. Mostly there is but one, at the end.
+char* withoutCarriageReturns(char* begin, char* end)
+{
+    return std::remove(begin + (findByte(begin, end, '\r') - begin), end, '\r');
 }
 
 // Where a text ends when a UTF-8 character that lacks its last bytes is left out.
@@ -93,7 +99,7 @@ bool TextLines::Next(std::string_view& line)
     m_Begin = std::min(m_Begin + length + 1, m_End);
     char* end = begin + length;
     if (m_HasCarriageReturns)
-        end = std::remove(begin, end, '\r');
+        end = withoutCarriageReturns(begin, end);
     line = std::string_view(begin, size_t(end - begin));
     return true;
 }

@@ -17,7 +17,7 @@ class TextLines
 {
 public:
     /// Memory that can be read behind each line.
-    static constexpr int Padding = 8;
+    static constexpr int Padding = 64;
 
     /// Reads device from its present position on; it stays open and is not owned.
     explicit TextLines(QIODevice& device);

@@ -2,6 +2,7 @@
 
 #include "axisrangebox.h"
 #include "dataset.h"
+#include "modaldialog.h"
 #include "usererror.h"
 #include <QCheckBox>
 #include <QGridLayout>
@@ -131,4 +132,10 @@ bool AxesSettingsDialog::checkLimits()
         return false;
     }
     return true;
+}
+
+void EditAxes(const SharedRecording& recording, QWidget* parent)
+{
+    if (ModalDialog<AxesSettingsDialog>(recording->GetDataSet(), parent).IsAccepted())
+        recording->Tell(LiveRecording::ATTRIBUTES);
 }

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "liverecording.h"
 #include <QDialog>
 #include <vector>
 
 class AxisRangeBox;
-class DataSet;
 class QCheckBox;
 
 /// The limits of every attribute's value axis, and whether its plot has a line at zero.
@@ -36,3 +36,6 @@ private:
     DataSet* m_DataSet;
     std::vector<Row> m_Rows;
 };
+
+/// Lets the user change the limits of the value axes.
+void EditAxes(const SharedRecording& recording, QWidget* parent);

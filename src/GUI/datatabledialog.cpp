@@ -1,6 +1,7 @@
 #include "datatabledialog.h"
 
 #include "dataset.h"
+#include "modaldialog.h"
 #include <QHBoxLayout>
 #include <QIntValidator>
 #include <QLabel>
@@ -125,10 +126,10 @@ void DataTableDialog::fillTable()
     m_Table->setRowCount(end - m_From);
     QStringList labels;
     for (int row = m_From; row < end; ++row) {
-        const DataRow* values = m_DataSet->GetRow(row);
-        labels.append(values->GetLabel());
+        labels.append(m_DataSet->GetRowLabel(row));
         for (int attribute = 0; attribute < m_DataSet->GetAttributeCount(); ++attribute)
-            m_Table->setItem(row - m_From, attribute, makeCell(values->GetValue(attribute)));
+            m_Table->setItem(row - m_From, attribute,
+                             makeCell(m_DataSet->GetValue(row, attribute)));
     }
     m_Table->setVerticalHeaderLabels(labels);
     m_Table->scrollToTop();
@@ -136,4 +137,9 @@ void DataTableDialog::fillTable()
                              .arg(std::min(m_From + 1, end))
                              .arg(end)
                              .arg(m_DataSet->GetRowCount()));
+}
+
+void ShowDataTable(const SharedRecording& recording, QWidget* parent)
+{
+    ModalDialog<DataTableDialog>(recording->GetDataSet(), parent).Run();
 }

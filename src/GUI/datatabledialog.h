@@ -1,8 +1,8 @@
 #pragma once
 
+#include "liverecording.h"
 #include <QDialog>
 
-class DataSet;
 class QLabel;
 class QLineEdit;
 class QTableWidget;
@@ -34,3 +34,6 @@ private:
     int m_From = 0;
     int m_To = 100;
 };
+
+/// Shows the raw values of a recording.
+void ShowDataTable(const SharedRecording& recording, QWidget* parent);

@@ -4,6 +4,7 @@
 #include "applicationinfo.h"
 #include "attributesmenu.h"
 #include "axessettingsdialog.h"
+#include "commandpalette.h"
 #include "cutautomation.h"
 #include "cuttablelineplotwidget.h"
 #include "databasecontrolpanel.h"
@@ -12,55 +13,32 @@
 #include "datatabledialog.h"
 #include "fileimportwizard.h"
 #include "graphtoolbar.h"
-#include "groundtruithbehaviorcollection.h"
 #include "groundtruithcomparisionwidget.h"
 #include "intmappedaction.h"
 #include "labelbackup.h"
 #include "labeleddatatabwidget.h"
 #include "mergelabelsdialog.h"
+#include "modaldialog.h"
 #include "overviewtimelinewidget.h"
 #include "patternsdataobject.h"
 #include "plotnavigator.h"
-#include "recording.h"
 #include "recordingfiles.h"
 #include "resourcepath.h"
 #include "resultwidget.h"
 #include "segmenteditor.h"
 #include "settingsfolder.h"
 #include "surveyresultwriter.h"
-#include "usererror.h"
+#include "tooltable.h"
 #include "zoomwidget.h"
-#include <QApplication>
 #include <QDesktopServices>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSplitter>
+#include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
-
-/// One entry of a menu, from left to right as users and this program see it.
-struct MainWindow::MenuRow {
-    QAction* MainWindow::*m_Action;
-    const char* m_Title;
-    const char* m_Icon;
-    void (MainWindow::*m_Slot)();
-    bool m_NeedsData;
-    // Some tools are complete, but left out of the menus on purpose.
-    bool m_IsShown = true;
-    QKeySequence::StandardKey m_Shortcut = QKeySequence::UnknownKey;
-};
-
-namespace
-{
-
-QIcon loadIcon(const char* name)
-{
-    return name ? QIcon(ResourcePath(QLatin1String(name))) : QIcon();
-}
-
-} // namespace
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent), m_OverviewTimeline(new OverviewTimelineWidget),
@@ -69,11 +47,11 @@ MainWindow::MainWindow(QWidget* parent)
       m_LabeledDataTabWidget(new LabeledDataTabWidget),
       m_Navigator(
           new PlotNavigator(m_ScrollArea, m_LinePlot, m_OverviewTimeline, m_ZoomWidget, this)),
-      m_SegmentEditor(
-          std::make_unique<SegmentEditor>(this, m_LinePlot, m_OverviewTimeline, m_ResultWidget)),
+      m_SegmentEditor(std::make_unique<SegmentEditor>(this, m_LinePlot)),
       m_Files(std::make_unique<RecordingFiles>(this)),
-      m_SurveyResultWriter(std::make_unique<SurveyResultWriter>()),
-      m_LabelBackup(std::make_unique<LabelBackup>(SettingsFolder() + QStringLiteral("backup")))
+      m_SurveyResultWriter(new SurveyResultWriter(this)),
+      m_LabelBackup(std::make_unique<LabelBackup>(SettingsFolder() + QStringLiteral("backup"))),
+      m_Tools(MakeTools({this, m_ResultWidget, m_LabeledDataTabWidget}))
 {
     resize(1100, 800);
     setWindowTitle(ApplicationTitle());
@@ -92,15 +70,12 @@ MainWindow::MainWindow(QWidget* parent)
     buildMenus();
     buildToolBar();
     m_SurveyResultWriter->Start();
-    connect(m_ResultWidget, &ResultWidget::MoveResults, m_SurveyResultWriter.get(),
-            qOverload<const QString&>(&SurveyResultWriter::WriteLabels));
     enableActions();
 }
 
 MainWindow::~MainWindow()
 {
     // The views outlive the recording by a little.
-    clearGraph();
     showRecording(nullptr);
 }
 
@@ -129,126 +104,82 @@ QWidget* MainWindow::makeLabelPane()
 
 void MainWindow::connectGraph()
 {
+    using Plot = CuttableLinePlotWidget;
     const QScrollBar* bar = m_ScrollArea->horizontalScrollBar();
     connect(bar, &QScrollBar::sliderMoved, this, &MainWindow::updateSelection);
     connect(bar, &QScrollBar::valueChanged, this, &MainWindow::updateSelection);
     connect(bar, &QScrollBar::rangeChanged, this, &MainWindow::sliderRange);
-    connect(m_LinePlot, &CuttableLinePlotWidget::CutRequested, this, &MainWindow::cutGraph);
-    connect(m_LinePlot, &CuttableLinePlotWidget::ShowInClassificationRequest, this,
-            &MainWindow::showSegment);
-    connect(m_LinePlot, &CuttableLinePlotWidget::DeleteActionRequested, this,
-            &MainWindow::deleteSegment);
-    connect(m_LinePlot, &CuttableLinePlotWidget::MoveActionRequested, this,
-            &MainWindow::moveSegment);
-    connect(m_LinePlot, &CuttableLinePlotWidget::SaveActionRequested, this,
-            &MainWindow::saveSegment);
-    connect(m_LinePlot, &CuttableLinePlotWidget::SearchActionRequested, this,
-            &MainWindow::searchSegment);
-    connect(m_LinePlot, &CuttableLinePlotWidget::ZoomOnRegion, this, &MainWindow::ZoomOnRegion);
-    connect(m_LinePlot, &CuttableLinePlotWidget::WindowOpened, this, &MainWindow::keepWindow);
+    connect(m_LinePlot, &Plot::CutRequested, this, &MainWindow::cutGraph);
+    connect(m_LinePlot, &Plot::ShowInClassificationRequest, this, &MainWindow::showSegment);
+    connect(m_LinePlot, &Plot::DeleteActionRequested, this, &MainWindow::deleteSegment);
+    connect(m_LinePlot, &Plot::MoveActionRequested, this, &MainWindow::moveSegment);
+    connect(m_LinePlot, &Plot::SaveActionRequested, this, &MainWindow::saveSegment);
+    connect(m_LinePlot, &Plot::SearchActionRequested, this, &MainWindow::searchSegment);
+    connect(m_LinePlot, &Plot::ZoomOnRegion, this, &MainWindow::ZoomOnRegion);
 }
 
 void MainWindow::connectLabelPane()
 {
-    connect(m_ResultWidget, &ResultWidget::SegmentsUpdated, this, &MainWindow::updateSegmentViews);
-    connect(m_LabeledDataTabWidget, &LabeledDataTabWidget::SegmentsUpdated, this,
-            &MainWindow::updateSegmentViews);
     connect(m_ResultWidget, &ResultWidget::ShowSelected, this, &MainWindow::showRange);
     connect(m_LabeledDataTabWidget, &LabeledDataTabWidget::ShowSelected, this,
             &MainWindow::showRange);
-    connect(m_ResultWidget, &ResultWidget::SegmentsMoved, m_LabeledDataTabWidget,
-            &LabeledDataTabWidget::Refresh);
-    connect(m_LabeledDataTabWidget, &LabeledDataTabWidget::NewResultsFound, m_ResultWidget,
-            &ResultWidget::ClearAndUpdateSegments);
-    connect(m_LabeledDataTabWidget, &LabeledDataTabWidget::NewResultsFound, this,
-            &MainWindow::updateSegmentViews);
-}
-
-void MainWindow::updateSegmentViews()
-{
-    m_LinePlot->UpdateCutViz();
-    m_OverviewTimeline->UpdateLabels();
+    connect(m_ResultWidget, &ResultWidget::MoveResults, m_SurveyResultWriter,
+            qOverload<const QString&>(&SurveyResultWriter::WriteLabels));
 }
 
 void MainWindow::buildMenus()
 {
-    m_FileMenu = menuBar()->addMenu(tr("File"));
-    addRows(m_FileMenu,
-            {{&MainWindow::m_OpenFileAction, QT_TR_NOOP("Open Data File"), "icons/Folder3.png",
-              &MainWindow::openFile, false, true, QKeySequence::Open},
-             {&MainWindow::m_SaveDataFileAction, QT_TR_NOOP("Save Data File"), "icons/Save.png",
-              &MainWindow::saveDataFile, true},
-             {&MainWindow::m_ImportProjectAction, QT_TR_NOOP("Import Project"), nullptr,
-              &MainWindow::importLabels, true},
-             {&MainWindow::m_ExportProjectAction, QT_TR_NOOP("Export Project"), nullptr,
-              &MainWindow::exportProject, true, true, QKeySequence::Save},
-             {&MainWindow::m_ExportSummaryAction, QT_TR_NOOP("Export Label Summary"), nullptr,
-              &MainWindow::exportSummaryLabels, false},
-             {&MainWindow::m_ExitAction, QT_TR_NOOP("Exit"), nullptr, nullptr, false, true,
-              QKeySequence::Quit}});
-    connect(m_ExitAction, &QAction::triggered, qApp, &QApplication::quit);
-    m_VisualizationMenu = menuBar()->addMenu(tr("Visualization"));
-    m_AttributesMenu = new AttributesMenu(tr("Attributes"), m_VisualizationMenu);
-    m_AttributesMenu->setIcon(loadIcon("icons/Stats2.png"));
-    m_VisualizationMenu->addMenu(m_AttributesMenu);
+    for (const Tool& tool : m_Tools) {
+        if (tool.m_Place != Tool::PALETTE_ONLY)
+            addToolAction(tool);
+    }
+    QMenu* visualization = menuOf(tr("Visualization"));
+    m_AttributesMenu = new AttributesMenu(tr("Attributes"), visualization);
+    m_AttributesMenu->setIcon(QIcon(ResourcePath(QStringLiteral("icons/Stats2.png"))));
+    visualization->insertMenu(visualization->actions().value(0), m_AttributesMenu);
     connect(m_AttributesMenu, &AttributesMenu::AttributeToggled, m_LinePlot,
             &CuttableLinePlotWidget::TogglePlot);
-    addRows(m_VisualizationMenu,
-            {{&MainWindow::m_GroundTruithAction, QT_TR_NOOP("Ground Truith Comparision"), nullptr,
-              &MainWindow::showGroundTruith, true, false}});
-    m_ToolsMenu = menuBar()->addMenu(tr("Tools"));
-    m_DeriveMenu = addNumberedMenu(tr("Derive Attributes"), "icons/Tool2.png", 0,
-                                   DataProcessor::OperationCount, &DataProcessor::getOperationName,
-                                   &MainWindow::processAttribute);
-    addRows(m_ToolsMenu, {{&MainWindow::m_AddTemplateAction, QT_TR_NOOP("Add Template"),
-                           "icons/add.png", &MainWindow::addTemplateForm, true},
-                          {&MainWindow::m_MergeLabelsAction, QT_TR_NOOP("Merge Labels"),
-                           "icons/merge2.png", &MainWindow::mergeLabels, true},
-                          {&MainWindow::m_DataTableAction, QT_TR_NOOP("Data Table"),
-                           "icons/Table.png", &MainWindow::showDataTable, true}});
-    // The first method does nothing.
-    m_AutomaticCutsMenu =
-        addNumberedMenu(tr("Automatic Cuts"), "icons/cut.png", 1, CutAutomation::MethodCount,
-                        &CutAutomation::getMethodName, &MainWindow::cutAutomationAttribute);
-    m_SettingsMenu = menuBar()->addMenu(tr("Settings"));
-    addRows(m_SettingsMenu, {{&MainWindow::m_AxesSettingsAction, QT_TR_NOOP("Axes Settings"),
-                              "icons/Gear.png", &MainWindow::axesSettings, true},
-                             {&MainWindow::m_TemplateDBAction, QT_TR_NOOP("Template Database"),
-                              "icons/Database.png", &MainWindow::showTemplateDBSettings, true}});
-    m_HelpMenu = menuBar()->addMenu(tr("Help"));
-    addRows(m_HelpMenu,
-            {{&MainWindow::m_AboutAction, QT_TR_NOOP("About"), "icons/Info.png",
-              &MainWindow::aboutDialog, false},
-             {&MainWindow::m_HelpAction, QT_TR_NOOP("Online Help"), "icons/Computer.png",
-              &MainWindow::openHelp, false, true, QKeySequence::HelpContents}});
+
+    auto* palette = new QToolButton;
+    palette->setText(tr("Find a tool ..."));
+    palette->setAutoRaise(true);
+    palette->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_P);
+    palette->setToolTip(tr("Find a tool by a few letters of its name (%1)")
+                            .arg(palette->shortcut().toString(QKeySequence::NativeText)));
+    connect(palette, &QToolButton::clicked, this, &MainWindow::showCommandPalette);
+    menuBar()->setCornerWidget(palette);
 }
 
-QMenu* MainWindow::addNumberedMenu(const QString& title, const char* icon, int first, int count,
-                                   QString (*nameOf)(int), void (MainWindow::*slot)(int))
+// A menu is made with its first entry, a submenu with the icon of that.
+QMenu* MainWindow::menuOf(const QString& path)
 {
-    QMenu* menu = m_ToolsMenu->addMenu(loadIcon(icon), title);
-    for (int i = first; i < count; ++i) {
-        auto* action = new IntMappedAction(i, nameOf(i), menu);
-        connect(action, qOverload<int>(&IntMappedAction::triggered), this, slot);
-        menu->addAction(action);
+    QMenu*& menu = m_Menus[path];
+    if (!menu) {
+        const QString above = path.section(QLatin1Char('/'), 0, -2);
+        const QString title = path.section(QLatin1Char('/'), -1);
+        menu = above.isEmpty() ? menuBar()->addMenu(title) : menuOf(above)->addMenu(title);
     }
-    m_DataActions.append(menu->menuAction());
     return menu;
 }
 
-void MainWindow::addRows(QMenu* menu, const std::vector<MenuRow>& rows)
+void MainWindow::addToolAction(const Tool& tool)
 {
-    for (const MenuRow& row : rows) {
-        auto* action = new QAction(loadIcon(row.m_Icon), tr(row.m_Title), this);
-        action->setShortcut(row.m_Shortcut);
-        if (row.m_Slot)
-            connect(action, &QAction::triggered, this, row.m_Slot);
-        if (row.m_NeedsData)
-            m_DataActions.append(action);
-        if (row.m_IsShown)
-            menu->addAction(action);
-        this->*row.m_Action = action;
-    }
+    const bool isNumbered = tool.m_Number >= 0;
+    const QIcon icon = tool.m_Icon ? QIcon(ResourcePath(QLatin1String(tool.m_Icon))) : QIcon();
+    QMenu* menu = menuOf(tool.m_Menu);
+    QAction* action = isNumbered ? new IntMappedAction(tool.m_Number, tool.m_Title, this)
+                                 : new QAction(icon, tool.m_Title, this);
+    action->setShortcut(tool.m_Keys);
+    connect(action, &QAction::triggered, this, [run = tool.m_Run] { run(); });
+    if (tool.m_Place != Tool::OUT_OF_MENU)
+        menu->addAction(action);
+    if (isNumbered)
+        menu->setIcon(icon);
+    // The entries of a numbered menu are out of reach with it.
+    QAction* greyed = isNumbered ? menu->menuAction() : action;
+    if (tool.m_Condition != Tool::NOTHING && tool.m_Place != Tool::ALWAYS_IN_MENU &&
+        !m_DataActions.contains(greyed))
+        m_DataActions.append(greyed);
 }
 
 void MainWindow::buildToolBar()
@@ -260,17 +191,63 @@ void MainWindow::buildToolBar()
     addToolBar(toolBar);
 }
 
-void MainWindow::openFile()
+void MainWindow::enableActions()
 {
-    setRecording(nullptr);
-    FileImportWizard wizard(this);
-    if (wizard.exec() == QDialog::Accepted && wizard.GetDataSet())
-        setRecording(std::make_shared<Recording>(wizard.GetDataSet()));
+    for (QAction* action : qAsConst(m_DataActions))
+        action->setEnabled(m_Recording != nullptr);
 }
 
-void MainWindow::setRecording(std::shared_ptr<Recording> recording)
+void MainWindow::showCommandPalette()
 {
-    clearGraph();
+    std::vector<CommandPalette::Entry> entries;
+    for (const Tool& tool : m_Tools) {
+        QString title = tool.m_Title;
+        entries.push_back({tool.m_Menu, title.replace(QStringLiteral("&&"), QStringLiteral("&")),
+                           tool.m_Keys, obstacleOf(tool), tool.m_Run});
+    }
+    for (QAction* action : m_AttributesMenu->actions())
+        entries.push_back(
+            {m_AttributesMenu->title(), action->text(), {}, {}, [action] { action->trigger(); }});
+    std::function<void()> run;
+    {
+        ModalDialog<CommandPalette> palette(std::move(entries), this);
+        if (palette.IsAccepted())
+            run = palette->GetChoice();
+    }
+    if (run)
+        run();
+}
+
+QString MainWindow::obstacleOf(const Tool& tool) const
+{
+    int row = 0;
+    int end = 0;
+    const bool hasRows = m_LinePlot->GetSelectedRange(row, end) && row < end;
+    if (tool.m_Condition == Tool::NOTHING)
+        return {};
+    if (!m_Recording)
+        return tr("Open a data file first");
+    if (tool.m_Condition == Tool::SELECTED_ROWS && !hasRows)
+        return tr("Drag over rows of the graph first");
+    if (tool.m_Condition == Tool::SELECTED_SEGMENT && !hasRows && !m_LinePlot->GetSelectedRow(row))
+        return tr("Drag over rows of the graph or right-click a segment first");
+    if (tool.m_Condition == Tool::BEHAVIOR &&
+        m_Recording->GetLabelCollection()->GetLabelCount() == 0)
+        return tr("Add a behavior first");
+    return {};
+}
+
+void MainWindow::openFile()
+{
+    SetRecording(nullptr);
+    ModalDialog<FileImportWizard> wizard(this);
+    if (wizard.IsAccepted() && wizard->GetDataSet())
+        SetRecording(
+            std::make_shared<LiveRecording>(std::unique_ptr<DataSet>(wizard->GetDataSet())));
+}
+
+void MainWindow::SetRecording(SharedRecording recording)
+{
     // The views let go of the old one before it may be freed.
     showRecording(nullptr);
     m_Recording = std::move(recording);
@@ -278,66 +255,63 @@ void MainWindow::setRecording(std::shared_ptr<Recording> recording)
     enableActions();
 }
 
-void MainWindow::clearGraph()
+void MainWindow::showRecording(LiveRecording* recording)
 {
-    m_LinePlot->ClearPlot();
-    m_LinePlot->ClearSelection();
-    m_LinePlot->ResizePlots(m_LinePlot->width(), m_LinePlot->height());
-}
-
-void MainWindow::showRecording(Recording* recording)
-{
-    m_DataSet = recording ? recording->GetDataSet() : nullptr;
-    m_CutCollection = recording ? recording->GetCutCollection() : nullptr;
-    m_LabelCollection = recording ? recording->GetLabelCollection() : nullptr;
-    m_LabelBackup->Watch(m_DataSet, m_LabelCollection);
-    handOver(*m_LinePlot);
-    m_OverviewTimeline->SetDataSet(m_DataSet);
-    m_OverviewTimeline->SetLabelCollection(m_LabelCollection);
-    handOver(*m_LabeledDataTabWidget);
-    handOver(*m_ResultWidget);
-    handOver(*m_SurveyResultWriter);
-    m_LabeledDataTabWidget->Rebuild();
-    m_ResultWidget->Rebuild();
-    m_AttributesMenu->SetDataSet(m_DataSet);
-}
-
-template <class View>
-void MainWindow::handOver(View& view)
-{
-    view.SetDataSet(m_DataSet);
-    view.SetCutCollection(m_CutCollection);
-    view.SetLabelCollection(m_LabelCollection);
-}
-
-void MainWindow::enableActions()
-{
-    for (QAction* action : m_DataActions)
-        action->setEnabled(m_DataSet);
-}
-
-void MainWindow::keepWindow(QWidget* window)
-{
-    m_Windows.Add(window, m_Recording);
+    m_LabelBackup->Watch(DataOf(recording), LabelsOf(recording));
+    m_LinePlot->SetRecording(recording);
+    m_OverviewTimeline->SetRecording(recording);
+    m_LabeledDataTabWidget->SetRecording(recording);
+    m_ResultWidget->SetRecording(recording);
+    m_AttributesMenu->SetRecording(recording);
+    m_SurveyResultWriter->SetDataSet(DataOf(recording));
+    m_SurveyResultWriter->SetCutCollection(CutsOf(recording));
+    m_SurveyResultWriter->SetLabelCollection(LabelsOf(recording));
 }
 
 void MainWindow::showDataTable()
 {
-    if (m_DataSet)
-        DataTableDialog(m_DataSet, this).exec();
+    if (m_Recording)
+        ShowDataTable(m_Recording, this);
 }
 
 void MainWindow::axesSettings()
 {
-    if (!m_DataSet)
-        return;
-    AxesSettingsDialog(m_DataSet, this).exec();
-    m_LinePlot->ResetVerticalAxes();
+    if (m_Recording)
+        EditAxes(m_Recording, this);
+}
+
+void MainWindow::mergeLabels()
+{
+    if (m_Recording)
+        RunMergeLabels(m_Recording, this);
+}
+
+void MainWindow::showGroundTruith()
+{
+    if (m_Recording)
+        ShowGroundTruith(m_Recording, this);
+}
+
+void MainWindow::showTemplateDBSettings()
+{
+    ShowTemplateDatabase(m_Recording, this);
+}
+
+void MainWindow::processAttribute(int operation)
+{
+    if (m_Recording)
+        DeriveAttributes(m_Recording, this, operation);
+}
+
+void MainWindow::cutAutomationAttribute(int method)
+{
+    if (m_Recording)
+        CutByItself(m_Recording, this, method);
 }
 
 void MainWindow::aboutDialog()
 {
-    AboutDialog(this).exec();
+    ModalDialog<AboutDialog>(this).Run();
 }
 
 void MainWindow::openHelp()
@@ -379,31 +353,12 @@ PatternsDataObject* MainWindow::saveSegment()
 
 void MainWindow::searchSegment()
 {
-    if (!m_SegmentEditor->Search(m_Recording.get()))
-        return;
-    m_ResultWidget->ClearAndUpdateSegments();
-    updateSegmentViews();
+    m_SegmentEditor->Search(m_Recording.get());
 }
 
 void MainWindow::addTemplateForm()
 {
     m_SegmentEditor->AddTemplate(m_Recording.get());
-}
-
-void MainWindow::showTemplateDBSettings()
-{
-    DatabaseControlPanel(this).exec();
-}
-
-void MainWindow::mergeLabels()
-{
-    if (!m_CutCollection)
-        return;
-    MergeLabelsDialog dialog(m_CutCollection, this);
-    connect(&dialog, &MergeLabelsDialog::LabelsMerged, this, &MainWindow::updateSegmentViews);
-    connect(&dialog, &MergeLabelsDialog::LabelsMerged, m_LabeledDataTabWidget,
-            &LabeledDataTabWidget::Refresh);
-    dialog.exec();
 }
 
 void MainWindow::saveDataFile()
@@ -423,56 +378,7 @@ void MainWindow::exportSummaryLabels()
 
 void MainWindow::importLabels()
 {
-    const auto addGroup = [this](const QString& name) {
-        return m_LabeledDataTabWidget->AddGroup(name);
-    };
-    if (m_Files->ImportLabels(m_Recording.get(), addGroup))
-        updateSegmentViews();
-}
-
-void MainWindow::showGroundTruith()
-{
-    auto reference = m_Files->ReadReference(m_Recording.get());
-    if (!reference)
-        return;
-    auto* window = new GroundTruithComparisionWidget;
-    window->SetLabelCollection(m_LabelCollection);
-    window->SetBehaviorCollection(reference.get());
-    window->SetCutCollection(m_CutCollection);
-    window->SetDataSet(m_DataSet);
-    using Shown = std::pair<std::shared_ptr<Recording>, decltype(reference)>;
-    m_Windows.Add(window, std::make_shared<Shown>(m_Recording, std::move(reference)));
-    window->show();
-}
-
-void MainWindow::processAttribute(int operation)
-{
-    if (!m_DataSet)
-        return;
-    DataProcessor processor(this);
-    processor.setDataSet(m_DataSet);
-    if (!processor.runOperation(operation))
-        return;
-    for (const AddedAttribute& added : processor.getAddedAttributes()) {
-        m_AttributesMenu->AddAttribute(added.m_Index, added.m_Name);
-        m_ResultWidget->AddAttribute(added.m_Index, added.m_Name);
-        m_LabeledDataTabWidget->AddAttribute(added.m_Index, added.m_Name);
-    }
-}
-
-void MainWindow::cutAutomationAttribute(int method)
-{
-    if (!m_DataSet || !m_CutCollection)
-        return;
-    CutAutomation cutter(this);
-    cutter.setDataSet(m_DataSet);
-    cutter.setCutCollection(m_CutCollection);
-    if (!cutter.generateCuts(method)) {
-        ShowUserError(this, tr("Error Generating Cuts"), cutter.getErrorMessage());
-        return;
-    }
-    updateSegmentViews();
-    m_LabeledDataTabWidget->Refresh();
+    m_Files->ImportLabels(m_Recording.get());
 }
 
 void MainWindow::updateSelection()
@@ -497,8 +403,8 @@ void MainWindow::resizeLinePlotWidget()
 
 void MainWindow::ZoomOnRegion(int from, int to)
 {
-    if (m_DataSet)
-        m_Navigator->ZoomOnRegion(from, to, m_DataSet->GetRowCount());
+    if (m_Recording)
+        m_Navigator->ZoomOnRegion(from, to, m_Recording->GetDataSet()->GetRowCount());
 }
 
 void MainWindow::hideShowLabeledData(bool show)

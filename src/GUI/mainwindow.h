@@ -1,36 +1,38 @@
 #pragma once
 
-#include "analysiswindows.h"
+#include "tool.h"
 #include <QMainWindow>
 #include <memory>
+#include <vector>
 
 class AttributesMenu;
-class CutCollection;
 class CuttableLinePlotWidget;
-class DataSet;
 class LabelBackup;
-class LabelCollection;
 class LabeledDataTabWidget;
 class OverviewTimelineWidget;
 class PatternsDataObject;
 class PlotNavigator;
 class QScrollArea;
-class QSplitter;
-class Recording;
 class RecordingFiles;
 class ResultWidget;
 class SegmentEditor;
 class SurveyResultWriter;
 class ZoomWidget;
 
-/// The program's one main window. It has a recording or none, hands it to every view and opens
-/// all further windows.
+/// The program's one main window. It has a recording or none, hands it to every view and offers
+/// all tools.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
+
+    /// Null without one.
+    const SharedRecording& GetRecording() const { return m_Recording; }
+    /// Shows a recording in place of the one before, in all views and without plots; null shows
+    /// none.
+    void SetRecording(SharedRecording recording);
 
 public slots:
     void showDataTable();
@@ -61,8 +63,7 @@ public slots:
     void showTemplateDBSettings();
     /// Needs a selected row; has no visible effect.
     void showSegment();
-    /// Runs an operation that derives attributes, by its place in the menu, and offers what it
-    /// added.
+    /// Runs an operation that derives attributes, by its place in the menu.
     void processAttribute(int operation);
     /// Runs a method of automatic cutting.
     void cutAutomationAttribute(int method);
@@ -73,33 +74,24 @@ public slots:
     /// Zooms the graph on a range of rows.
     void ZoomOnRegion(int from, int to);
     void hideShowLabeledData(bool show);
+    /// Finds a tool by a few letters and runs it.
+    void showCommandPalette();
 
 private:
-    struct MenuRow;
     QWidget* makeGraphPane();
     QWidget* makeLabelPane();
     void connectGraph();
     void connectLabelPane();
     void buildMenus();
-    void addRows(QMenu* menu, const std::vector<MenuRow>& rows);
-    QMenu* addNumberedMenu(const QString& title, const char* icon, int first, int count,
-                           QString (*nameOf)(int), void (MainWindow::*slot)(int));
+    QMenu* menuOf(const QString& path);
+    void addToolAction(const Tool& tool);
     void buildToolBar();
-    void setRecording(std::shared_ptr<Recording> recording);
-    void clearGraph();
-    void showRecording(Recording* recording);
-    template <class View>
-    void handOver(View& view);
+    QString obstacleOf(const Tool& tool) const;
+    void showRecording(LiveRecording* recording);
     void enableActions();
-    void keepWindow(QWidget* window);
-    void updateSegmentViews();
 
-    // The recording and its parts, all null without one. Others may share it: see
-    // AnalysisWindows.
-    std::shared_ptr<Recording> m_Recording;
-    DataSet* m_DataSet = nullptr;
-    CutCollection* m_CutCollection = nullptr;
-    LabelCollection* m_LabelCollection = nullptr;
+    // Null without one. Windows that show it have a share, too.
+    SharedRecording m_Recording;
 
     OverviewTimelineWidget* m_OverviewTimeline;
     CuttableLinePlotWidget* m_LinePlot;
@@ -110,35 +102,14 @@ private:
     PlotNavigator* m_Navigator;
     std::unique_ptr<SegmentEditor> m_SegmentEditor;
     std::unique_ptr<RecordingFiles> m_Files;
-    std::unique_ptr<SurveyResultWriter> m_SurveyResultWriter;
+    SurveyResultWriter* m_SurveyResultWriter;
     std::unique_ptr<LabelBackup> m_LabelBackup;
     std::unique_ptr<PatternsDataObject> m_SavedPattern;
 
-    QMenu* m_FileMenu = nullptr;
-    QMenu* m_VisualizationMenu = nullptr;
+    std::vector<Tool> m_Tools;
     AttributesMenu* m_AttributesMenu = nullptr;
-    QMenu* m_ToolsMenu = nullptr;
-    QMenu* m_DeriveMenu = nullptr;
-    QMenu* m_AutomaticCutsMenu = nullptr;
-    QMenu* m_SettingsMenu = nullptr;
-    QMenu* m_HelpMenu = nullptr;
-    QAction* m_OpenFileAction = nullptr;
-    QAction* m_SaveDataFileAction = nullptr;
-    QAction* m_ImportProjectAction = nullptr;
-    QAction* m_ExportProjectAction = nullptr;
-    QAction* m_ExportSummaryAction = nullptr;
-    QAction* m_ExitAction = nullptr;
-    QAction* m_GroundTruithAction = nullptr;
-    QAction* m_AddTemplateAction = nullptr;
-    QAction* m_MergeLabelsAction = nullptr;
-    QAction* m_DataTableAction = nullptr;
-    QAction* m_AxesSettingsAction = nullptr;
-    QAction* m_TemplateDBAction = nullptr;
-    QAction* m_AboutAction = nullptr;
-    QAction* m_HelpAction = nullptr;
+    // By path.
+    QHash<QString, QMenu*> m_Menus;
     // Enabled only with a recording.
     QList<QAction*> m_DataActions;
-
-    // Last, so that the windows go before the recordings they show.
-    AnalysisWindows m_Windows;
 };

@@ -20,6 +20,18 @@ OverviewTimelineWidget::OverviewTimelineWidget(QWidget* parent) : QWidget(parent
     setToolTip(tr("The whole recording: labelled segments, and the part that is on screen"));
 }
 
+void OverviewTimelineWidget::SetRecording(LiveRecording* recording)
+{
+    if (m_Recording)
+        m_Recording->disconnect(this);
+    m_Recording = recording;
+    SetDataSet(DataOf(recording));
+    SetLabelCollection(LabelsOf(recording));
+    if (recording)
+        connect(recording, &LiveRecording::SegmentsChanged, this,
+                &OverviewTimelineWidget::UpdateLabels);
+}
+
 void OverviewTimelineWidget::SetDataSet(DataSet* dataSet)
 {
     m_DataSet = dataSet;

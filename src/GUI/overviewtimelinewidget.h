@@ -1,10 +1,9 @@
 #pragma once
 
 #include "cachedpicture.h"
+#include "liverecording.h"
+#include <QPointer>
 #include <QWidget>
-
-class DataSet;
-class LabelCollection;
 
 /// The whole recording as a thin strip: its labelled segments, and a marker over the part that
 /// the main graph shows.
@@ -14,6 +13,8 @@ class OverviewTimelineWidget : public QWidget
 public:
     explicit OverviewTimelineWidget(QWidget* parent = nullptr);
 
+    /// Shows a recording and follows its changes; null shows none.
+    void SetRecording(LiveRecording* recording);
     void SetDataSet(DataSet* dataSet);
     void SetLabelCollection(LabelCollection* labels);
 
@@ -29,6 +30,7 @@ protected:
 private:
     void paintLabels(QPainter& painter) const;
 
+    QPointer<LiveRecording> m_Recording;
     DataSet* m_DataSet = nullptr;
     LabelCollection* m_LabelCollection = nullptr;
     CachedPicture m_Picture;

@@ -1,57 +1,28 @@
 #include "recordingfiles.h"
 
-#include "askattribute.h"
-#include "askpath.h"
+#include "askuser.h"
 #include "dataexport.h"
 #include "groundtruithbehaviorcollection.h"
 #include "groundtruithinstance.h"
-#include "groundtruithreader.h"
-#include "labelsegment.h"
 #include "labelwriter.h"
-#include "recording.h"
+#include "liverecording.h"
+#include "readlabels.h"
 #include "usererror.h"
 #include "waitcursor.h"
 #include <QFileDialog>
-#include <QInputDialog>
-#include <QLoggingCategory>
 
 namespace
 {
-Q_LOGGING_CATEGORY(lcProject, "skerrymoor.project", QtWarningMsg)
-
-LabelWriter makeWriter(const QString& path, Recording& recording)
+LabelWriter makeWriter(const QString& path, LiveRecording& recording)
 {
     LabelWriter writer(path);
     writer.SetDataSet(recording.GetDataSet());
     return writer;
 }
 
-/// The segments cut for one name of a project file.
-struct ImportedGroup {
-    QString name;
-    QList<CutSegment*> segments;
-};
-
-std::vector<ImportedGroup> cutSegments(GroundTruithBehaviorCollection& labels, CutCollection& cuts)
-{
-    std::vector<ImportedGroup> groups;
-    for (const QString& name : labels.Names()) {
-        groups.push_back({name, {}});
-        for (const GroundTruithInstance* instance : *labels.Get(name)) {
-            CutSegment* segment =
-                cuts.InsertCut(instance->GetFrom(), instance->GetTo(), CutSegment::SEGMENT_CUT);
-            if (segment)
-                groups.back().segments.append(segment);
-            else
-                qCDebug(lcProject) << "Cant insert segment";
-        }
-    }
-    return groups;
-}
-
 } // namespace
 
-void RecordingFiles::SaveDataFile(Recording* recording)
+void RecordingFiles::SaveDataFile(LiveRecording* recording)
 {
     if (!recording)
         return;
@@ -61,7 +32,7 @@ void RecordingFiles::SaveDataFile(Recording* recording)
     ExportDataFile(m_Window, recording->GetDataSet(), path);
 }
 
-void RecordingFiles::ExportProject(Recording* recording)
+void RecordingFiles::ExportProject(LiveRecording* recording)
 {
     if (!recording)
         return;
@@ -73,7 +44,7 @@ void RecordingFiles::ExportProject(Recording* recording)
     showResult(writer, writer.WriteProject(recording->GetLabelCollection()));
 }
 
-void RecordingFiles::ExportSummaryLabels(Recording* recording)
+void RecordingFiles::ExportSummaryLabels(LiveRecording* recording)
 {
     if (!recording)
         return;
@@ -81,12 +52,7 @@ void RecordingFiles::ExportSummaryLabels(Recording* recording)
                               tr("Write Label Collection (Data - Seperate Files)"),
                               tr("Write Label Collection (Data - Combined)"),
                               tr("Write Data Aligned With Behaviors")};
-    bool isChosen = false;
-    const QString format = QInputDialog::getItem(m_Window, tr("Export Labels"), tr("Format:"),
-                                                 formats, 0, false, &isChosen);
-    if (!isChosen)
-        return;
-    switch (formats.indexOf(format)) {
+    switch (AskChoice(m_Window, tr("Export Labels"), tr("Format:"), formats)) {
     case 0:
         exportSummary(*recording);
         break;
@@ -96,12 +62,15 @@ void RecordingFiles::ExportSummaryLabels(Recording* recording)
     case 2:
         exportToFolder(*recording, false);
         break;
-    default:
+    case 3:
         exportAligned(*recording);
+        break;
+    default:
+        break;
     }
 }
 
-void RecordingFiles::exportSummary(Recording& recording)
+void RecordingFiles::exportSummary(LiveRecording& recording)
 {
     const QString path = AskSavePath(m_Window, tr("Export Labels"), tr("CSV (*.csv)"));
     if (path.isEmpty())
@@ -114,7 +83,7 @@ void RecordingFiles::exportSummary(Recording& recording)
     showResult(writer, writer.WriteSummary(recording.GetLabelCollection(), attribute));
 }
 
-void RecordingFiles::exportToFolder(Recording& recording, bool separate)
+void RecordingFiles::exportToFolder(LiveRecording& recording, bool separate)
 {
     const QString folder = QFileDialog::getExistingDirectory(
         m_Window, tr("Export Labels Directory"), QStringLiteral("/home"));
@@ -126,7 +95,7 @@ void RecordingFiles::exportToFolder(Recording& recording, bool separate)
                                 : writer.WriteCombined(recording.GetLabelCollection()));
 }
 
-void RecordingFiles::exportAligned(Recording& recording)
+void RecordingFiles::exportAligned(LiveRecording& recording)
 {
     const QString path = AskSavePath(m_Window, tr("Export Data"), tr("CSV (*.csv)"));
     if (path.isEmpty())
@@ -143,45 +112,21 @@ void RecordingFiles::showResult(const LabelWriter& writer, bool isWritten)
                       tr("Error: ") + writer.GetError());
 }
 
-bool RecordingFiles::ImportLabels(Recording* recording,
-                                  const std::function<BehaviorLabel*(const QString&)>& addGroup)
+void RecordingFiles::ImportLabels(LiveRecording* recording)
 {
-    const auto labels = readLabels(recording, tr("Traceholm (*.thm)"));
+    const auto labels = recording
+                            ? ReadLabels(m_Window, recording->GetDataSet(), tr("Traceholm (*.thm)"))
+                            : nullptr;
     if (!labels)
-        return false;
+        return;
     const WaitCursor wait;
-    for (const ImportedGroup& group : cutSegments(*labels, *recording->GetCutCollection())) {
-        BehaviorLabel* label = addGroup(group.name);
-        if (!label) {
-            qCDebug(lcProject) << "Behavior label null";
-            continue;
-        }
-        for (CutSegment* segment : group.segments)
-            LabelSegment(*label, segment);
+    std::vector<LabelledSpans> groups;
+    for (const QString& name : labels->Names()) {
+        groups.push_back({name, {}});
+        for (const GroundTruithInstance* instance : *labels->Get(name))
+            groups.back().m_Spans.push_back({instance->GetFrom(), instance->GetTo()});
     }
-    return true;
-}
-
-std::unique_ptr<GroundTruithBehaviorCollection> RecordingFiles::ReadReference(Recording* recording)
-{
-    return readLabels(recording, tr("Text (*.txt)"));
-}
-
-std::unique_ptr<GroundTruithBehaviorCollection> RecordingFiles::readLabels(Recording* recording,
-                                                                           const QString& filter)
-{
-    if (!recording)
-        return nullptr;
-    const QString path =
-        QFileDialog::getOpenFileName(m_Window, tr("Open Ground Truith Data"), QString(), filter);
-    if (path.isEmpty())
-        return nullptr;
-    const WaitCursor wait;
-    GroundTruithReader reader(path);
-    reader.SetDataSet(recording->GetDataSet());
-    if (!reader.ReadFile()) {
-        qCDebug(lcProject) << reader.GetError();
-        return nullptr;
-    }
-    return reader.TakeCollection();
+    const LiveRecording::Hold hold(recording);
+    recording->GetLabelling().Import(groups);
+    recording->TellLabels();
 }

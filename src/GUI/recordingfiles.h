@@ -1,14 +1,10 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <functional>
-#include <memory>
 
-class BehaviorLabel;
-class GroundTruithBehaviorCollection;
 class LabelWriter;
+class LiveRecording;
 class QWidget;
-class Recording;
 
 /// The entries of the File menu that write a recording's data and labels, or read labels back.
 /// Each asks for a path; a cancelled question and a missing recording end it without a word.
@@ -21,23 +17,18 @@ public:
     explicit RecordingFiles(QWidget* window) : m_Window(window) {}
 
     /// Writes the data and tells the user how it went.
-    void SaveDataFile(Recording* recording);
-    void ExportProject(Recording* recording);
+    void SaveDataFile(LiveRecording* recording);
+    void ExportProject(LiveRecording* recording);
     /// Asks for one of four formats, then for what that needs.
-    void ExportSummaryLabels(Recording* recording);
+    void ExportSummaryLabels(LiveRecording* recording);
     /// Cuts the segments of a project file into the recording and labels them: one new
-    /// behaviour for each name, made by addGroup. False when nothing was read.
-    bool ImportLabels(Recording* recording,
-                      const std::function<BehaviorLabel*(const QString&)>& addGroup);
-    /// Reads a labelling to compare with; null when there is none.
-    std::unique_ptr<GroundTruithBehaviorCollection> ReadReference(Recording* recording);
+    /// behaviour for each name.
+    void ImportLabels(LiveRecording* recording);
 
 private:
-    std::unique_ptr<GroundTruithBehaviorCollection> readLabels(Recording* recording,
-                                                               const QString& filter);
-    void exportSummary(Recording& recording);
-    void exportToFolder(Recording& recording, bool separate);
-    void exportAligned(Recording& recording);
+    void exportSummary(LiveRecording& recording);
+    void exportToFolder(LiveRecording& recording, bool separate);
+    void exportAligned(LiveRecording& recording);
     void showResult(const LabelWriter& writer, bool isWritten);
 
     QWidget* m_Window;

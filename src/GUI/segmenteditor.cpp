@@ -2,18 +2,16 @@
 
 #include "behaviorselectiondialog.h"
 #include "cuttablelineplotwidget.h"
-#include "labelsegment.h"
-#include "overviewtimelinewidget.h"
+#include "liverecording.h"
+#include "modaldialog.h"
 #include "patternsdataobject.h"
-#include "recording.h"
-#include "resultwidget.h"
 #include "templatesearch.h"
 #include "usererror.h"
 #include <QLoggingCategory>
 
 Q_LOGGING_CATEGORY(lcSegments, "skerrymoor.segments", QtWarningMsg)
 
-void SegmentEditor::Cut(Recording* recording)
+void SegmentEditor::Cut(LiveRecording* recording)
 {
     if (!checkRecording(recording))
         return;
@@ -29,11 +27,11 @@ void SegmentEditor::Cut(Recording* recording)
         showInvalidSelection();
         return;
     }
-    showChange();
+    recording->TellSegments();
     m_Plot->ClearSelection();
 }
 
-void SegmentEditor::Merge(Recording* recording)
+void SegmentEditor::Merge(LiveRecording* recording)
 {
     if (!checkRecording(recording))
         return;
@@ -44,59 +42,48 @@ void SegmentEditor::Merge(Recording* recording)
         return;
     }
     recording->GetCutCollection()->MergeCuts(from, to);
-    showChange();
+    // Labelled segments may be among those that are gone.
+    recording->TellLabels();
 }
 
-void SegmentEditor::Delete(Recording* recording)
+void SegmentEditor::Delete(LiveRecording* recording)
 {
     if (!checkRecording(recording))
         return;
-    QList<CutSegment*> segments;
-    int from = 0;
-    int to = 0;
-    if (m_Plot->GetSelectedRange(from, to)) {
-        segments = recording->GetCutCollection()->GetSegments(from, to);
-    } else if (m_Plot->GetSelectedRow(from)) {
-        if (CutSegment* segment = findSelected(*recording, from))
-            segments.append(segment);
-        else
-            qCDebug(lcSegments) << "No cut found";
-    } else {
+    bool isSelected = false;
+    const QList<CutSegment*> segments = findSegments(*recording, isSelected);
+    if (!isSelected)
         showInvalidSelection();
-        return;
-    }
     if (segments.isEmpty())
         return;
-    for (CutSegment* segment : segments)
-        removeLabel(*recording, segment);
-    for (CutSegment* segment : segments)
-        removeResult(*recording, segment);
-    showChange();
+    const LiveRecording::Hold hold(recording);
+    recording->GetLabelling().Unlabel(segments);
+    if (!recording->GetLabelling().Reject(segments).IsEmpty())
+        qCDebug(lcSegments) << "Removing currently labeling";
+    recording->TellLabels();
 }
 
-void SegmentEditor::removeLabel(Recording& recording, CutSegment* segment)
+QList<CutSegment*> SegmentEditor::findSegments(LiveRecording& recording, bool& isSelected) const
 {
-    // The class view sees the segment go and makes it a plain cut.
-    if (segment->GetState() == CutSegment::SEGMENT_LABELED)
-        recording.GetLabelCollection()->RemoveCut(segment);
+    int from = 0;
+    int to = 0;
+    isSelected = true;
+    if (m_Plot->GetSelectedRange(from, to))
+        return recording.GetCutCollection()->GetSegments(from, to);
+    isSelected = m_Plot->GetSelectedRow(from);
+    CutSegment* segment = isSelected ? findSelected(recording, from) : nullptr;
+    if (isSelected && !segment)
+        qCDebug(lcSegments) << "No cut found";
+    return segment ? QList<CutSegment*>{segment} : QList<CutSegment*>();
 }
 
-void SegmentEditor::removeResult(Recording& recording, CutSegment* segment)
-{
-    if (segment->GetState() != CutSegment::SEGMENT_RESULT)
-        return;
-    qCDebug(lcSegments) << "Removing currently labeling";
-    m_Results->RemoveSegment(segment);
-    recording.GetCutCollection()->RemoveSegment(segment);
-}
-
-CutSegment* SegmentEditor::findSelected(Recording& recording, int row) const
+CutSegment* SegmentEditor::findSelected(LiveRecording& recording, int row) const
 {
     int index = 0;
     return recording.GetCutCollection()->FindSegment(row, index);
 }
 
-void SegmentEditor::Move(Recording* recording)
+void SegmentEditor::Move(LiveRecording* recording)
 {
     if (!checkRecording(recording))
         return;
@@ -108,22 +95,20 @@ void SegmentEditor::Move(Recording* recording)
     CutSegment* segment = findSelected(*recording, row);
     if (!segment)
         return;
-    BehaviorSelectionDialog dialog(m_Window);
-    dialog.setWindowTitle(tr("Select Behavior"));
-    dialog.SetLabelCollection(recording->GetLabelCollection());
-    if (dialog.exec() != QDialog::Accepted || !dialog.GetSelectedLabel())
+    ModalDialog<BehaviorSelectionDialog> dialog(m_Window);
+    dialog->setWindowTitle(tr("Select Behavior"));
+    dialog->SetLabelCollection(recording->GetLabelCollection());
+    if (!dialog.IsAccepted() || !dialog->GetSelectedLabel())
         return;
     // The segment may have gone while the dialog was open.
     if (!recording->GetCutCollection()->Contains(segment))
         return;
-    removeLabel(*recording, segment);
-    if (segment->GetState() == CutSegment::SEGMENT_RESULT)
-        m_Results->RemoveSegment(segment);
-    LabelSegment(*dialog.GetSelectedLabel(), segment);
-    showChange();
+    const LiveRecording::Hold hold(recording);
+    recording->GetLabelling().Label(segment, *dialog->GetSelectedLabel());
+    recording->TellLabels();
 }
 
-bool SegmentEditor::findRows(Recording* recording, int& from, int& to)
+bool SegmentEditor::findRows(LiveRecording* recording, int& from, int& to)
 {
     if (!checkRecording(recording))
         return false;
@@ -141,7 +126,7 @@ bool SegmentEditor::findRows(Recording* recording, int& from, int& to)
     return true;
 }
 
-std::unique_ptr<PatternsDataObject> SegmentEditor::Save(Recording* recording)
+std::unique_ptr<PatternsDataObject> SegmentEditor::Save(LiveRecording* recording)
 {
     int from = 0;
     int to = 0;
@@ -149,7 +134,7 @@ std::unique_ptr<PatternsDataObject> SegmentEditor::Save(Recording* recording)
                                          : nullptr;
 }
 
-void SegmentEditor::AddTemplate(Recording* recording)
+void SegmentEditor::AddTemplate(LiveRecording* recording)
 {
     if (!checkRecording(recording))
         return;
@@ -165,22 +150,23 @@ void SegmentEditor::AddTemplate(Recording* recording)
     SaveTemplate(m_Window, recording->GetDataSet(), from, to);
 }
 
-bool SegmentEditor::Search(Recording* recording)
+void SegmentEditor::Search(LiveRecording* recording)
 {
     int from = 0;
     int to = 0;
-    return findRows(recording, from, to) && SearchForRows(m_Window, recording->GetDataSet(),
-                                                          recording->GetCutCollection(), from, to);
+    if (findRows(recording, from, to) &&
+        SearchForRows(m_Window, recording->GetDataSet(), recording->GetCutCollection(), from, to))
+        recording->TellSegments();
 }
 
-void SegmentEditor::Show(Recording* recording)
+void SegmentEditor::Show(LiveRecording* recording)
 {
     int row = 0;
     if (checkRecording(recording) && !m_Plot->GetSelectedRow(row))
         showInvalidSelection();
 }
 
-bool SegmentEditor::checkRecording(const Recording* recording)
+bool SegmentEditor::checkRecording(const LiveRecording* recording)
 {
     if (!recording)
         ShowUserError(m_Window, tr("Error - No Data Set"),
@@ -192,10 +178,4 @@ void SegmentEditor::showInvalidSelection()
 {
     ShowUserError(m_Window, tr("Error - Invalid Selection"),
                   tr("Invalid Selection. Please make a valid selection on the graph."));
-}
-
-void SegmentEditor::showChange()
-{
-    m_Plot->UpdateCutViz();
-    m_Overview->UpdateLabels();
 }

@@ -4,6 +4,8 @@
 #include "dataset.h"
 #include "groundtruithbehaviorcollection.h"
 #include "groundtruithwidget.h"
+#include "openwindow.h"
+#include "readlabels.h"
 #include "zoomwidget.h"
 #include <QComboBox>
 #include <QLabel>
@@ -119,4 +121,19 @@ void GroundTruithComparisionWidget::resizeViews(const QSize& size)
     m_GroundTruith->setFixedSize(half);
     m_LinePlot->setFixedSize(half);
     m_Views->resize(size);
+}
+
+void ShowGroundTruith(const SharedRecording& recording, QWidget* parent)
+{
+    auto reference = ReadLabels(parent, recording->GetDataSet(),
+                                GroundTruithComparisionWidget::tr("Text (*.txt)"));
+    if (!reference)
+        return;
+    auto* window = new GroundTruithComparisionWidget;
+    window->SetLabelCollection(recording->GetLabelCollection());
+    window->SetBehaviorCollection(reference.get());
+    window->SetCutCollection(recording->GetCutCollection());
+    window->SetDataSet(recording->GetDataSet());
+    using Shown = std::pair<SharedRecording, decltype(reference)>;
+    OpenWindow(window, parent, std::make_shared<Shown>(recording, std::move(reference)));
 }

@@ -1,14 +1,12 @@
 #pragma once
 
+#include "liverecording.h"
 #include "zoomedview.h"
 #include <QMainWindow>
 
-class CutCollection;
 class CuttableLinePlotWidget;
-class DataSet;
 class GroundTruithBehaviorCollection;
 class GroundTruithWidget;
-class LabelCollection;
 class QComboBox;
 
 /// The labels of a reference above the program's own, over the same data and at one zoom, to be
@@ -49,3 +47,6 @@ private:
     CuttableLinePlotWidget* m_LinePlot;
     ZoomedView m_View;
 };
+
+/// Shows a reference labelling, from a file that the user picks, beside the recording's own.
+void ShowGroundTruith(const SharedRecording& recording, QWidget* parent);

@@ -48,11 +48,6 @@ void BehaviorLabel::AddLabels(const QList<LabelInstance*>& instances)
     emit CutsAdded(segments);
 }
 
-bool BehaviorLabel::Contains(CutSegment* segment) const
-{
-    return m_Instances.FindSegment(segment) != -1;
-}
-
 bool BehaviorLabel::RemoveLabel(CutSegment* segment)
 {
     if (!Contains(segment))

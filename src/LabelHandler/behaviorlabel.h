@@ -26,7 +26,9 @@ public:
     /// Appends all and tells it in one signal.
     void AddLabels(const QList<LabelInstance*>& instances);
 
-    bool Contains(CutSegment* segment) const;
+    bool Contains(const CutSegment* segment) const { return FindInstance(segment) != -1; }
+    /// The index of the first instance of a segment, or -1.
+    int FindInstance(const CutSegment* segment) const { return m_Instances.FindSegment(segment); }
     /// Takes the first instance of a segment off the list; false when there is none.
     bool RemoveLabel(CutSegment* segment);
     bool RemoveLabelQuietly(CutSegment* segment);

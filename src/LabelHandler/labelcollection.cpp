@@ -22,6 +22,12 @@ BehaviorLabel* LabelCollection::FindLabel(const QString& name) const
     return found == m_Labels.end() ? nullptr : *found;
 }
 
+int LabelCollection::IndexOf(const BehaviorLabel* label) const
+{
+    const auto found = std::find(m_Labels.begin(), m_Labels.end(), label);
+    return found == m_Labels.end() ? -1 : int(found - m_Labels.begin());
+}
+
 bool LabelCollection::RemoveCut(CutSegment* segment)
 {
     const auto found =

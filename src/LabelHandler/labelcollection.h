@@ -20,6 +20,10 @@ public:
     /// No bounds check.
     BehaviorLabel* GetLabel(int index) const { return m_Labels.at(index); }
     int GetLabelCount() const { return m_Labels.size(); }
+    /// -1 for a behaviour that is not on the list.
+    int IndexOf(const BehaviorLabel* label) const;
+    /// How many behaviours were ever on the list.
+    int GetAddedCount() const { return int(m_Owned.size()); }
     /// The first behaviour of that name, or null.
     BehaviorLabel* FindLabel(const QString& name) const;
     /// Takes a behaviour off the list; false when it is not on it.

@@ -9,35 +9,34 @@
 namespace
 {
 
-double valueOrNoNumber(const DataSet& data, int attribute, int row)
+double valueOrNoNumber(ConstSpan<double> values, int row)
 {
-    return row >= 0 && row < data.GetRowCount() ? data.GetRow(row)->GetValue(attribute)
-                                                : RangeStatistics::NoNumber;
+    return row >= 0 && row < values.size() ? values[row] : RangeStatistics::NoNumber;
 }
 
 } // namespace
 
 RangeStatistics ComputeRangeStatistics(const DataSet& data, int attribute, int from, int to)
 {
+    const ConstSpan<double> values = data.GetColumn(attribute);
     RangeStatistics statistics;
-    statistics.m_Maximum = statistics.m_Minimum = valueOrNoNumber(data, attribute, from);
+    statistics.m_Maximum = statistics.m_Minimum = valueOrNoNumber(values, from);
     const int first = std::max(from, 0);
-    const int end = std::min(to, data.GetRowCount());
+    const int end = std::min(to, values.size());
     if (first >= end)
         return statistics;
-    const auto value = [&](int row) { return data.GetRow(row)->GetValue(attribute); };
     const double count = end - first;
     double sum = 0;
-    for (int row = first; row < end; ++row) {
+    for (const double value : values.Part(first, end)) {
         // These pass over values that are not numbers, on either side.
-        statistics.m_Maximum = std::fmax(statistics.m_Maximum, value(row));
-        statistics.m_Minimum = std::fmin(statistics.m_Minimum, value(row));
-        sum += value(row);
+        statistics.m_Maximum = std::fmax(statistics.m_Maximum, value);
+        statistics.m_Minimum = std::fmin(statistics.m_Minimum, value);
+        sum += value;
     }
     statistics.m_Mean = sum / count;
     double squares = 0;
-    for (int row = first; row < end; ++row) {
-        const double deviation = value(row) - statistics.m_Mean;
+    for (const double value : values.Part(first, end)) {
+        const double deviation = value - statistics.m_Mean;
         squares += deviation * deviation;
     }
     statistics.m_StandardDeviation = std::sqrt(squares / count);

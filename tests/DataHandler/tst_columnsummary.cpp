@@ -22,7 +22,7 @@ void TestColumnSummary::findsExtremesOfAnySpan()
         for (int i = 0; i < rows; ++i)
             values.push_back(i % 23 == 5 ? missing : std::sin(0.37 * i * i) * (i % 11));
         const auto data = MakeColumn(values);
-        const ColumnSummary summary(*data, 0);
+        const ColumnSummary summary(data->GetColumn(0));
         const int step = std::max(rows / 9 / 16, 1) * 16;
         for (int from = 0; from < rows; from += step) {
             for (int to = from + 16; to < rows + 16; to += step) {

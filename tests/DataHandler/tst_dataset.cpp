@@ -3,9 +3,13 @@
 #include <QTest>
 #include <cmath>
 #include <limits>
+#include <numeric>
+#include <random>
 
 namespace
 {
+
+using Values = std::vector<double>;
 
 const QString absent = QStringLiteral("absent");
 
@@ -29,6 +33,9 @@ private slots:
     void looksUp();
     void removesAttributes();
     void raggedRowsReadAsMissing();
+    void changesAsAListOfRowsWould();
+    void refusesColumnsOfAnotherLength();
+    void rowObjectsStay();
     void labels();
     void findsRows();
 };
@@ -83,7 +90,8 @@ void TestDataSet::looksUp()
     QCOMPARE(data->GetRowIndexByLabel(absent), 0);
     QCOMPARE(data->GetRowIndex(data->GetRow(1)), 1);
     QCOMPARE(data->GetRowIndex(nullptr), -1);
-    QCOMPARE(data->CopyColumn(1), std::vector<double>({2.0, 4.0, 6.0}));
+    const ConstSpan<double> column = data->GetColumn(1);
+    QCOMPARE(Values(column.begin(), column.end()), Values({2.0, 4.0, 6.0}));
 }
 
 void TestDataSet::removesAttributes()
@@ -128,20 +136,210 @@ void TestDataSet::raggedRowsReadAsMissing()
     QCOMPARE(data->GetRow(1)->GetValueCount(), 2);
 }
 
+// A data set, and beside it the list of rows that it stands for.
+class TwinTables
+{
+public:
+    static constexpr int ChangeCount = 9;
+
+    int GetRowCount() const { return m_Data.GetRowCount(); }
+    int GetAttributeCount() const { return m_Data.GetAttributeCount(); }
+
+    // kind: of change; row and attribute may lie beyond the end. values: one for each row.
+    void Change(int kind, int row, int attribute, const Values& values)
+    {
+        const Values some(values.begin(), values.begin() + row);
+        if (kind == 0 || row == GetRowCount())
+            addRow(some);
+        else if (kind < 5)
+            changeRow(kind, row, attribute, some);
+        else if (kind == 5)
+            addColumn(values, m_Data.AddColumn(QString(), 15, DataColumn(values)));
+        else if (kind == 6)
+            addPartOfColumn(some);
+        else if (kind == 7 && m_Data.ReplaceColumn(attribute, DataColumn(values)))
+            for (size_t i = 0; i < m_Rows.size(); ++i)
+                set(m_Rows[i], attribute, values[i]);
+        else if (kind == 8)
+            removeColumn(attribute);
+    }
+
+    QString DataText()
+    {
+        QString text;
+        for (int row = 0; row < GetRowCount(); ++row) {
+            text += QString::number(m_Data.GetRow(row)->GetValueCount()) + QLatin1Char(':');
+            for (int i = 0; i < GetAttributeCount(); ++i)
+                text += QString::number(m_Data.GetColumn(i)[row]) + QLatin1Char(' ');
+            text += QString::number(m_Data.GetRow(row)->GetValue(GetAttributeCount()));
+        }
+        return text;
+    }
+
+    QString PlainText() const
+    {
+        QString text;
+        for (const Values& row : m_Rows) {
+            Values values = row;
+            values.resize(size_t(GetAttributeCount() + 1), NAN);
+            text += QString::number(row.size()) + QLatin1Char(':');
+            for (int i = 0; i < GetAttributeCount(); ++i)
+                text += QString::number(values[size_t(i)]) + QLatin1Char(' ');
+            text += QString::number(values.back());
+        }
+        return text;
+    }
+
+private:
+    static void set(Values& row, int attribute, double value)
+    {
+        if (size_t(attribute) < row.size())
+            row[size_t(attribute)] = value;
+    }
+
+    static void remove(Values& row, int attribute)
+    {
+        if (size_t(attribute) < row.size())
+            row.erase(row.begin() + attribute);
+    }
+
+    void addRow(const Values& values)
+    {
+        auto* row = new DataRow;
+        row->SetValues(values.data(), int(values.size()));
+        m_Data.AddRow(row);
+        m_Rows.push_back(values);
+    }
+
+    void changeRow(int kind, int index, int attribute, const Values& values)
+    {
+        DataRow& row = *m_Data.GetRow(index);
+        Values& plain = m_Rows[size_t(index)];
+        if (kind == 1) {
+            row.AddValue(0.5);
+            plain.push_back(0.5);
+        } else if (kind == 2) {
+            row.RemoveValue(attribute);
+            remove(plain, attribute);
+        } else if (kind == 3) {
+            row.SetValue(attribute, 0.25);
+            set(plain, attribute, 0.25);
+        } else {
+            row.SetValues(values.data(), int(values.size()));
+            plain = values;
+        }
+    }
+
+    void addColumn(const Values& values, int index)
+    {
+        QCOMPARE(index, GetAttributeCount() - 1);
+        for (size_t i = 0; i < values.size(); ++i)
+            m_Rows[i].push_back(values[i]);
+    }
+
+    void addPartOfColumn(const Values& values)
+    {
+        m_Data.AddAttribute(QString(), 15);
+        m_Data.AppendValues(DataColumn(values));
+        addColumn(values, GetAttributeCount() - 1);
+    }
+
+    void removeColumn(int attribute)
+    {
+        m_Data.RemoveAttribute(attribute);
+        for (Values& row : m_Rows)
+            remove(row, attribute);
+    }
+
+    DataSet m_Data;
+    std::vector<Values> m_Rows;
+};
+
+void TestDataSet::changesAsAListOfRowsWould()
+{
+    std::mt19937 random(3);
+    const auto choose = [&](int count) { return int(random() % unsigned(count)); };
+    for (int run = 0; run < 300; ++run) {
+        TwinTables tables;
+        for (int step = 0; step < 40; ++step) {
+            Values values(size_t(tables.GetRowCount()));
+            std::iota(values.begin(), values.end(), 100 * step);
+            tables.Change(choose(TwinTables::ChangeCount), choose(tables.GetRowCount() + 1),
+                          choose(tables.GetAttributeCount() + 2), values);
+            QCOMPARE(tables.DataText(), tables.PlainText());
+        }
+    }
+}
+
+void TestDataSet::refusesColumnsOfAnotherLength()
+{
+    const auto data = MakeDataSet("1 2\n3 4");
+    QCOMPARE(data->AddColumn(absent, ATTRIBUTE_OTHER, DataColumn(3)), -1);
+    QVERIFY(!data->ReplaceColumn(0, DataColumn(1)));
+    QVERIFY(!data->ReplaceColumn(2, DataColumn(2)));
+    QCOMPARE(data->GetAttributeCount(), 2);
+    QCOMPARE(data->GetColumn(-1).size() + data->GetColumn(2).size(), 0);
+    // An empty data set takes its rows from the first column.
+    DataSet empty;
+    QCOMPARE(empty.AddColumn(absent, ATTRIBUTE_ACC_X, DataColumn(3, 7.0)), 0);
+    QCOMPARE(empty.GetRow(2)->GetLastValue(), 7.0);
+    QCOMPARE(empty.GetAttributeIndexByType(ATTRIBUTE_ACC_X), 0);
+}
+
+void TestDataSet::rowObjectsStay()
+{
+    const auto data = MakeColumn(Values(1000, 1.0));
+    auto* loose = new DataRow;
+    loose->AddValue(5.0);
+    loose->SetLabel(QStringLiteral("late"));
+    const DataRow* early = data->GetRow(3);
+    data->AddRow(loose);
+    QCOMPARE(data->GetRow(1000), loose);
+    QCOMPARE(data->GetRowIndex(loose), 1000);
+    QCOMPARE(loose->GetLabel(), QStringLiteral("late"));
+    QCOMPARE(loose->GetFirstValue(), 5.0);
+    data->ReplaceColumn(0, DataColumn(1001, 2.0));
+    QCOMPARE(data->GetRow(3), early);
+    QCOMPARE(early->GetFirstValue(), 2.0);
+    const DataRow stray;
+    const auto other = MakeColumn({1.0});
+    QCOMPARE(data->GetRowIndex(&stray), -1);
+    QCOMPARE(data->GetRowIndex(other->GetRow(0)), -1);
+}
+
 void TestDataSet::labels()
 {
-    DataRow row;
-    QCOMPARE(row.GetLabel(), QString());
-    QVERIFY(row.HasLabel(QString()));
-    row.SetNumberLabel(0);
-    QCOMPARE(row.GetLabel(), QStringLiteral("0"));
-    row.SetNumberLabel(std::numeric_limits<int>::max());
-    QVERIFY(row.HasLabel(QStringLiteral("2147483647")));
-    row.SetLabel(QStringLiteral("noon"));
-    row.SetLabel(QStringLiteral("10:30"));
-    QVERIFY(row.HasLabel(QStringLiteral("10:30")));
-    row.SetLabel(QString());
-    QCOMPARE(row.GetLabel(), QString());
+    DataRow loose;
+    QCOMPARE(loose.GetLabel(), QString());
+    loose.SetLabel(QStringLiteral("noon"));
+    QCOMPARE(loose.GetLabel(), QStringLiteral("noon"));
+
+    const auto data = MakeDataSet("1\n2\n3\n4\n5");
+    const auto labels = [&] {
+        QStringList list;
+        for (int row = 0; row < 5; ++row)
+            list.append(data->GetRow(row)->GetLabel());
+        return list.join(QLatin1Char(' '));
+    };
+    const auto find = [&](const char* label) {
+        return data->FindRowByLabel(QString::fromLatin1(label));
+    };
+    // Numbers, some taken away and some brought by other rows; the first row of a label counts.
+    data->GetRow(1)->SetLabel(QStringLiteral("5"));
+    data->GetRow(2)->SetLabel(QString());
+    data->GetRow(3)->SetLabel(QStringLiteral("1"));
+    QCOMPARE(labels(), QStringLiteral("1 5  1 5"));
+    QCOMPARE((QList<int>{find("1"), find("5"), find(""), find("2"), find("05"), find("6")}),
+             (QList<int>{0, 1, 2, -1, -1, -1}));
+    data->GetRow(1)->SetLabel(QStringLiteral("2"));
+    data->GetRow(2)->SetLabel(QStringLiteral("3"));
+    QCOMPARE((QList<int>{find("5"), find(""), find("3")}), (QList<int>{4, -1, 2}));
+    data->NumberRows();
+    QCOMPARE(labels(), QStringLiteral("1 2 3 4 5"));
+    // Rows that nobody has numbered have no label.
+    data->AddRow(new DataRow);
+    QCOMPARE(find(""), 5);
+    QCOMPARE(find("6"), -1);
 }
 
 void TestDataSet::findsRows()

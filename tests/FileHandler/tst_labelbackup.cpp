@@ -49,10 +49,12 @@ void TestLabelBackup::followsTheLabels()
     labels.GetLabel(0)->SetName(QStringLiteral("run"));
     backup.Watch(nullptr, nullptr);
     QCOMPARE(text(files().value(0)), QByteArray("run,2,4\n"));
-    QTest::qWait(2);
-    backup.Watch(data.get(), &labels);
-    backup.Write();
-    QCOMPARE(files().size(), 2);
+    // However soon the next recording follows.
+    for (int count = 2; count <= 6; ++count) {
+        backup.Watch(data.get(), &labels);
+        backup.Write();
+        QCOMPARE(files().size(), count);
+    }
 }
 
 void TestLabelBackup::removesTheOldest()

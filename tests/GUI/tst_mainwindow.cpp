@@ -1,4 +1,5 @@
 #include "addgroupdialog.h"
+#include "commandpalette.h"
 #include "cuttablelineplotwidget.h"
 #include "fieldlookup.h"
 #include "fileimportwizard.h"
@@ -13,6 +14,7 @@
 #include "periodiccutdialog.h"
 #include "resultwidget.h"
 #include "settingsfolder.h"
+#include "surveyresultwriter.h"
 #include "timeaxis.h"
 #include "zoomwidget.h"
 #include <QComboBox>
@@ -22,9 +24,11 @@
 #include <QScrollBar>
 #include <QSlider>
 #include <QSpinBox>
+#include <QSplitter>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTemporaryDir>
+#include <QTreeWidget>
 #include <QtTest>
 
 namespace
@@ -60,6 +64,10 @@ private slots:
     void zoomOnRegion();
     void windowOutlivesItsImport();
     void cutNeedsDataAndSelection();
+    void graphRequests_data();
+    void graphRequests();
+    void resultsLeadToTheGraph();
+    void paletteFindsTools();
     void dialogsOpen();
     void labelsGoToFileAndBack();
     void comparesWithReference();
@@ -174,6 +182,8 @@ void TestMainWindow::attributesMenuTogglesPlots()
     QCOMPARE(attribute(0)->text(), QStringLiteral("Col_1"));
     QVERIFY(attribute(0)->isCheckable() && !attribute(0)->isChecked());
     const QImage empty = m_Plot->grab().toImage();
+    ClickButton(m_Window.get(), QStringLiteral("Axis Overlay"));
+    QVERIFY(!m_Plot->GetEnableOverlay());
     attribute(1)->trigger();
     attribute(0)->trigger();
     QCOMPARE(m_Plot->GetPlotCount(), 2);
@@ -208,8 +218,14 @@ void TestMainWindow::zoomAndScroll()
     m_Window->showRange(300, 320);
     QCOMPARE(scrollBarValue(), int((double(axis->ToPixel(300)) + double(axis->ToPixel(320))) / 2 -
                                    axis->GetStart().x()));
-    m_Window->sliderRange(0, 0);
+    // What the bar and the splitter tell is enough by itself, too.
+    emit bar->rangeChanged(0, 0);
     QCOMPARE(markedColumns(m_Overview), qMakePair(-1, -1));
+    emit bar->sliderMoved(0);
+    QVERIFY(markedColumns(m_Overview).first >= 0);
+    m_Plot->ResizePlots(100, 100);
+    emit m_Window->findChild<QSplitter*>()->splitterMoved(0, 1);
+    QCOMPARE(m_Plot->width(), 10 * (width - 5));
 }
 
 void TestMainWindow::plotFollowsWindow()
@@ -251,7 +267,8 @@ void TestMainWindow::zoomOnRegion()
 
 void TestMainWindow::chooseOnGraph(const QPoint& point, const QString& text)
 {
-    m_Plot->showContextMenu(point);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, point);
+    QApplication::sendEvent(m_Plot, &event);
     ChooseFromMenu(text);
 }
 
@@ -307,6 +324,127 @@ void TestMainWindow::cutNeedsDataAndSelection()
     int from = 0;
     int to = 0;
     QVERIFY(!m_Plot->GetSelectedRange(from, to));
+}
+
+void TestMainWindow::graphRequests_data()
+{
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QString>("window");
+    QTest::addColumn<QString>("effect");
+    QTest::newRow("zoom") << "Zoom On Region"
+                          << ""
+                          << "zoomed";
+    QTest::newRow("template") << "Save Template"
+                              << "TemplateDialog"
+                              << "";
+    QTest::newRow("search") << "Search Selection"
+                            << "TemplateDialog"
+                            << "";
+    QTest::newRow("remove") << "Remove Label(s)"
+                            << ""
+                            << "unlabelled";
+    QTest::newRow("move") << "Move To"
+                          << "BehaviorSelectionDialog"
+                          << "";
+    QTest::newRow("delete key") << ""
+                                << ""
+                                << "unlabelled";
+    QTest::newRow("show") << "request"
+                          << ""
+                          << "error";
+}
+
+// A dragged range for what acts on rows, else the labelled segment under the pointer.
+void TestMainWindow::graphRequests()
+{
+    QFETCH(QString, entry);
+    QFETCH(QString, window);
+    QFETCH(QString, effect);
+    import(100);
+    attribute(0)->trigger();
+    LiveRecording& recording = *m_Window->GetRecording();
+    recording.GetLabelling().Import({{QStringLiteral("walk"), {{20, 40}}}});
+    recording.TellLabels();
+    const int width = m_Plot->width();
+    const bool needsRows = effect == QStringLiteral("zoomed") || entry.isEmpty() ||
+                           entry == QStringLiteral("Search Selection");
+    const int start = int(m_Plot->GetTimeAxis()->ToX(15));
+    const int end = int(m_Plot->GetTimeAxis()->ToX(45));
+    if (needsRows)
+        DragMouse(*m_Plot, {start, 50}, {end, 60});
+    ModalScript user;
+    if (!window.isEmpty())
+        user.Then([=](QDialog* dialog) {
+            QCOMPARE(QString::fromLatin1(dialog->metaObject()->className()), window);
+            dialog->reject();
+        });
+    if (entry.isEmpty())
+        QTest::keyClick(m_Plot, Qt::Key_Delete);
+    else if (entry == QStringLiteral("request"))
+        emit m_Plot->ShowInClassificationRequest();
+    else
+        chooseOnGraph({(start + end) / 2, 50}, entry);
+    QCOMPARE(m_Plot->width() > width, effect == QStringLiteral("zoomed"));
+    QCOMPARE(labelTable(0)->model()->rowCount(), effect == QStringLiteral("unlabelled") ? 0 : 1);
+    QCOMPARE(TakeUserErrors().size(), effect == QStringLiteral("error") ? 1 : 0);
+}
+
+void TestMainWindow::resultsLeadToTheGraph()
+{
+    import(1000);
+    attribute(0)->trigger();
+    LiveRecording& recording = *m_Window->GetRecording();
+    recording.GetLabelling().AddBehavior(QStringLiteral("walk"));
+    recording.GetCutCollection()->InsertCut(700, 720, CutSegment::SEGMENT_RESULT);
+    recording.TellLabels();
+    m_Zoom->findChild<QSlider*>()->setValue(50);
+    auto* results = m_Window->findChild<ResultWidget*>();
+    auto* table = results->findChild<QTableView*>();
+    emit table->activated(table->model()->index(0, 1));
+    QVERIFY(scrollBarValue() > m_Plot->width() / 2);
+    ModalScript user;
+    user.Then([](QDialog* dialog) { QTest::keyClick(dialog, Qt::Key_Return); });
+    ClickButton(results, QStringLiteral("Move All"));
+    QCOMPARE(m_Window->findChild<SurveyResultWriter*>()->GetMoveCount(), 1);
+}
+
+void TestMainWindow::paletteFindsTools()
+{
+    const auto find = [this](const char* letters, const char* found, const char* place) {
+        ModalScript user;
+        user.On<CommandPalette>([=](CommandPalette* palette) {
+            QTest::keyClicks(palette->focusWidget(), QLatin1String(letters));
+            const QTreeWidgetItem* item = palette->findChild<QTreeWidget*>()->currentItem();
+            QCOMPARE(item->text(0), QLatin1String(found));
+            QCOMPARE(item->text(1), QLatin1String(place));
+            QTest::keyClick(palette->focusWidget(), Qt::Key_Return);
+            if (palette->isVisible())
+                palette->reject();
+        });
+        if (m_Window->GetRecording())
+            user.Then([](QDialog* dialog) { dialog->reject(); });
+        ClickButton(m_Window.get(), QStringLiteral("Find a tool ..."));
+    };
+    // What is not possible does not run, nor does the next best in its place.
+    find("pitch", "Pitch and Roll", "Open a data file first");
+    find("mergeg", "Merge Graph", "Open a data file first");
+    import(20);
+    find("table", "Data Table", "Tools");
+    find("rotvec", "Rotate Vector", "Tools > Derive Attributes");
+    {
+        ModalScript user;
+        user.On<CommandPalette>([](CommandPalette* palette) {
+            QTest::keyClicks(palette->focusWidget(), QStringLiteral("col_"));
+            QTest::keyClick(palette->focusWidget(), Qt::Key_Down);
+            QTest::keyClick(palette->focusWidget(), Qt::Key_Return);
+        });
+        m_Window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_Window.get()));
+        QTest::keyClick(m_Plot, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+        // A key clicks its button like the mouse does, a little later.
+        QTRY_COMPARE(m_Plot->GetPlotCount(), 1);
+    }
+    QVERIFY(attribute(1)->isChecked());
 }
 
 void TestMainWindow::dialogsOpen()

@@ -1,13 +1,10 @@
 #include "behaviorselectiondialog.h"
 #include "cuttablelineplotwidget.h"
 #include "dataset.h"
-#include "labeleddatatabwidget.h"
+#include "liverecording.h"
 #include "modalscript.h"
 #include "mousedrag.h"
-#include "overviewtimelinewidget.h"
 #include "patternsdataobject.h"
-#include "recording.h"
-#include "resultwidget.h"
 #include "segmenteditor.h"
 #include "segmenttext.h"
 #include "templatedialog.h"
@@ -42,43 +39,27 @@ private:
     // Two behaviours, the first one on rows 20 to 40, and a search result on rows 60 to 80.
     void addLabels();
 
-    std::unique_ptr<Recording> m_Recording;
+    std::unique_ptr<LiveRecording> m_Recording;
     std::unique_ptr<CuttableLinePlotWidget> m_Plot;
-    OverviewTimelineWidget m_Overview;
-    std::unique_ptr<ResultWidget> m_Results;
-    std::unique_ptr<LabeledDataTabWidget> m_Tabs;
     std::unique_ptr<SegmentEditor> m_Editor;
 };
 
 void TestSegmentEditor::init()
 {
-    m_Recording =
-        std::make_unique<Recording>(MakeDataSet(QByteArray("1\n").repeated(100)).release());
+    m_Recording = std::make_unique<LiveRecording>(MakeDataSet(QByteArray("1\n").repeated(100)));
     m_Plot = std::make_unique<CuttableLinePlotWidget>();
-    m_Plot->SetDataSet(m_Recording->GetDataSet());
-    m_Plot->SetCutCollection(m_Recording->GetCutCollection());
+    m_Plot->SetRecording(m_Recording.get());
     m_Plot->AddPlot(0);
     m_Plot->ResizePlots(1040, 200);
-    m_Results = std::make_unique<ResultWidget>();
-    m_Tabs = std::make_unique<LabeledDataTabWidget>();
-    const auto handOver = [this](auto& view) {
-        view.SetDataSet(m_Recording->GetDataSet());
-        view.SetCutCollection(m_Recording->GetCutCollection());
-        view.SetLabelCollection(m_Recording->GetLabelCollection());
-    };
-    handOver(*m_Results);
-    handOver(*m_Tabs);
-    m_Editor = std::make_unique<SegmentEditor>(nullptr, m_Plot.get(), &m_Overview, m_Results.get());
+    m_Editor = std::make_unique<SegmentEditor>(nullptr, m_Plot.get());
 }
 
 void TestSegmentEditor::addLabels()
 {
     CutCollection& cuts = *m_Recording->GetCutCollection();
-    BehaviorLabel* walk = m_Tabs->AddGroup(QStringLiteral("walk"));
-    LabelSegment(*walk, cuts.InsertCut(20, 40, CutSegment::SEGMENT_CUT));
-    m_Tabs->AddGroup(QStringLiteral("rest"));
+    m_Recording->GetLabelling().Import(
+        {{QStringLiteral("walk"), {{20, 40}}}, {QStringLiteral("rest"), {}}});
     cuts.InsertCut(60, 80, CutSegment::SEGMENT_RESULT);
-    m_Results->ClearAndUpdateSegments();
 }
 
 QPoint TestSegmentEditor::pixel(int row) const
@@ -221,7 +202,7 @@ void TestSegmentEditor::templatesNeedRows()
     QFETCH(int, from);
     QFETCH(int, to);
     QFETCH(int, dialogs);
-    Recording* recording = isLoaded ? m_Recording.get() : nullptr;
+    LiveRecording* recording = isLoaded ? m_Recording.get() : nullptr;
     if (from == to && from != -1)
         selectRow(from);
     else if (from != -1)
@@ -230,7 +211,7 @@ void TestSegmentEditor::templatesNeedRows()
     for (int i = 0; i < dialogs; ++i)
         user.On<TemplateDialog>([](TemplateDialog* dialog) { dialog->reject(); });
     QVERIFY(!m_Editor->Save(recording));
-    QVERIFY(!m_Editor->Search(recording));
+    m_Editor->Search(recording);
     m_Editor->AddTemplate(recording);
     QCOMPARE(TakeUserErrors().size(), 3 - dialogs);
     QCOMPARE(segments(), QStringLiteral("(0,100)"));

@@ -12,7 +12,7 @@ std::unique_ptr<DataSet> MakeDataSet(const char* rows, const QStringList& names)
     for (const QString& line : lines) {
         auto* row = new DataRow;
         row->SetValues(line.simplified().split(QLatin1Char(' ')));
-        row->SetNumberLabel(data->GetRowCount() + 1);
+        row->SetLabel(QString::number(data->GetRowCount() + 1));
         data->AddRow(row);
     }
     data->ComputeRanges();
@@ -25,7 +25,7 @@ std::unique_ptr<DataSet> MakeColumn(const std::vector<double>& values)
     for (const double value : values) {
         auto* row = new DataRow;
         row->AddValue(value);
-        row->SetNumberLabel(data->GetRowCount() + 1);
+        row->SetLabel(QString::number(data->GetRowCount() + 1));
         data->AddRow(row);
     }
     data->ComputeRanges();

@@ -3,8 +3,8 @@
 #include <cmath>
 #include <limits>
 
-/// The line between the ends of a segment. Its values are the recorded ones without their
-/// fraction: kept.
+/// The line between the ends of a segment. Its values are the recorded ones without their fraction,
+/// so in a signal that stays below 1 every line lies at 0.
 struct PIPChord {
     int m_Start;
     int m_End;
@@ -75,7 +75,7 @@ private:
 };
 
 /// The distance from a point on the line's level, with the signs of the end's terms the other
-/// way round than in a projection: kept.
+/// way round than in a projection: on a slope, points on the line have a distance too.
 class PerpendicularDistance
 {
 public:

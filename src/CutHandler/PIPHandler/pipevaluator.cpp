@@ -26,17 +26,18 @@ double bound(const Distance& distance, int from, int last, double low, double hi
 
 } // namespace
 
-PIPEvaluator::PIPEvaluator(std::vector<double> values, int measure)
-    : m_Values(std::move(values)), m_Blocks(makeBlocks(m_Values)), m_Mask(m_Values.size(), 0),
+PIPEvaluator::PIPEvaluator(ConstSpan<double> values, int measure)
+    : m_Values(values), m_Blocks(makeBlocks(values)), m_Mask(size_t(values.size()), 0),
       m_Measure(measure)
 {
 }
 
-std::vector<PIPEvaluator::Block> PIPEvaluator::makeBlocks(const std::vector<double>& values)
+std::vector<PIPEvaluator::Block> PIPEvaluator::makeBlocks(ConstSpan<double> values)
 {
-    std::vector<Block> blocks((values.size() + BlockRows - 1) / BlockRows, {infinite, -infinite});
-    for (size_t row = 0; row < values.size(); ++row) {
-        Block& block = blocks[row / BlockRows];
+    std::vector<Block> blocks((size_t(values.size()) + BlockRows - 1) / BlockRows,
+                              {infinite, -infinite});
+    for (int row = 0; row < values.size(); ++row) {
+        Block& block = blocks[size_t(row / BlockRows)];
         // In this order a value that is not a number changes nothing.
         block.m_Low = std::min(block.m_Low, values[row]);
         block.m_High = std::max(block.m_High, values[row]);
@@ -72,9 +73,8 @@ void PIPEvaluator::search(PIPSegment& segment) const
     segment.m_BestDistance = PIPSegment::NoDistance;
     if (segment.m_End - segment.m_Start < 2)
         return;
-    const Distance distance({segment.m_Start, segment.m_End,
-                             std::trunc(m_Values[size_t(segment.m_Start)]),
-                             std::trunc(m_Values[size_t(segment.m_End)])});
+    const Distance distance({segment.m_Start, segment.m_End, std::trunc(m_Values[segment.m_Start]),
+                             std::trunc(m_Values[segment.m_End])});
     const std::vector<Span> spans = boundedSpans(segment, distance);
     if (spans.empty())
         return;
@@ -115,7 +115,7 @@ void PIPEvaluator::searchRows(const Span& span, const Distance& distance, PIPSeg
     for (int row = span.m_From; row < span.m_To; ++row) {
         if (m_Mask[size_t(row)])
             continue;
-        const double found = distance(row, m_Values[size_t(row)]);
+        const double found = distance(row, m_Values[row]);
         const bool isTie = found == segment.m_BestDistance && row > segment.m_BestIndex;
         if (found > segment.m_BestDistance || isTie) {
             segment.m_BestDistance = found;

@@ -1,19 +1,21 @@
 #pragma once
 
+#include "constspan.h"
 #include "pipsegment.h"
 #include <vector>
 
 /// Finds the row of a segment that has the largest distance from the line between its ends.
 ///
-/// The lowest and highest value of every block of rows are kept, so that blocks that can't hold
+/// The lowest and highest value of every block of rows are noted, so that blocks that can't hold
 /// the best row are passed over: cutting a long recording often at its end stays cheap. The
 /// result is that of a scan over all rows, down to the last bit.
 class PIPEvaluator
 {
 public:
-    PIPEvaluator(std::vector<double> values, int measure);
+    /// values: not copied.
+    PIPEvaluator(ConstSpan<double> values, int measure);
 
-    int GetRowCount() const { return int(m_Values.size()); }
+    int GetRowCount() const { return m_Values.size(); }
     /// Leaves the rows around a split out of what is evaluated from now on: up to two in front,
     /// itself and one behind.
     void MaskAround(int row);
@@ -34,7 +36,7 @@ private:
     };
     static constexpr int BlockRows = 256;
 
-    static std::vector<Block> makeBlocks(const std::vector<double>& values);
+    static std::vector<Block> makeBlocks(ConstSpan<double> values);
     template <class Distance>
     void search(PIPSegment& segment) const;
     template <class Distance>
@@ -42,7 +44,7 @@ private:
     template <class Distance>
     void searchRows(const Span& span, const Distance& distance, PIPSegment& segment) const;
 
-    std::vector<double> m_Values;
+    ConstSpan<double> m_Values;
     std::vector<Block> m_Blocks;
     std::vector<char> m_Mask;
     int m_Measure;

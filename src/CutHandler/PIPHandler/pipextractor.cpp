@@ -47,7 +47,7 @@ void PIPExtractor::extract(int attribute, int partitions, double minimumDistance
     if (!m_DataSet || m_DataSet->GetRowCount() == 0 || attribute < 0 ||
         attribute >= m_DataSet->GetAttributeCount())
         return;
-    PIPEvaluator evaluator(m_DataSet->CopyColumn(attribute), m_Measure);
+    PIPEvaluator evaluator(m_DataSet->GetColumn(attribute), m_Measure);
     PIPSegment whole;
     whole.m_End = evaluator.GetRowCount() - 1;
     evaluator.Evaluate(whole);

@@ -8,7 +8,8 @@ class DataSet;
 class PIPEvaluator;
 
 /// Splits a curve, again and again, at its perceptually important points: where it departs most
-/// from the straight lines between the points found so far.
+/// from the straight lines between the points found so far (Chung, Fu, Luk, Ng 2001, IJCAI Workshop
+/// on Learning from Temporal and Spatial Data).
 class PIPExtractor
 {
 public:

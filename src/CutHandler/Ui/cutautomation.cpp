@@ -9,6 +9,7 @@
 #include "pipcutdialog.h"
 #include "pipextractor.h"
 #include "simplecuts.h"
+#include "usererror.h"
 #include "waitcursor.h"
 #include <QStringList>
 
@@ -16,7 +17,7 @@ namespace
 {
 
 enum Method {
-    PIECEWISE_LINEAR = 0, // cuts nothing: kept
+    PIECEWISE_LINEAR = 0, // cuts nothing
     IMPORTANT_POINTS = 1,
     PERIODIC = 2,
     SHARP_TRANSITIONS = 3,
@@ -113,4 +114,15 @@ void CutAutomation::insertCuts(const std::vector<int>& rows)
 {
     for (const int row : rows)
         m_CutCollection->InsertCut(row, CutSegment::SEGMENT_CUT);
+}
+
+void CutByItself(const SharedRecording& recording, QWidget* parent, int method)
+{
+    CutAutomation cutter(parent);
+    cutter.setDataSet(recording->GetDataSet());
+    cutter.setCutCollection(recording->GetCutCollection());
+    if (cutter.generateCuts(method))
+        recording->TellSegments();
+    else
+        ShowUserError(parent, CutAutomation::tr("Error Generating Cuts"), cutter.getErrorMessage());
 }

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "liverecording.h"
 #include <QCoreApplication>
 #include <QString>
 #include <vector>
 
-class CutCollection;
-class DataSet;
 class QWidget;
 
 /// Cuts a recording by itself, from the shape of its attributes: asks the user in a dialog, finds
@@ -42,3 +41,6 @@ private:
     CutCollection* m_CutCollection = nullptr;
     QString m_ErrorMessage;
 };
+
+/// Runs a method of automatic cutting on a recording; a failure is told to the user.
+void CutByItself(const SharedRecording& recording, QWidget* parent, int method);

@@ -1,6 +1,7 @@
 #include "mergelabelsdialog.h"
 
 #include "cutcollection.h"
+#include "modaldialog.h"
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -39,4 +40,12 @@ void MergeLabelsDialog::mergeLabels()
 {
     m_CutCollection->MergeLabels(m_Distance->value());
     emit LabelsMerged();
+}
+
+void RunMergeLabels(const SharedRecording& recording, QWidget* parent)
+{
+    ModalDialog<MergeLabelsDialog> dialog(recording->GetCutCollection(), parent);
+    QObject::connect(dialog.Get(), &MergeLabelsDialog::LabelsMerged, recording.get(),
+                     &LiveRecording::TellLabels);
+    dialog.Run();
 }

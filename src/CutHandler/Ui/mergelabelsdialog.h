@@ -1,8 +1,8 @@
 #pragma once
 
+#include "liverecording.h"
 #include <QDialog>
 
-class CutCollection;
 class QSpinBox;
 
 /// Closes small gaps between labelled segments. The dialog stays open, so that several distances
@@ -24,3 +24,6 @@ private:
     CutCollection* m_CutCollection;
     QSpinBox* m_Distance;
 };
+
+/// Lets labelled segments that are close to each other meet, as the user tries it out.
+void RunMergeLabels(const SharedRecording& recording, QWidget* parent);

@@ -1,36 +1,42 @@
 #include "columnarithmetic.h"
 
-Column BasicFunction(const DataSet& data, int first, int op, int second)
+DataColumn BasicFunction(const DataSet& data, int first, int op, int second)
 {
+    const int rows = data.GetRowCount();
+    const ConstSpan<double> a = data.GetColumn(first);
+    const ConstSpan<double> b = data.GetColumn(second);
     switch (op) {
     case OPERATOR_SUBTRACT:
         return Difference(data, first, second);
     case OPERATOR_ADD:
-        return DeriveColumn(data, [=](const double* row) { return row[first] + row[second]; });
+        return DeriveColumn(rows, [=](int row) { return a[row] + b[row]; });
     case OPERATOR_MULTIPLY:
-        return DeriveColumn(data, [=](const double* row) { return row[first] * row[second]; });
+        return DeriveColumn(rows, [=](int row) { return a[row] * b[row]; });
     case OPERATOR_DIVIDE:
-        return DeriveColumn(data, [=](const double* row) { return row[first] / row[second]; });
+        return DeriveColumn(rows, [=](int row) { return a[row] / b[row]; });
     default:
-        return Column(size_t(data.GetRowCount()), 0.0);
+        return DataColumn(rows, 0.0);
     }
 }
 
-Column Difference(const DataSet& data, int a, int b)
+DataColumn Difference(const DataSet& data, int a, int b)
 {
-    return DeriveColumn(data, [=](const double* row) { return row[a] - row[b]; });
+    const ConstSpan<double> from = data.GetColumn(a);
+    const ConstSpan<double> taken = data.GetColumn(b);
+    return DeriveColumn(data.GetRowCount(), [=](int row) { return from[row] - taken[row]; });
 }
 
-Column Threshold(const DataSet& data, int attribute, double threshold)
+DataColumn Threshold(const DataSet& data, int attribute, double threshold)
 {
-    return DeriveColumn(
-        data, [=](const double* row) { return row[attribute] >= threshold ? 1.0 : -1.0; });
+    const ConstSpan<double> values = data.GetColumn(attribute);
+    return DeriveColumn(data.GetRowCount(),
+                        [=](int row) { return values[row] >= threshold ? 1.0 : -1.0; });
 }
 
-Column ConstantValue(int rows, double value)
+DataColumn ConstantValue(int rows, double value)
 {
-    Column column(size_t(rows), value);
+    DataColumn column(rows, value);
     if (!column.empty())
-        column.front() = 0.0;
+        column[0] = 0.0;
     return column;
 }

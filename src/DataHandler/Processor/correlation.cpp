@@ -15,7 +15,8 @@ double CorrelateRanges(const DataSet& data, int attribute, int startA, int endA,
     if (!isAttribute || !isInside(startA, endA) || !isInside(startB, endB) ||
         endA - startA != endB - startB)
         return 0.0;
-    const auto value = [&](int row) { return data.GetRow(row)->GetValue(attribute); };
+    const ConstSpan<double> values = data.GetColumn(attribute);
+    const auto value = [=](int row) { return values[row]; };
     const double meanA = MeanOver(startA, endA, value);
     const double meanB = MeanOver(startB, endB, value);
     const double deviationA = std::sqrt(SquaredDeviations(startA, endA, value, meanA));

@@ -1,19 +1,17 @@
 #include "derivative.h"
 
-Column ForwardDifferences(const DataSet& data, int attribute)
+#include <algorithm>
+
+DataColumn ForwardDifferences(const DataSet& data, int attribute)
 {
-    Column differences = data.CopyColumn(attribute);
-    if (differences.empty())
-        return differences;
-    for (size_t row = 0; row + 1 < differences.size(); ++row)
-        differences[row] = differences[row + 1] - differences[row];
-    differences.pop_back();
-    return differences;
+    const ConstSpan<double> values = data.GetColumn(attribute);
+    return DeriveColumn(std::max(values.size() - 1, 0),
+                        [=](int row) { return values[row + 1] - values[row]; });
 }
 
-void AppendDerivative(DataSet& data, const Column& differences)
+void AppendDerivative(DataSet& data, DataColumn&& differences)
 {
     if (data.GetRowCount() > 0)
         data.GetRow(0)->AddValue(0.0);
-    AppendColumn(data, differences);
+    data.AppendValues(std::move(differences));
 }

@@ -3,17 +3,15 @@
 #include "windowsums.h"
 #include <algorithm>
 
-Column Energy(Column values, int window)
+DataColumn Energy(ConstSpan<double> values, int window)
 {
-    const auto rows = int(values.size());
+    const int rows = values.size();
     const int half = std::min(window / 2, rows);
-    Column energies(values.size(), 0.0);
     if (half <= 0)
-        return energies;
-    for (double& value : values)
-        value *= value;
-    const WindowSums sums(std::move(values), 2 * half);
-    for (int row = 0; row < rows; ++row)
-        energies[size_t(row)] = sums.Sum(std::max(row - half, 0), std::min(row + half, rows));
-    return energies;
+        return DataColumn(rows, 0.0);
+    const WindowSums sums(DeriveColumn(rows, [=](int row) { return values[row] * values[row]; }),
+                          2 * half);
+    return DeriveColumn(rows, [&](int row) {
+        return sums.Sum(std::max(row - half, 0), std::min(row + half, rows));
+    });
 }

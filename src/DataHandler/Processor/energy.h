@@ -9,4 +9,4 @@
 ///
 /// values: any unit, the result has its square. window: 0, 1 and less give 0 in every row.
 /// The time does not depend on the window.
-Column Energy(Column values, int window);
+DataColumn Energy(ConstSpan<double> values, int window);

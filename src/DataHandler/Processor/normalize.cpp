@@ -3,23 +3,22 @@
 #include "statistics.h"
 #include <cmath>
 
-Column Normalize(Column values)
+DataColumn Normalize(ConstSpan<double> values)
 {
-    const auto rows = int(values.size());
-    const auto value = [&](int row) { return values[size_t(row)]; };
+    const int rows = values.size();
+    const auto value = [=](int row) { return values[row]; };
     const double mean = MeanOver(0, rows, value);
     const double deviation = std::sqrt(SquaredDeviations(0, rows, value, mean) / rows);
-    for (double& each : values)
-        each = (each - mean) / deviation;
-    return values;
+    return DeriveColumn(rows, [=](int row) { return (values[row] - mean) / deviation; });
 }
 
-std::vector<Column> NormalizeVector(const DataSet& data, const VectorAttributes& vector)
+std::vector<DataColumn> NormalizeVector(const DataSet& data, const VectorAttributes& vector)
 {
-    return DeriveColumns<3>(data, [=](const double* row) {
-        const auto x = float(row[vector.m_X]);
-        const auto y = float(row[vector.m_Y]);
-        const auto z = float(row[vector.m_Z]);
+    const VectorColumns axes(data, vector);
+    return DeriveColumns<3>(data.GetRowCount(), [=](int row) {
+        const auto x = float(axes.m_X[row]);
+        const auto y = float(axes.m_Y[row]);
+        const auto z = float(axes.m_Z[row]);
         const auto squares = float(y * y + x * x + z * z);
         const auto length = float(std::sqrt(double(squares)));
         return std::array<double, 3>{float(x / length), float(y / length), float(z / length)};

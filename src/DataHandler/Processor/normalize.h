@@ -4,8 +4,8 @@
 
 /// The column less its mean, divided by its population standard deviation: mean 0, deviation 1,
 /// no unit. Equal values, and any value that is not finite, give not-a-number in every row.
-Column Normalize(Column values);
+DataColumn Normalize(ConstSpan<double> values);
 
 /// The three columns X, Y, Z of the vector divided by its length in each row, computed in single
 /// precision. A zero vector gives not-a-number.
-std::vector<Column> NormalizeVector(const DataSet& data, const VectorAttributes& vector);
+std::vector<DataColumn> NormalizeVector(const DataSet& data, const VectorAttributes& vector);

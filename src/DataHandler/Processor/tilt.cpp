@@ -1,15 +1,32 @@
 #include "tilt.h"
 
-#include <cmath>
+#include "elevationangle.h"
+#include "vectorclones.h"
 
-std::vector<Column> PitchAndRoll(const DataSet& data, const VectorAttributes& acceleration)
+namespace
+{
+
+SKERRYMOOR_VECTOR_CLONES
+void computeAngles(const VectorColumns& axes, int rows, double* pitches, double* rolls)
 {
     constexpr double pi = 3.141592653589793;
-    return DeriveColumns<2>(data, [=](const double* row) {
-        const double x = row[acceleration.m_X];
-        const double y = row[acceleration.m_Y];
-        const double z = row[acceleration.m_Z];
-        return std::array<double, 2>{std::atan2(y, std::sqrt(x * x + z * z)) * 180 / pi,
-                                     std::atan2(x, std::sqrt(y * y + z * z)) * 180 / pi};
-    });
+    for (int row = 0; row < rows; ++row) {
+        const double x = axes.m_X[row];
+        const double y = axes.m_Y[row];
+        const double z = axes.m_Z[row];
+        pitches[row] = ElevationAngle(y, std::sqrt(x * x + z * z)) * 180 / pi;
+        rolls[row] = ElevationAngle(x, std::sqrt(y * y + z * z)) * 180 / pi;
+    }
+}
+
+} // namespace
+
+std::vector<DataColumn> PitchAndRoll(const DataSet& data, const VectorAttributes& acceleration)
+{
+    const int rows = data.GetRowCount();
+    std::vector<DataColumn> angles;
+    angles.emplace_back(rows);
+    angles.emplace_back(rows);
+    computeAngles(VectorColumns(data, acceleration), rows, angles[0].data(), angles[1].data());
+    return angles;
 }

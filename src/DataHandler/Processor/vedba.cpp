@@ -2,12 +2,13 @@
 
 #include <cmath>
 
-Column Vedba(const DataSet& data, const VectorAttributes& dynamic)
+DataColumn Vedba(const DataSet& data, const VectorAttributes& dynamic)
 {
-    return DeriveColumn(data, [=](const double* row) {
-        const double x = float(row[dynamic.m_X]);
-        const double y = float(row[dynamic.m_Y]);
-        const double z = float(row[dynamic.m_Z]);
+    const VectorColumns axes(data, dynamic);
+    return DeriveColumn(data.GetRowCount(), [=](int row) {
+        const double x = float(axes.m_X[row]);
+        const double y = float(axes.m_Y[row]);
+        const double z = float(axes.m_Z[row]);
         return std::sqrt(y * y + x * x + z * z);
     });
 }

@@ -8,4 +8,4 @@
 ///
 /// dynamic: the acceleration without its static part, see MovingAverage and Difference. Each axis
 /// is narrowed to single precision first, the rest is double.
-Column Vedba(const DataSet& data, const VectorAttributes& dynamic);
+DataColumn Vedba(const DataSet& data, const VectorAttributes& dynamic);

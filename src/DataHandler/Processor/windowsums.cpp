@@ -2,22 +2,23 @@
 
 #include <algorithm>
 
-WindowSums::WindowSums(Column values, int length)
-    : m_Length(length), m_FromBlockStart(std::move(values)), m_ToBlockEnd(m_FromBlockStart)
+WindowSums::WindowSums(DataColumn&& values, int length)
+    : m_Length(length), m_FromBlockStart(std::move(values)),
+      m_ToBlockEnd(ConstSpan<double>(m_FromBlockStart))
 {
-    const size_t size = m_FromBlockStart.size();
-    for (size_t start = 0; start < size; start += size_t(length))
-        addUpBlock(start, start + std::min(size_t(length), size - start));
+    const int size = m_FromBlockStart.size();
+    for (int start = 0; start < size; start += std::min(length, size - start))
+        addUpBlock(start, start + std::min(length, size - start));
 }
 
-void WindowSums::addUpBlock(size_t start, size_t end)
+void WindowSums::addUpBlock(int start, int end)
 {
     // Both ways in one loop: neither has to wait for the other's additions.
     double* forward = m_FromBlockStart.data();
     double* backward = m_ToBlockEnd.data();
     double fromStart = forward[start];
     double toEnd = backward[end - 1];
-    for (size_t up = start + 1, down = end - 1; up < end; ++up, --down) {
+    for (int up = start + 1, down = end - 1; up < end; ++up, --down) {
         fromStart += forward[up];
         forward[up] = fromStart;
         toEnd += backward[down - 1];
@@ -27,9 +28,9 @@ void WindowSums::addUpBlock(size_t start, size_t end)
 
 double WindowSums::Sum(int from, int to) const
 {
-    const double upToEnd = m_FromBlockStart[size_t(to - 1)];
+    const double upToEnd = m_FromBlockStart[to - 1];
     if (from % m_Length == 0)
         return upToEnd;
-    const double fromStart = m_ToBlockEnd[size_t(from)];
+    const double fromStart = m_ToBlockEnd[from];
     return from / m_Length == (to - 1) / m_Length ? fromStart : fromStart + upToEnd;
 }

@@ -16,8 +16,8 @@ struct Source {
 std::unique_ptr<double[]> copyRows(const DataSet& data, int start, int end, int attribute)
 {
     std::unique_ptr<double[]> values(new double[size_t(end - start)]);
-    for (int row = start; row < end; ++row)
-        values[size_t(row - start)] = data.GetRow(row)->GetValue(attribute);
+    const ConstSpan<double> rows = data.GetColumn(attribute).Part(start, end);
+    std::copy(rows.begin(), rows.end(), values.get());
     return values;
 }
 

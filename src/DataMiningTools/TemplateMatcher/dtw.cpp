@@ -33,7 +33,7 @@ std::vector<double> DTW::distances(int attribute) const
     std::vector<double> result{above.back()};
     std::vector<double> cells(size_t(columns), unreachable);
     for (int row = 1; row < rows; ++row) {
-        const double value = m_DataSet->GetRow(row)->GetValue(attribute);
+        const double value = m_DataSet->GetValue(row, attribute);
         for (size_t column = 1; column < size_t(columns); ++column) {
             const double difference = value - m_Signal->GetSignal()[column];
             cells[column] = difference * difference +

@@ -12,7 +12,7 @@
 AttributeNameDialog::AttributeNameDialog(int columns, QWidget* parent) : QDialog(parent)
 {
     setWindowTitle(tr("Attribute Names"));
-    // Nothing reads this name: kept, people note there what the columns belong to.
+    // Nothing reads this name: it is a note for whoever fills in the columns.
     auto* name = new QLineEdit;
     name->setMaximumWidth(150);
     auto* nameRow = new QFormLayout;

@@ -9,8 +9,8 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
-DataImportPage::DataImportPage(DataSet** dataSet, const QString& filter, int previewRows,
-                               QWidget* parent)
+DataImportPage::DataImportPage(std::unique_ptr<DataSet>* dataSet, const QString& filter,
+                               int previewRows, QWidget* parent)
     : QWizardPage(parent), m_DataSet(dataSet), m_Form(new ImportFileForm),
       m_Table(new PreviewTable), m_Filter(filter), m_PreviewRows(previewRows)
 {
@@ -41,10 +41,8 @@ void DataImportPage::readFile()
                       tr("Error - No data file has been specified to be imported."));
         return;
     }
-    DataSet* dataSet = m_Form->Read();
-    delete *m_DataSet;
-    *m_DataSet = dataSet;
-    m_Table->ShowDataSet(dataSet, m_PreviewRows);
+    *m_DataSet = m_Form->Read();
+    m_Table->ShowDataSet(m_DataSet->get(), m_PreviewRows);
     nameColumns();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWizardPage>
+#include <memory>
 
 class DataSet;
 class ImportFileForm;
@@ -20,7 +21,8 @@ public slots:
 
 protected:
     /// dataSet: where the wizard keeps its data set. filter: of the file dialog.
-    DataImportPage(DataSet** dataSet, const QString& filter, int previewRows, QWidget* parent);
+    DataImportPage(std::unique_ptr<DataSet>* dataSet, const QString& filter, int previewRows,
+                   QWidget* parent);
 
     /// Gives the columns of a data set just read their first names.
     virtual void nameColumns() = 0;
@@ -35,7 +37,7 @@ protected:
     /// left to the wizard, which finishes.
     void keyPressEvent(QKeyEvent* event) override;
 
-    DataSet** m_DataSet;
+    std::unique_ptr<DataSet>* m_DataSet;
 
 private:
     ImportFileForm* m_Form;

@@ -42,6 +42,12 @@ QStringList* FileImporter::ReadColumn(int column)
     return texts.release();
 }
 
+std::unique_ptr<DataSet> FileImporter::TakeDataSet()
+{
+    m_DataSet = nullptr;
+    return std::move(m_OwnedDataSet);
+}
+
 DataSet* FileImporter::GetDataSet()
 {
     static_cast<void>(m_OwnedDataSet.release());
@@ -57,7 +63,8 @@ bool FileImporter::openFile(QFile& file)
         return false;
     }
     // A folder or a device has no end or no bytes to read.
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    if (!QFileInfo(file).isFile() ||
+        !file.open(QIODevice::ReadOnly | QIODevice::Text | QIODevice::Unbuffered)) {
         m_Error = QStringLiteral("Can't open file");
         return false;
     }

@@ -32,7 +32,9 @@ public:
     /// column counts from the start column on. Empty after a failure, with GetError.
     QStringList* ReadColumn(int column);
 
-    /// The data set of the last Read, or null. The caller owns it from then on.
+    /// The data set of the last Read, or null.
+    std::unique_ptr<DataSet> TakeDataSet();
+    /// The same, also when asked again; the caller owns it from then on.
     DataSet* GetDataSet();
     QString GetError() const { return m_Error; }
     /// One entry per line left out because its number of columns differed.

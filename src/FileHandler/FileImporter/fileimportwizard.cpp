@@ -12,6 +12,11 @@ FileImportWizard::FileImportWizard(QWidget* parent) : QWizard(parent)
 
 FileImportWizard::~FileImportWizard()
 {
-    if (result() != QDialog::Accepted)
-        delete m_DataSet;
+    if (result() == QDialog::Accepted)
+        static_cast<void>(m_DataSet.release());
+}
+
+std::unique_ptr<DataSet> FileImportWizard::TakeDataSet()
+{
+    return std::move(m_DataSet);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWizard>
+#include <memory>
 
 class DataSet;
 
@@ -10,13 +11,13 @@ class FileImportWizard : public QWizard
     Q_OBJECT
 public:
     explicit FileImportWizard(QWidget* parent = nullptr);
-    /// Deletes the data set unless the wizard was accepted.
     ~FileImportWizard() override;
 
-    /// The data set read so far, null if none. Once the wizard is accepted it belongs to the
-    /// caller.
-    DataSet* GetDataSet() const { return m_DataSet; }
+    /// The data set read so far, null if none. Whoever accepts the wizard takes it, or owns what
+    /// GetDataSet gives from then on: an accepted wizard deletes nothing.
+    std::unique_ptr<DataSet> TakeDataSet();
+    DataSet* GetDataSet() const { return m_DataSet.get(); }
 
 private:
-    DataSet* m_DataSet = nullptr;
+    std::unique_ptr<DataSet> m_DataSet;
 };

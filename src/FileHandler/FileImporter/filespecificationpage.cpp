@@ -14,7 +14,7 @@ constexpr int PRESET_CUSTOM = 5;
 
 } // namespace
 
-FileSpecificationPage::FileSpecificationPage(DataSet** dataSet, QWidget* parent)
+FileSpecificationPage::FileSpecificationPage(std::unique_ptr<DataSet>* dataSet, QWidget* parent)
     : DataImportPage(dataSet, tr("Text file (*)"), PREVIEW_ROWS, parent), m_Preset(new QComboBox)
 {
     for (int number = 1; number <= PRESET_CUSTOM; ++number)

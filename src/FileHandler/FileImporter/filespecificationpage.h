@@ -12,7 +12,7 @@ class FileSpecificationPage : public DataImportPage
     Q_OBJECT
 public:
     /// dataSet: where the wizard keeps its data set.
-    explicit FileSpecificationPage(DataSet** dataSet, QWidget* parent = nullptr);
+    explicit FileSpecificationPage(std::unique_ptr<DataSet>* dataSet, QWidget* parent = nullptr);
 
     /// Finishes the data set: see FinishImport.
     bool validatePage() override;
@@ -22,7 +22,8 @@ public slots:
     void headerClicked(int column) override;
 
 protected:
-    /// Always starts from the first preset, whatever the combo box shows: kept.
+    /// Always starts from the first preset, whatever the combo box shows: the one that it shows has
+    /// to be picked again.
     void nameColumns() override { setPresetNames(0); }
 
 private:

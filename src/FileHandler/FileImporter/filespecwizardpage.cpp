@@ -11,7 +11,7 @@ constexpr int PREVIEW_ROWS = 50;
 
 } // namespace
 
-FileSpecWizardPage::FileSpecWizardPage(DataSet** dataSet, QWidget* parent)
+FileSpecWizardPage::FileSpecWizardPage(std::unique_ptr<DataSet>* dataSet, QWidget* parent)
     : DataImportPage(dataSet, tr("Text file (*.txt)"), PREVIEW_ROWS, parent)
 {
 }

@@ -9,7 +9,7 @@ class FileSpecWizardPage : public DataImportPage
     Q_OBJECT
 public:
     /// dataSet: where the wizard keeps its data set.
-    explicit FileSpecWizardPage(DataSet** dataSet, QWidget* parent = nullptr);
+    explicit FileSpecWizardPage(std::unique_ptr<DataSet>* dataSet, QWidget* parent = nullptr);
 
     /// Passes the names and the sampling rate on to the data set.
     bool validatePage() override;

@@ -16,7 +16,7 @@ ImportFileForm::ImportFileForm(QWidget* parent)
 {
     setTitle(tr("File Specification"));
     makeFields();
-    // Never offered to the user: kept at 0, so that every column of a line is read.
+    // Never offered to the user and always 0, so every column of a line is read.
     m_StartColumn->hide();
 
     auto* import = new QPushButton(tr("Import"));
@@ -77,7 +77,7 @@ QStringList ImportFileForm::getFields() const
     return {m_FileName->text(), m_StartRow->text(), m_Delimiter->currentText()};
 }
 
-DataSet* ImportFileForm::Read()
+std::unique_ptr<DataSet> ImportFileForm::Read()
 {
     m_FieldsRead = getFields();
     FileImporter importer(this, m_FileName->text());
@@ -87,7 +87,7 @@ DataSet* ImportFileForm::Read()
     if (!importer.Read())
         ShowUserError(this, tr("Error reading file"),
                       tr("Error reading file: ") + importer.GetError());
-    DataSet* dataSet = importer.GetDataSet();
+    std::unique_ptr<DataSet> dataSet = importer.TakeDataSet();
     if (dataSet)
         dataSet->ComputeRanges();
     return dataSet;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QGroupBox>
+#include <memory>
 
 class DataSet;
 class QComboBox;
@@ -18,9 +19,9 @@ public:
     /// Lets the user pick the file. filter: as QFileDialog takes it.
     void LocateFile(const QString& filter);
     bool HasFileName() const;
-    /// Reads the file into a new data set that the caller owns. A failure is shown to the user;
-    /// what was read up to then is returned all the same, null when there is nothing.
-    DataSet* Read();
+    /// Reads the file into a new data set. A failure is shown to the user; what was read up to then
+    /// is returned all the same, null when there is nothing.
+    std::unique_ptr<DataSet> Read();
     /// Whether Read would now read something else than it did the last time.
     bool IsChangedSinceRead() const { return getFields() != m_FieldsRead; }
     int GetSamplingRate() const;

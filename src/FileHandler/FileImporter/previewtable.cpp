@@ -30,8 +30,7 @@ void PreviewTable::ShowDataSet(const DataSet* dataSet, int rows, int digits)
     setRowCount(rows);
     const int filled = dataSet ? std::min(rows, dataSet->GetRowCount()) : 0;
     for (int row = 0; row < filled; ++row) {
-        const DataRow* values = dataSet->GetRow(row);
         for (int column = 0; column < columnCount(); ++column)
-            setItem(row, column, makeCell(values->GetValue(column), digits));
+            setItem(row, column, makeCell(dataSet->GetValue(row, column), digits));
     }
 }

@@ -1,6 +1,6 @@
 #include "exportwizardpage.h"
 
-#include "askpath.h"
+#include "askuser.h"
 #include "dataexport.h"
 #include "dataset.h"
 #include "filewriter.h"

@@ -38,7 +38,7 @@ struct Operation {
 // In the order of the menu.
 constexpr Operation OPERATIONS[] = {
     {QT_TRANSLATE_NOOP("DataProcessor", "Moving Average"), &DataProcessor::movingAverage},
-    // Stands in the menu and does nothing: kept.
+    // Stands in the menu and does nothing: the entries behind it have their numbers by it.
     {QT_TRANSLATE_NOOP("DataProcessor", "ODBA"), nullptr},
     {QT_TRANSLATE_NOOP("DataProcessor", "Basic Function"), &DataProcessor::basicFunction},
     {QT_TRANSLATE_NOOP("DataProcessor", "Derivative"), &DataProcessor::derivative},
@@ -126,9 +126,10 @@ bool DataProcessor::derivative()
     if (!params || !hasAttributes({params->m_Attribute}))
         return false;
     const WaitCursor wait;
-    const Column differences = ForwardDifferences(*m_DataSet, params->m_Attribute);
-    addAttribute(params->m_Name);
-    AppendDerivative(*m_DataSet, differences);
+    DataColumn differences = ForwardDifferences(*m_DataSet, params->m_Attribute);
+    m_DataSet->AddAttribute(params->m_Name, ATTRIBUTE_OTHER);
+    m_AddedAttributes.append({m_DataSet->GetAttributeCount() - 1, params->m_Name});
+    AppendDerivative(*m_DataSet, std::move(differences));
     m_DataSet->ComputeRanges();
     return true;
 }
@@ -137,12 +138,12 @@ bool DataProcessor::normalize()
 {
     if (!hasData())
         return false;
-    // The dialog of the derivative, its heading too: kept.
+    // The dialog of the derivative, its heading too: the user reads "Derivative".
     const auto params = ask<DerivativeDialog>(*m_DataSet, m_Parent);
     if (!params || !hasAttributes({params->m_Attribute}))
         return false;
     return finishWith(params->m_Name,
-                      [&] { return Normalize(m_DataSet->CopyColumn(params->m_Attribute)); });
+                      [&] { return Normalize(m_DataSet->GetColumn(params->m_Attribute)); });
 }
 
 bool DataProcessor::normalizeVector()
@@ -164,7 +165,7 @@ bool DataProcessor::energy()
     if (!params || !hasAttributes({params->m_Attribute}))
         return false;
     return finishWith(params->m_Name, [&] {
-        return Energy(m_DataSet->CopyColumn(params->m_Attribute), params->m_Window);
+        return Energy(m_DataSet->GetColumn(params->m_Attribute), params->m_Window);
     });
 }
 
@@ -189,7 +190,7 @@ bool DataProcessor::pitchRoll()
         return true;
     if (!hasVector(params->m_Acceleration))
         return false;
-    return finishWith({QStringLiteral("Pitch"), QStringLiteral("Roll")},
+    return finishWith({StandardAttributeName(STANDARD_PITCH), StandardAttributeName(STANDARD_ROLL)},
                       [&] { return PitchAndRoll(*m_DataSet, params->m_Acceleration); });
 }
 
@@ -250,7 +251,7 @@ int DataProcessor::computeMovingAverage(const QString& name, int attribute, int 
 {
     if (!hasData() || !hasAttributes({attribute}))
         return -1;
-    return addColumn(name, MovingAverage(m_DataSet->CopyColumn(attribute), window));
+    return addColumn(name, MovingAverage(m_DataSet->GetColumn(attribute), window));
 }
 
 int DataProcessor::computeDifference(const QString& name, int attributeA, int attributeB)
@@ -285,22 +286,14 @@ bool DataProcessor::hasVector(const VectorAttributes& vector) const
     return hasAttributes({vector.m_X, vector.m_Y, vector.m_Z});
 }
 
-int DataProcessor::addAttribute(const QString& name)
+int DataProcessor::addColumn(const QString& name, DataColumn&& column)
 {
-    m_DataSet->AddAttribute(name, ATTRIBUTE_OTHER);
-    const int index = m_DataSet->GetAttributeCount() - 1;
+    const int index = m_DataSet->AddColumn(name, ATTRIBUTE_OTHER, std::move(column));
     m_AddedAttributes.append({index, name});
     return index;
 }
 
-int DataProcessor::addColumn(const QString& name, const Column& column)
-{
-    const int index = addAttribute(name);
-    AppendColumn(*m_DataSet, column);
-    return index;
-}
-
-bool DataProcessor::finishWith(const QString& name, const std::function<Column()>& compute)
+bool DataProcessor::finishWith(const QString& name, const std::function<DataColumn()>& compute)
 {
     const WaitCursor wait;
     addColumn(name, compute());
@@ -309,13 +302,12 @@ bool DataProcessor::finishWith(const QString& name, const std::function<Column()
 }
 
 bool DataProcessor::finishWith(const QStringList& names,
-                               const std::function<std::vector<Column>()>& compute)
+                               const std::function<std::vector<DataColumn>()>& compute)
 {
     const WaitCursor wait;
-    const std::vector<Column> columns = compute();
-    for (const QString& name : names)
-        addAttribute(name);
-    AppendColumns(*m_DataSet, columns);
+    std::vector<DataColumn> columns = compute();
+    for (int i = 0; i < names.size(); ++i)
+        addColumn(names[i], std::move(columns[size_t(i)]));
     m_DataSet->ComputeRanges();
     return true;
 }
@@ -325,4 +317,12 @@ QStringList DataProcessor::namesOf(const VectorAttributes& vector, const QString
     return {m_DataSet->GetAttributeName(vector.m_X) + ending,
             m_DataSet->GetAttributeName(vector.m_Y) + ending,
             m_DataSet->GetAttributeName(vector.m_Z) + ending};
+}
+
+void DeriveAttributes(const SharedRecording& recording, QWidget* parent, int operation)
+{
+    DataProcessor processor(parent);
+    processor.setDataSet(recording->GetDataSet());
+    if (processor.runOperation(operation))
+        recording->Tell(LiveRecording::ATTRIBUTES);
 }

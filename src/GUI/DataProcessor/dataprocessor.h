@@ -1,6 +1,7 @@
 #pragma once
 
 #include "derivedcolumn.h"
+#include "liverecording.h"
 #include <QCoreApplication>
 #include <QList>
 #include <QStringList>
@@ -48,11 +49,11 @@ public:
     bool energy();
     bool threshold();
 
-    // Cancel says true as well, with nothing added: kept.
+    // Cancel says true as well, with nothing in the list of added attributes.
     bool pitchRoll();
     bool rotate();
 
-    // Cancel computes with what the dialog shows, as Compute does: kept.
+    // Cancel computes with what the dialog shows, as Compute does: there is no way back.
     bool vedba();
     bool staticDynAcc();
     bool constantValue();
@@ -70,15 +71,28 @@ private:
     bool hasData() const;
     bool hasAttributes(std::initializer_list<int> attributes) const;
     bool hasVector(const VectorAttributes& vector) const;
-    /// Enters a new attribute, its values are the caller's work; its index.
-    int addAttribute(const QString& name);
-    int addColumn(const QString& name, const Column& column);
+    /// The index of the new attribute.
+    int addColumn(const QString& name, DataColumn&& column);
     // Compute and add, take the ranges anew and return true.
-    bool finishWith(const QString& name, const std::function<Column()>& compute);
-    bool finishWith(const QStringList& names, const std::function<std::vector<Column>()>& compute);
+    bool finishWith(const QString& name, const std::function<DataColumn()>& compute);
+    bool finishWith(const QStringList& names,
+                    const std::function<std::vector<DataColumn>()>& compute);
     QStringList namesOf(const VectorAttributes& vector, const QString& ending) const;
 
     QWidget* m_Parent;
     DataSet* m_DataSet = nullptr;
     QList<AddedAttribute> m_AddedAttributes;
 };
+
+/// Runs the operation of a menu entry on a recording.
+void DeriveAttributes(const SharedRecording& recording, QWidget* parent, int operation);
+
+/// The same for an operation of its own.
+template <bool (DataProcessor::*operation)()>
+void DeriveBy(const SharedRecording& recording, QWidget* parent)
+{
+    DataProcessor processor(parent);
+    processor.setDataSet(recording->GetDataSet());
+    if ((processor.*operation)())
+        recording->Tell(LiveRecording::ATTRIBUTES);
+}

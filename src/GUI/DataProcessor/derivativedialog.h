@@ -8,5 +8,8 @@ class DerivativeDialog : public SingleColumnDialog
     Q_OBJECT
 public:
     explicit DerivativeDialog(const DataSet& dataSet, const SingleColumnParams& start = {},
-                              QWidget* parent = nullptr);
+                              QWidget* parent = nullptr)
+        : SingleColumnDialog(dataSet, tr("Derivative"), start, parent)
+    {
+    }
 };

@@ -9,9 +9,14 @@ class NormalizeVectorDialog : public DerivationDialog
     Q_OBJECT
 public:
     explicit NormalizeVectorDialog(const DataSet& dataSet, const VectorAttributes& start = {},
-                                   QWidget* parent = nullptr);
+                                   QWidget* parent = nullptr)
+        : DerivationDialog(dataSet, tr("Normalize Vector"), parent)
+    {
+        m_Vector = addVector(tr("%1 Att"), start);
+        addButtons();
+    }
 
-    VectorAttributes GetParams() const;
+    VectorAttributes GetParams() const { return m_Vector.Get(); }
 
 private:
     VectorBoxes m_Vector;

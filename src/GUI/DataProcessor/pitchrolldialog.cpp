@@ -3,21 +3,12 @@
 #include <QDoubleSpinBox>
 #include <algorithm>
 
-namespace
-{
-
-// Of the first axis, as StandardAttributeName counts them.
-constexpr int CORRECTED_ACCELERATION = 6;
-constexpr int CORRECTED_COMPASS = 9;
-
-} // namespace
-
 PitchRollDialog::PitchRollDialog(const DataSet& dataSet, bool withCompass, QWidget* parent)
     : DerivationDialog(dataSet, tr("Pitch and Roll"), parent)
 {
-    m_Acceleration = addVector(tr("%1 Acc:"), findStandardVector(CORRECTED_ACCELERATION));
+    m_Acceleration = addVector(tr("%1 Acc:"), findStandardVector(STANDARD_ACC_X_COR));
     if (withCompass)
-        m_Compass = addVector(tr("%1 Comp:"), findStandardVector(CORRECTED_COMPASS));
+        m_Compass = addVector(tr("%1 Comp:"), findStandardVector(STANDARD_COMP_X_COR));
     m_SmoothingRate = addReal(tr("Smoothing Rate:"), 2.0 * dataSet.m_SamplingRate,
                               tr("Rows to smooth over; pitch and roll from the menu ignore it"));
     addButtons(tr("Save"));

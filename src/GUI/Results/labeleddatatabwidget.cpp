@@ -1,26 +1,17 @@
 #include "labeleddatatabwidget.h"
 
 #include "addgroupdialog.h"
-#include "askattribute.h"
-#include "askpath.h"
+#include "askuser.h"
 #include "behaviorclassstatisticswidget.h"
 #include "classwidget.h"
-#include "cutsegment.h"
-#include "dataset.h"
-#include "grouppalette.h"
-#include "labelcollection.h"
 #include "labelwriter.h"
+#include "modaldialog.h"
 #include "panelbutton.h"
 #include "usererror.h"
 #include <QHBoxLayout>
-#include <QIcon>
-#include <QMessageBox>
-#include <QPixmap>
-#include <QPointer>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTabWidget>
-#include <algorithm>
 
 namespace
 {
@@ -51,7 +42,6 @@ LabeledDataTabWidget::LabeledDataTabWidget(QWidget* parent)
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addLayout(makeButtons());
     layout->addWidget(m_Tabs, 1);
-    connect(m_Tabs, &QTabWidget::currentChanged, this, &LabeledDataTabWidget::enableButtons);
     enableButtons();
 }
 
@@ -93,6 +83,20 @@ void LabeledDataTabWidget::enableButtons()
         button->setEnabled(m_Tabs->count() > 0);
 }
 
+void LabeledDataTabWidget::SetRecording(LiveRecording* recording)
+{
+    if (m_Recording)
+        m_Recording->disconnect(this);
+    m_Recording = recording;
+    SetLabelCollection(nullptr);
+    SetDataSet(DataOf(recording));
+    SetCutCollection(CutsOf(recording));
+    SetLabelCollection(LabelsOf(recording));
+    synchronize();
+    if (recording)
+        connect(recording, &LiveRecording::LabelsChanged, this, &LabeledDataTabWidget::synchronize);
+}
+
 void LabeledDataTabWidget::SetDataSet(DataSet* dataSet)
 {
     m_DataSet = dataSet;
@@ -109,10 +113,8 @@ void LabeledDataTabWidget::SetCutCollection(CutCollection* cuts)
 
 void LabeledDataTabWidget::SetLabelCollection(LabelCollection* labels)
 {
-    if (labels != m_LabelCollection) {
+    if (labels != m_LabelCollection)
         removeTabs();
-        m_GroupCount = 0;
-    }
     m_LabelCollection = labels;
     enableButtons();
 }
@@ -120,10 +122,7 @@ void LabeledDataTabWidget::SetLabelCollection(LabelCollection* labels)
 void LabeledDataTabWidget::Rebuild()
 {
     removeTabs();
-    const int count = m_LabelCollection ? m_LabelCollection->GetLabelCount() : 0;
-    for (int i = 0; i < count; ++i)
-        addTab(m_LabelCollection->GetLabel(i));
-    m_GroupCount = std::max(m_GroupCount, count);
+    synchronize();
 }
 
 void LabeledDataTabWidget::Refresh()
@@ -140,40 +139,71 @@ void LabeledDataTabWidget::AddAttribute(int index, const QString& name)
 
 BehaviorLabel* LabeledDataTabWidget::AddGroup(const QString& name)
 {
-    if (!m_LabelCollection)
+    const LabelChange added = Labelling(m_CutCollection, m_LabelCollection).AddBehavior(name);
+    if (added.IsEmpty())
         return nullptr;
-    auto* label = new BehaviorLabel(name, GroupColor(m_GroupCount));
-    m_LabelCollection->AddLabel(label);
-    addTab(label);
-    ++m_GroupCount;
-    return label;
+    synchronize();
+    if (m_Recording)
+        m_Recording->Tell(LiveRecording::LABELS);
+    return added.m_Behaviors.front().m_Behavior;
 }
 
-void LabeledDataTabWidget::addTab(BehaviorLabel* label)
+void LabeledDataTabWidget::synchronize()
+{
+    for (int i = m_Tabs->count() - 1; i >= 0; --i) {
+        if (!m_LabelCollection || m_LabelCollection->IndexOf(classAt(i)->GetLabel()) == -1)
+            removeTab(i);
+    }
+    const int count = m_LabelCollection ? m_LabelCollection->GetLabelCount() : 0;
+    for (int i = 0; i < count; ++i) {
+        BehaviorLabel* label = m_LabelCollection->GetLabel(i);
+        const int tab = findTab(label);
+        if (tab == -1)
+            insertTab(i, label);
+        else if (tab != i)
+            m_Tabs->tabBar()->moveTab(tab, i);
+        m_Tabs->setTabText(i, tabText(label->GetName()));
+    }
+    enableButtons();
+}
+
+int LabeledDataTabWidget::findTab(const BehaviorLabel* label) const
+{
+    int tab = m_Tabs->count() - 1;
+    while (tab >= 0 && classAt(tab)->GetLabel() != label)
+        --tab;
+    return tab;
+}
+
+void LabeledDataTabWidget::insertTab(int index, BehaviorLabel* label)
 {
     auto* tab = new ClassWidget;
     connect(tab, &ClassWidget::NewResultsFound, this, &LabeledDataTabWidget::NewResultsFound);
     connect(tab, &ClassWidget::ShowSelected, this, &LabeledDataTabWidget::ShowSelected);
     connect(tab, &ClassWidget::SegmentsUpdated, this, &LabeledDataTabWidget::SegmentsUpdated);
-    connect(tab, &ClassWidget::SegmentsMoved, this, &LabeledDataTabWidget::Refresh);
-    // Results may be among the segments that have moved.
-    connect(tab, &ClassWidget::SegmentsMoved, this, &LabeledDataTabWidget::NewResultsFound);
-    tab->SetDataSet(m_DataSet);
-    tab->SetCutCollection(m_CutCollection);
-    tab->SetLabelCollection(m_LabelCollection);
+    if (m_Recording) {
+        tab->SetRecording(m_Recording);
+    } else {
+        tab->SetDataSet(m_DataSet);
+        tab->SetCutCollection(m_CutCollection);
+        tab->SetLabelCollection(m_LabelCollection);
+    }
     tab->SetLabel(label);
-    m_Tabs->addTab(tab, makePatch(label->GetColor()), tabText(label->GetName()));
-    enableButtons();
+    m_Tabs->insertTab(index, tab, makePatch(label->GetColor()), QString());
+}
+
+void LabeledDataTabWidget::removeTab(int index)
+{
+    ClassWidget* tab = classAt(index);
+    tab->SetLabel(nullptr);
+    m_Tabs->removeTab(index);
+    tab->deleteLater();
 }
 
 void LabeledDataTabWidget::removeTabs()
 {
-    while (m_Tabs->count() > 0) {
-        ClassWidget* tab = classAt(0);
-        tab->SetLabel(nullptr);
-        m_Tabs->removeTab(0);
-        tab->deleteLater();
-    }
+    while (m_Tabs->count() > 0)
+        removeTab(0);
     enableButtons();
 }
 
@@ -192,10 +222,9 @@ void LabeledDataTabWidget::addNewGroup()
 {
     if (!m_LabelCollection)
         return;
-    const QPointer<AddGroupDialog> dialog(new AddGroupDialog(AddGroupDialog::ADD_GROUP, this));
-    if (dialog->exec() == QDialog::Accepted && dialog && AddGroup(dialog->GetName()))
+    ModalDialog<AddGroupDialog> dialog(AddGroupDialog::ADD_GROUP, this);
+    if (dialog.IsAccepted() && AddGroup(dialog->GetName()))
         m_Tabs->setCurrentIndex(m_Tabs->count() - 1);
-    delete dialog;
 }
 
 void LabeledDataTabWidget::editGroup()
@@ -203,34 +232,31 @@ void LabeledDataTabWidget::editGroup()
     const QPointer<ClassWidget> edited(currentClass());
     if (!edited)
         return;
-    const QPointer<AddGroupDialog> dialog(new AddGroupDialog(AddGroupDialog::EDIT_GROUP, this));
+    ModalDialog<AddGroupDialog> dialog(AddGroupDialog::EDIT_GROUP, this);
     dialog->SetName(edited->GetLabel()->GetName());
-    if (dialog->exec() == QDialog::Accepted && dialog && edited && edited->GetLabel()) {
-        edited->GetLabel()->SetName(dialog->GetName());
-        m_Tabs->setTabText(m_Tabs->indexOf(edited), tabText(dialog->GetName()));
-    }
-    delete dialog;
+    if (!dialog.IsAccepted() || !edited || !edited->GetLabel())
+        return;
+    Labelling(m_CutCollection, m_LabelCollection)
+        .RenameBehavior(*edited->GetLabel(), dialog->GetName());
+    m_Tabs->setTabText(m_Tabs->indexOf(edited), tabText(dialog->GetName()));
+    if (m_Recording)
+        m_Recording->Tell(LiveRecording::LABELS);
 }
 
 void LabeledDataTabWidget::deleteGroup()
 {
     const QPointer<ClassWidget> deleted(currentClass());
     if (!deleted ||
-        QMessageBox::question(this, tr("Delete Group"),
-                              tr("Are you sure you want to delete the current group?")) !=
-            QMessageBox::Yes ||
+        !AskYesNo(this, tr("Delete Group"),
+                  tr("Are you sure you want to delete the current group?")) ||
         !deleted || !deleted->GetLabel())
         return;
-    BehaviorLabel* label = deleted->GetLabel();
-    deleted->SetLabel(nullptr);
-    for (int i = 0; i < label->GetInstanceCount(); ++i)
-        label->GetInstance(i)->GetSegment()->SetState(CutSegment::SEGMENT_CUT);
-    // The collection keeps the behaviour alive: other windows may show it.
-    m_LabelCollection->RemoveLabel(label);
-    m_Tabs->removeTab(m_Tabs->indexOf(deleted));
-    deleted->deleteLater();
+    Labelling(m_CutCollection, m_LabelCollection).RemoveBehavior(*deleted->GetLabel());
+    removeTab(m_Tabs->indexOf(deleted));
     enableButtons();
     emit SegmentsUpdated();
+    if (m_Recording)
+        m_Recording->TellLabels();
 }
 
 void LabeledDataTabWidget::statsGroup()
@@ -241,12 +267,10 @@ void LabeledDataTabWidget::statsGroup()
     const int attribute = AskAttribute(this, *m_DataSet);
     if (attribute == -1 || !shown || !shown->GetLabel())
         return;
-    const QPointer<BehaviorClassStatisticsWidget> statistics(
-        new BehaviorClassStatisticsWidget(m_DataSet, this));
+    ModalDialog<BehaviorClassStatisticsWidget> statistics(m_DataSet, this);
     statistics->SetBehavior(shown->GetLabel());
     statistics->SetAttribute(attribute);
-    statistics->exec();
-    delete statistics;
+    statistics.Run();
 }
 
 void LabeledDataTabWidget::exportGroup()

@@ -1,12 +1,10 @@
 #pragma once
 
+#include "liverecording.h"
+#include <QPointer>
 #include <QWidget>
 
-class BehaviorLabel;
 class ClassWidget;
-class CutCollection;
-class DataSet;
-class LabelCollection;
 class QHBoxLayout;
 class QPushButton;
 class QTabWidget;
@@ -18,9 +16,12 @@ class LabeledDataTabWidget : public QWidget
 public:
     explicit LabeledDataTabWidget(QWidget* parent = nullptr);
 
+    /// Shows the behaviours of a recording and follows its changes; null lets go of it.
+    void SetRecording(LiveRecording* recording);
+    /// The parts of a recording one by one, for a panel that nobody tells of changes. Each may be
+    /// null; another label collection takes all tabs away.
     void SetDataSet(DataSet* dataSet);
     void SetCutCollection(CutCollection* cuts);
-    /// Another collection takes all tabs away and starts with the first colour again.
     void SetLabelCollection(LabelCollection* labels);
     /// Makes a tab for each behaviour that is there now.
     void Rebuild();
@@ -46,12 +47,16 @@ signals:
 private:
     QLayout* makeButtons();
     void enableButtons();
-    void addTab(BehaviorLabel* label);
+    void synchronize();
+    void insertTab(int index, BehaviorLabel* label);
+    void removeTab(int index);
     void removeTabs();
+    int findTab(const BehaviorLabel* label) const;
     ClassWidget* classAt(int tab) const;
     /// The tab on top when it still shows a behaviour, else null.
     ClassWidget* currentClass() const;
 
+    QPointer<LiveRecording> m_Recording;
     DataSet* m_DataSet = nullptr;
     LabelCollection* m_LabelCollection = nullptr;
     CutCollection* m_CutCollection = nullptr;
@@ -59,6 +64,4 @@ private:
     QPushButton* m_AddButton = nullptr;
     // Those that act on the tab on top.
     QList<QPushButton*> m_GroupButtons;
-    // The colour of the next group.
-    int m_GroupCount = 0;
 };

@@ -3,41 +3,20 @@
 #include "behaviorchoice.h"
 #include "cutcollection.h"
 #include "labelcollection.h"
-#include "labelsegment.h"
 #include "multiplelineplotwidget.h"
 #include "panelbutton.h"
 #include "segmentviews.h"
-#include "tableresultwidget.h"
 #include "templatesearch.h"
-#include "usererror.h"
 #include <QGroupBox>
-#include <QLoggingCategory>
 #include <QPushButton>
-#include <QSet>
 #include <QVBoxLayout>
 
-namespace
-{
-
-Q_LOGGING_CATEGORY(results, "skerrymoor.results", QtWarningMsg)
-
-} // namespace
-
 ResultWidget::ResultWidget(QWidget* parent)
-    : QWidget(parent), m_Views(new SegmentViews), m_GraphOverlay(m_Views->GetOverlay()),
-      m_Table(m_Views->GetTable())
+    : SegmentPanel(tr("Results"), parent), m_SearchTools(makeSearchTools())
 {
-    auto* group = new QGroupBox(tr("Results"));
-    auto* inside = new QVBoxLayout(group);
-    inside->addWidget(m_Views, 1);
-    inside->addLayout(makeButtons());
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(4, 4, 4, 4);
-    layout->addWidget(group, 1);
-    m_SearchTools = makeSearchTools();
-    layout->addWidget(m_SearchTools);
+    groupLayout()->addLayout(makeButtons());
+    layout()->addWidget(m_SearchTools);
     enableSearches();
-    connectViews();
 }
 
 QLayout* ResultWidget::makeButtons()
@@ -88,25 +67,24 @@ QWidget* ResultWidget::makeSearchTools()
 
 void ResultWidget::enableSearches()
 {
-    m_SearchTools->setEnabled(m_DataSet && m_CutCollection);
+    m_SearchTools->setEnabled(dataSet() && cuts());
 }
 
 void ResultWidget::openTemplateSearch()
 {
-    if (m_DataSet && m_CutCollection && SearchTemplates(this, m_DataSet, m_CutCollection))
+    if (dataSet() && cuts() && SearchTemplates(this, dataSet(), cuts()))
         showNewResults();
 }
 
 void ResultWidget::openThresholdSearch()
 {
-    if (m_DataSet && m_CutCollection && SearchThresholds(this, m_DataSet, m_CutCollection))
+    if (dataSet() && cuts() && SearchThresholds(this, dataSet(), cuts()))
         showNewResults();
 }
 
 void ResultWidget::openRuleAssociationSearch()
 {
-    if (m_DataSet && m_CutCollection && m_LabelCollection &&
-        SearchRules(this, m_DataSet, m_CutCollection, m_LabelCollection))
+    if (dataSet() && cuts() && labels() && SearchRules(this, dataSet(), cuts(), labels()))
         showNewResults();
 }
 
@@ -116,100 +94,62 @@ void ResultWidget::showNewResults()
     emit SegmentsUpdated();
 }
 
-void ResultWidget::connectViews()
-{
-    connect(m_Views, &SegmentViews::AttributeChanged, this, &ResultWidget::changeAttribute);
-    connect(m_Table, &TableResultWidget::SegmentAccepted, this, &ResultWidget::acceptSegment);
-    connect(m_Table, &TableResultWidget::SegmentRejected, this, &ResultWidget::rejectSegment);
-    connect(m_Table, &TableResultWidget::SelectionRejected, this,
-            &ResultWidget::rejectSelectedResults);
-    connect(m_Table, &TableResultWidget::NewResultsFound, this, &ResultWidget::showNewResults);
-    connect(m_Table, &TableResultWidget::RemoveAndAddAll, this,
-            &ResultWidget::ClearAndUpdateSegments);
-    connect(m_Table, &TableResultWidget::RemoveAndAddAll, this, &ResultWidget::SegmentsMoved);
-    connect(m_Table, &TableResultWidget::RemoveAndAddAll, this, &ResultWidget::SegmentsUpdated);
-    connect(m_Table, &TableResultWidget::ShowSelected, this, &ResultWidget::ShowSelected);
-    connect(m_GraphOverlay, &MultipleLinePlotWidget::SegmentRejected, this,
-            &ResultWidget::rejectSegment);
-}
-
 void ResultWidget::SetDataSet(DataSet* dataSet)
 {
-    m_DataSet = dataSet;
-    m_Views->SetDataSet(dataSet);
+    SegmentPanel::SetDataSet(dataSet);
     enableSearches();
 }
 
 void ResultWidget::SetCutCollection(CutCollection* cuts)
 {
-    m_CutCollection = cuts;
-    m_Views->SetCutCollection(cuts);
+    SegmentPanel::SetCutCollection(cuts);
     enableSearches();
-}
-
-void ResultWidget::SetLabelCollection(LabelCollection* labels)
-{
-    m_LabelCollection = labels;
 }
 
 void ResultWidget::Rebuild()
 {
-    m_Views->Clear();
-    m_Views->RebuildAttributes();
+    views()->Clear();
+    views()->RebuildAttributes();
     ClearAndUpdateSegments();
-}
-
-void ResultWidget::AddAttribute(int index, const QString& name)
-{
-    m_Views->AddAttribute(index, name);
 }
 
 void ResultWidget::RemoveSegment(CutSegment* segment)
 {
-    m_Views->Remove({segment});
+    views()->Remove({segment});
 }
 
 void ResultWidget::ClearAndUpdateSegments()
 {
-    if (!m_DataSet || !m_CutCollection || !m_LabelCollection)
+    if (!dataSet() || !cuts() || !labels())
         return;
-    m_Views->Clear();
-    m_Views->BeginBulk();
-    for (CutSegment* segment : candidates())
-        m_Views->Add(segment, Qt::gray, Qt::black);
-    m_Views->EndBulk();
+    m_Refused.clear();
+    views()->Clear();
+    synchronize();
 }
 
-QList<CutSegment*> ResultWidget::candidates() const
+void ResultWidget::synchronize()
 {
-    QList<CutSegment*> found;
-    for (int i = 0; m_CutCollection && i < m_CutCollection->GetSegmentCount(); ++i) {
-        CutSegment* segment = m_CutCollection->GetSegment(i);
-        if (segment->GetState() == CutSegment::SEGMENT_RESULT)
-            found.append(segment);
+    std::vector<ShownSegment> shown;
+    for (CutSegment* segment : labelling().GetCandidates()) {
+        if (!m_Refused.contains(segment))
+            shown.push_back({segment, Qt::gray, Qt::black});
     }
-    return found;
+    views()->Show(shown);
 }
 
 void ResultWidget::changeAttribute(int attribute)
 {
-    m_Views->ShowAttribute(attribute);
+    views()->ShowAttribute(attribute);
 }
 
 void ResultWidget::updateResultPlot()
 {
-    m_GraphOverlay->RepaintLines();
+    views()->GetOverlay()->RepaintLines();
 }
 
 void ResultWidget::moveSelectedResults()
 {
-    if (!CheckBehaviors(m_LabelCollection, this))
-        return;
-    const QList<CutSegment*> selected = m_Table->SelectedSegments();
-    if (selected.isEmpty())
-        ShowUserError(this, tr("Move Labels"), tr("Error: No patterns selected."));
-    else
-        moveSegments(selected);
+    moveSelected();
 }
 
 void ResultWidget::acceptSegment(CutSegment* segment)
@@ -217,35 +157,28 @@ void ResultWidget::acceptSegment(CutSegment* segment)
     moveSegments({segment});
 }
 
-void ResultWidget::moveSegments(const QList<CutSegment*>& segments)
+// What is no candidate any more was decided on elsewhere.
+void ResultWidget::moveInto(BehaviorLabel& behavior, const QList<CutSegment*>& segments)
 {
-    BehaviorLabel* label = AskForBehavior(m_LabelCollection, this);
-    if (!label || !HasBehavior(m_LabelCollection, label))
-        return;
-    m_Views->Remove(segments);
-    // What is no candidate any more was decided on elsewhere.
-    const QList<CutSegment*> all = candidates();
-    const QSet<CutSegment*> undecided(all.begin(), all.end());
     for (CutSegment* segment : segments) {
-        if (undecided.contains(segment))
-            LabelSegment(*label, segment);
+        if (segment->GetState() == CutSegment::SEGMENT_RESULT && cuts()->Contains(segment))
+            labelling().Label(segment, behavior);
     }
-    endMove(label->GetName());
+    endMove(behavior.GetName());
 }
 
 void ResultWidget::moveAllResults()
 {
-    if (!CheckBehaviors(m_LabelCollection, this) || candidates().isEmpty())
+    if (!CheckBehaviors(labels(), this) || labelling().GetCandidates().isEmpty())
         return;
-    BehaviorLabel* label = AskForBehavior(m_LabelCollection, this);
-    if (!label || !HasBehavior(m_LabelCollection, label))
+    BehaviorLabel* behavior = AskForBehavior(labels(), this);
+    if (!behavior || !labels() || labels()->IndexOf(behavior) == -1)
         return;
-    m_Views->Clear();
-    QList<LabelInstance*> instances;
-    for (CutSegment* segment : candidates())
-        instances.append(MakeInstance(*label, segment));
-    label->AddLabels(instances);
-    endMove(label->GetName());
+    const LiveRecording::Hold hold(recording());
+    views()->Clear();
+    labelling().LabelAll(labelling().GetCandidates(), *behavior);
+    m_Refused.clear();
+    endMove(behavior->GetName());
 }
 
 void ResultWidget::endMove(const QString& behavior)
@@ -256,46 +189,29 @@ void ResultWidget::endMove(const QString& behavior)
 
 void ResultWidget::rejectSegment(CutSegment* segment)
 {
-    if (!sender()) {
-        qCDebug(results, "No view has sent the rejected segment");
-        return;
-    }
-    m_Views->RemoveFromOthers(segment, sender());
-    rejectCandidate(segment);
-    emit SegmentsUpdated();
+    if (isAnswer())
+        rejectInViews(segment);
 }
 
-void ResultWidget::rejectSelectedResults()
+// A row may still stand for a segment that was labelled elsewhere: that one stays.
+void ResultWidget::reject(const QList<CutSegment*>& segments)
 {
-    const QList<CutSegment*> selected = m_Table->SelectedSegments();
-    if (selected.isEmpty())
-        return;
-    m_Views->Remove(selected);
-    for (CutSegment* segment : selected)
-        rejectCandidate(segment);
+    putAside(labelling().Reject(segments));
     emit SegmentsUpdated();
-}
-
-void ResultWidget::rejectCandidate(CutSegment* segment)
-{
-    // A row may still stand for a segment that was labelled elsewhere: that one stays.
-    if (m_CutCollection && segment->GetState() == CutSegment::SEGMENT_RESULT)
-        m_CutCollection->RemoveSegment(segment);
 }
 
 void ResultWidget::removeAllResults()
 {
-    if (!m_CutCollection)
+    if (!cuts())
         return;
-    QList<CutSegment*> removed;
-    // The index is not set back after a removal: kept, the next press takes the rest.
-    for (int i = 0; i < m_CutCollection->GetSegmentCount(); ++i) {
-        CutSegment* segment = m_CutCollection->GetSegment(i);
-        if (segment->GetState() != CutSegment::SEGMENT_RESULT)
-            continue;
-        removed.append(segment);
-        m_CutCollection->RemoveSegment(segment);
-    }
-    m_Views->Remove(removed);
+    const LiveRecording::Hold hold(recording());
+    putAside(labelling().RejectAll());
+    synchronize();
     emit SegmentsUpdated();
+}
+
+void ResultWidget::putAside(const LabelChange& rejected)
+{
+    for (CutSegment* segment : rejected.m_Refused)
+        m_Refused.insert(segment);
 }

@@ -24,7 +24,7 @@ void SegmentTableModel::Add(CutSegment* segment, const QColor& color)
         return;
     if (!m_Bulk)
         beginInsertRows({}, rowCount(), rowCount());
-    m_Rows.push_back({segment, color, m_NextTicket});
+    m_Rows.push_back({segment, color, m_NextTicket, {segment->GetFrom(), segment->GetTo()}});
     m_Tickets.insert(segment, m_NextTicket++);
     if (!m_Bulk)
         endInsertRows();
@@ -93,6 +93,13 @@ int SegmentTableModel::FindRow(CutSegment* segment) const
     return int(found - m_Rows.begin());
 }
 
+bool SegmentTableModel::IsShownBy(int row, const ShownSegment& segment) const
+{
+    const Row& shown = m_Rows[size_t(row)];
+    return shown.m_Segment == segment.m_Segment && shown.m_Color == segment.m_RowColor &&
+           shown.m_Span == RowSpan{segment.m_Segment->GetFrom(), segment.m_Segment->GetTo()};
+}
+
 int SegmentTableModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : int(m_Rows.size());
@@ -128,5 +135,5 @@ QString SegmentTableModel::rowLabel(int row) const
     if (rows == 0)
         return QString::number(row);
     // A segment ends before its end row, which the last one of a recording does not even have.
-    return m_DataSet->GetRow(qBound(0, row, rows - 1))->GetLabel();
+    return m_DataSet->GetRowLabel(qBound(0, row, rows - 1));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "rowspan.h"
 #include <QAbstractTableModel>
 #include <QColor>
 #include <QHash>
@@ -8,6 +9,13 @@
 
 class CutSegment;
 class DataSet;
+
+/// A segment as a panel shows it: its row and its line each have a colour.
+struct ShownSegment {
+    CutSegment* m_Segment = nullptr;
+    QColor m_RowColor;
+    QColor m_LineColor;
+};
 
 /// The segments that a panel shows, one a row in the order of their adding, each at most once.
 ///
@@ -38,6 +46,8 @@ public:
     /// No bounds check.
     CutSegment* GetSegment(int row) const { return m_Rows[size_t(row)].m_Segment; }
     QColor GetColor(int row) const { return m_Rows[size_t(row)].m_Color; }
+    /// Whether a row stands for that segment as it is: in that colour, with the ends it has now.
+    bool IsShownBy(int row, const ShownSegment& segment) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -49,6 +59,8 @@ private:
         CutSegment* m_Segment;
         QColor m_Color;
         quint64 m_Ticket;
+        // When it was added: a line may have been made of it.
+        RowSpan m_Span;
     };
     void removeRow(int row);
     QString rowLabel(int row) const;

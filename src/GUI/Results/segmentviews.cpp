@@ -1,24 +1,16 @@
 #include "segmentviews.h"
 
+#include "attributebox.h"
 #include "cutsegment.h"
 #include "dataset.h"
 #include "multiplelineplotwidget.h"
 #include "tableresultwidget.h"
-#include <QComboBox>
 #include <QLabel>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
 namespace
 {
-
-QComboBox* makeChooser(const QString& toolTip)
-{
-    auto* chooser = new QComboBox;
-    chooser->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    chooser->setToolTip(toolTip);
-    return chooser;
-}
 
 QLabel* makeLabel(const QString& text, QWidget* buddy)
 {
@@ -30,14 +22,15 @@ QLabel* makeLabel(const QString& text, QWidget* buddy)
 } // namespace
 
 SegmentViews::SegmentViews(QWidget* parent)
-    : QWidget(parent), m_Attribute(makeChooser(tr("The attribute that the lines show"))),
-      m_Layout(makeChooser(tr("How the segments are shown"))), m_Stack(new QStackedWidget),
-      m_Table(new TableResultWidget), m_Overlay(new MultipleLinePlotWidget)
+    : QWidget(parent), m_Attribute(new AttributeBox(tr("The attribute that the lines show"))),
+      m_Layout(new QComboBox), m_Stack(new QStackedWidget), m_Table(new TableResultWidget),
+      m_Overlay(new MultipleLinePlotWidget)
 {
-    // Not the width of the longest entry, which can be any name.
-    m_Attribute->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_Attribute->setMinimumContentsLength(4);
+    m_Layout->setToolTip(tr("How the segments are shown"));
     m_Layout->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    for (QComboBox* chooser : {static_cast<QComboBox*>(m_Attribute), m_Layout})
+        chooser->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(makeChoosers());
@@ -45,8 +38,7 @@ SegmentViews::SegmentViews(QWidget* parent)
     AddLayout(tr("Sparkline Table"), m_Table);
     AddLayout(tr("Graph Overlay"), m_Overlay);
 
-    connect(m_Attribute, qOverload<int>(&QComboBox::currentIndexChanged), this,
-            &SegmentViews::sayAttribute);
+    connect(m_Attribute, &AttributeBox::AttributeChanged, this, &SegmentViews::AttributeChanged);
     connect(m_Layout, qOverload<int>(&QComboBox::currentIndexChanged), m_Stack,
             &QStackedWidget::setCurrentIndex);
 }
@@ -87,66 +79,59 @@ void SegmentViews::SetCutCollection(CutCollection* cuts)
 
 void SegmentViews::RebuildAttributes()
 {
-    const QSignalBlocker blocker(m_Attribute);
-    m_Attribute->clear();
-    for (int i = 0; m_DataSet && i < m_DataSet->GetAttributeCount(); ++i)
-        AddAttribute(i, m_DataSet->GetAttributeName(i));
-    sayAttribute();
+    m_Attribute->SetDataSet(m_DataSet);
 }
 
-void SegmentViews::AddAttribute(int index, const QString& name)
+void SegmentViews::UpdateAttributes()
 {
-    const int place = m_Attribute->findData(index);
-    if (place == -1)
-        m_Attribute->addItem(name, index);
-    else
-        m_Attribute->setItemText(place, name);
-}
-
-int SegmentViews::GetAttribute() const
-{
-    return m_Attribute->currentIndex() == -1 ? -1 : m_Attribute->currentData().toInt();
-}
-
-void SegmentViews::sayAttribute()
-{
-    emit AttributeChanged(GetAttribute());
+    m_Attribute->UpdateAttributes();
 }
 
 void SegmentViews::ShowAttribute(int attribute)
 {
-    const int place = m_Attribute->findData(attribute);
-    if (place == -1)
-        return;
     // Says so, and comes back here, when it is another one.
-    m_Attribute->setCurrentIndex(place);
+    m_Attribute->SetAttribute(attribute);
     m_Table->SetAttribute(attribute);
     m_Overlay->ChangeAttributeID(attribute);
 }
 
-void SegmentViews::Add(CutSegment* segment, const QColor& rowColor, const QColor& lineColor)
+void SegmentViews::Show(const std::vector<ShownSegment>& segments)
 {
+    const SegmentTableModel* rows = m_Table->GetModel();
+    QList<CutSegment*> gone;
+    auto next = segments.begin();
+    for (int row = 0; row < rows->rowCount(); ++row) {
+        if (next != segments.end() && rows->IsShownBy(row, *next))
+            ++next;
+        else
+            gone.append(rows->GetSegment(row));
+    }
+    if (gone.isEmpty() && next == segments.end())
+        return;
+    Remove(gone);
+    if (segments.end() - next > 1)
+        BeginBulk();
+    for (; next != segments.end(); ++next)
+        Add(*next);
+    EndBulk();
+}
+
+void SegmentViews::Add(const ShownSegment& shown)
+{
+    CutSegment* segment = shown.m_Segment;
     if (!segment || !m_DataSet || m_Table->Contains(segment))
         return;
-    m_Table->AddSegment(segment, rowColor);
-    const int attribute = GetAttribute();
+    m_Table->AddSegment(segment, shown.m_RowColor);
+    const int attribute = m_Attribute->GetAttribute();
     if (attribute >= 0 && attribute < m_DataSet->GetAttributeCount())
         m_Overlay->AddLine(m_DataSet, segment, attribute, segment->GetFrom(), segment->GetTo(),
-                           lineColor);
+                           shown.m_LineColor);
 }
 
 void SegmentViews::Remove(const QList<CutSegment*>& segments)
 {
     m_Table->RemoveSegments(segments);
     m_Overlay->RemoveCutSegments(segments);
-}
-
-void SegmentViews::RemoveFromOthers(CutSegment* segment, const QObject* sender)
-{
-    if (sender != m_Table)
-        m_Table->RemoveSegment(segment);
-    if (sender != m_Overlay)
-        m_Overlay->RemoveCutSegment(segment);
 }
 
 void SegmentViews::Clear()

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "segmenttablemodel.h"
 #include <QWidget>
 
+class AttributeBox;
 class CutCollection;
-class CutSegment;
 class DataSet;
 class MultipleLinePlotWidget;
 class QComboBox;
@@ -26,20 +27,19 @@ public:
     /// Another data set or collection takes all segments out.
     void SetDataSet(DataSet* dataSet);
     void SetCutCollection(CutCollection* cuts);
-    /// Offers the attributes of the data set anew.
+    /// Offers the attributes of the data set anew, the first one chosen.
     void RebuildAttributes();
-    void AddAttribute(int index, const QString& name);
-    /// -1 without attributes.
-    int GetAttribute() const;
+    /// Offers the attributes that there are now; the choice stays.
+    void UpdateAttributes();
     /// Makes all layouts show that attribute.
     void ShowAttribute(int attribute);
 
+    /// Shows these segments and no others; rows and lines that are right already stay.
+    void Show(const std::vector<ShownSegment>& segments);
     /// A segment that is there already is passed over.
-    void Add(CutSegment* segment, const QColor& rowColor, const QColor& lineColor);
+    void Add(const ShownSegment& segment);
     /// Segments that are not there are passed over.
     void Remove(const QList<CutSegment*>& segments);
-    /// Takes the segment out of the views, but for the one that says so itself.
-    void RemoveFromOthers(CutSegment* segment, const QObject* sender);
     void Clear();
     /// Between the two, the table is not brought up to date.
     void BeginBulk();
@@ -50,9 +50,8 @@ signals:
 
 private:
     QLayout* makeChoosers();
-    void sayAttribute();
 
-    QComboBox* m_Attribute;
+    AttributeBox* m_Attribute;
     QComboBox* m_Layout;
     QStackedWidget* m_Stack;
     TableResultWidget* m_Table;

@@ -3,6 +3,7 @@
 #include "cutcollection.h"
 #include "cutsegmentpushbutton.h"
 #include "dataset.h"
+#include "modaldialog.h"
 #include "patternsdataobject.h"
 #include "segmentresizedialog.h"
 #include "segmentresizewidget.h"
@@ -287,18 +288,16 @@ bool TableResultWidget::askForEnds(const CutSegment& segment, int& from, int& to
     if (!dataSet || !m_CutCollection ||
         !ResizeLimits(*m_CutCollection, &segment, dataSet->GetRowCount(), first, last))
         return false;
-    const QPointer<SegmentResizeDialog> dialog(new SegmentResizeDialog(this));
+    ModalDialog<SegmentResizeDialog> dialog(this);
     SegmentResizeWidget* ends = dialog->GetResizeWidget();
     ends->SetDataSet(dataSet);
     ends->SetAttribute(m_Model->GetAttribute());
     ends->SetLimits(first, last);
     ends->SetPlotRange(first, last);
     ends->SetSelection(from, to);
-    const bool isAccepted =
-        dialog->exec() == QDialog::Accepted && dialog && ends->GetSelection(from, to);
-    delete dialog;
     // The row, the segment or the recording may have gone meanwhile.
-    return isAccepted && dataSet == m_Model->GetDataSet() && m_CutCollection &&
+    return dialog.IsAccepted() && ends->GetSelection(from, to) &&
+           dataSet == m_Model->GetDataSet() && m_CutCollection &&
            m_CutCollection->Contains(&segment);
 }
 

@@ -1,35 +1,24 @@
 #include "templatesearch.h"
 
 #include "cutsegment.h"
+#include "modaldialog.h"
 #include "resultsearchoptiondialog.h"
 #include "ruleassociationwizard.h"
 #include "templatedialog.h"
 #include "templatewizard.h"
 #include "thresholdwizard.h"
-#include <QPointer>
+#include <optional>
 
 namespace
 {
 
-// On the heap: the parent may take the dialog with it.
-template <class Dialog, class... Arguments>
-bool runDialog(Arguments... arguments)
+// The state of the segments that the user wants to search; nothing when he cancels.
+std::optional<CutSegment::SEGMENT_STATE> askSearchMode(QWidget* parent)
 {
-    const QPointer<Dialog> dialog(new Dialog(arguments...));
-    const bool isAccepted = dialog->exec() == QDialog::Accepted && dialog;
-    delete dialog;
-    return isAccepted;
-}
-
-// The state of the segments that the user wants to search; false when he cancels.
-bool askSearchMode(QWidget* parent, int& mode)
-{
-    const QPointer<ResultSearchOptionDialog> dialog(new ResultSearchOptionDialog(parent));
-    const bool isAccepted = dialog->exec() == QDialog::Accepted && dialog;
-    if (isAccepted)
-        mode = dialog->GetSearchMode();
-    delete dialog;
-    return isAccepted;
+    ModalDialog<ResultSearchOptionDialog> dialog(parent);
+    if (!dialog.IsAccepted())
+        return std::nullopt;
+    return dialog->GetSearchMode();
 }
 
 } // namespace
@@ -37,36 +26,33 @@ bool askSearchMode(QWidget* parent, int& mode)
 std::unique_ptr<PatternsDataObject> SaveTemplate(QWidget* parent, DataSet* data, int from, int to)
 {
     CutSegment rows(from, to);
-    const QPointer<TemplateDialog> dialog(new TemplateDialog(data, &rows, parent));
-    std::unique_ptr<PatternsDataObject> pattern;
-    if (dialog->exec() == QDialog::Accepted && dialog)
-        pattern = dialog->TakePattern();
-    delete dialog;
-    return pattern;
+    ModalDialog<TemplateDialog> dialog(data, &rows, parent);
+    return dialog.IsAccepted() ? dialog->TakePattern() : nullptr;
 }
 
 bool SearchForRows(QWidget* parent, DataSet* data, CutCollection* cuts, int from, int to)
 {
     const auto pattern = SaveTemplate(parent, data, from, to);
-    return pattern && runDialog<TemplateWizard>(data, cuts, int(CutSegment::SEGMENT_CUT),
-                                                pattern.get(), parent);
+    return pattern &&
+           ModalDialog<TemplateWizard>(data, cuts, CutSegment::SEGMENT_CUT, pattern.get(), parent)
+               .IsAccepted();
 }
 
 bool SearchTemplates(QWidget* parent, DataSet* data, CutCollection* cuts)
 {
-    int mode = 0;
-    return askSearchMode(parent, mode) && runDialog<TemplateWizard>(data, cuts, mode, parent);
+    const auto mode = askSearchMode(parent);
+    return mode && ModalDialog<TemplateWizard>(data, cuts, *mode, parent).IsAccepted();
 }
 
 bool SearchThresholds(QWidget* parent, DataSet* data, CutCollection* cuts)
 {
-    int mode = 0;
-    return askSearchMode(parent, mode) && runDialog<ThresholdWizard>(data, cuts, mode, parent);
+    const auto mode = askSearchMode(parent);
+    return mode && ModalDialog<ThresholdWizard>(data, cuts, *mode, parent).IsAccepted();
 }
 
 bool SearchRules(QWidget* parent, DataSet* data, CutCollection* cuts, LabelCollection* labels)
 {
-    int mode = 0;
-    return askSearchMode(parent, mode) &&
-           runDialog<RuleAssociationWizard>(data, cuts, labels, mode, parent);
+    const auto mode = askSearchMode(parent);
+    return mode &&
+           ModalDialog<RuleAssociationWizard>(data, cuts, labels, *mode, parent).IsAccepted();
 }

@@ -8,8 +8,5 @@ class QWidget;
 /// there is no behaviour at all, which the user is told, or the parent went away meanwhile.
 BehaviorLabel* AskForBehavior(const LabelCollection* labels, QWidget* parent);
 
-/// False with a null collection, and for a behaviour that has left it.
-bool HasBehavior(const LabelCollection* labels, const BehaviorLabel* label);
-
 /// False, after telling the user, when there is no behaviour to move segments into.
 bool CheckBehaviors(const LabelCollection* labels, QWidget* parent);

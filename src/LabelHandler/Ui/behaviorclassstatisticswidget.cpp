@@ -1,6 +1,6 @@
 #include "behaviorclassstatisticswidget.h"
 
-#include "askpath.h"
+#include "askuser.h"
 #include "dataset.h"
 #include "instancecolumnswriter.h"
 #include "rangestatistics.h"

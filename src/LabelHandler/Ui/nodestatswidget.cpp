@@ -1,6 +1,6 @@
 #include "nodestatswidget.h"
 
-#include "askpath.h"
+#include "askuser.h"
 #include "dataset.h"
 #include "filewriter.h"
 #include "rangestatistics.h"

@@ -5,6 +5,7 @@
 #include "cuttablelineplot.h"
 #include "dataset.h"
 #include "lineplotwidget.h"
+#include "openwindow.h"
 #include "pixelmath.h"
 #include "plotlook.h"
 #include "segmentpainter.h"
@@ -31,6 +32,22 @@ CuttableLinePlotWidget::CuttableLinePlotWidget(QWidget* parent)
 }
 
 CuttableLinePlotWidget::~CuttableLinePlotWidget() = default;
+
+void CuttableLinePlotWidget::SetRecording(LiveRecording* recording)
+{
+    if (m_Recording)
+        m_Recording->disconnect(this);
+    m_Recording = recording;
+    SetDataSet(DataOf(recording));
+    SetCutCollection(CutsOf(recording));
+    SetLabelCollection(LabelsOf(recording));
+    if (!recording)
+        return;
+    connect(recording, &LiveRecording::SegmentsChanged, this,
+            &CuttableLinePlotWidget::UpdateCutViz);
+    connect(recording, &LiveRecording::AttributesChanged, this,
+            &CuttableLinePlotWidget::ResetVerticalAxes);
+}
 
 void CuttableLinePlotWidget::SetDataSet(DataSet* dataSet)
 {
@@ -295,12 +312,10 @@ void CuttableLinePlotWidget::zoomOnSelection(const CutSegment&)
 void CuttableLinePlotWidget::openPlot(const CutSegment& segment)
 {
     auto* window = new LinePlotWidget(0);
-    window->setAttribute(Qt::WA_DeleteOnClose);
     window->SetDataSet(m_DataSet);
     window->SetRange(segment.GetFrom(), segment.GetTo());
     window->resize(600, 300);
-    emit WindowOpened(window);
-    window->show();
+    OpenWindow(window, this, m_Recording ? m_Recording->shared_from_this() : nullptr);
 }
 
 void CuttableLinePlotWidget::paintEvent(QPaintEvent* event)

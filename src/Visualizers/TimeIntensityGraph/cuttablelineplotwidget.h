@@ -1,10 +1,11 @@
 #pragma once
 
+#include "liverecording.h"
 #include "plotareawidget.h"
 #include "rubberband.h"
+#include <QPointer>
 
 class CutSegment;
-class LabelCollection;
 class QDrag;
 class QMenu;
 
@@ -18,6 +19,8 @@ public:
     explicit CuttableLinePlotWidget(QWidget* parent = nullptr);
     ~CuttableLinePlotWidget() override;
 
+    /// Shows a recording without plots and follows its changes; null shows none.
+    void SetRecording(LiveRecording* recording);
     void SetDataSet(DataSet* dataSet) override;
     void SetLabelCollection(LabelCollection* labels) { m_LabelCollection = labels; }
 
@@ -36,8 +39,6 @@ signals:
     void MoveActionRequested();
     void SaveActionRequested();
     void SearchActionRequested();
-    /// A window was opened that shows the present data set until it is closed.
-    void WindowOpened(QWidget* window);
 
 public slots:
     void AddPlot(int attributeID) override;
@@ -87,6 +88,7 @@ private:
     void paintSelection(QPainter& painter) const;
     void paintOverlay(QPainter& painter) const;
 
+    QPointer<LiveRecording> m_Recording;
     LabelCollection* m_LabelCollection = nullptr;
     // The row of the last context menu, which the keys move by 5; -1 without one.
     int m_SelectedIndex = -1;

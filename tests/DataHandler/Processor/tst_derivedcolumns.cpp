@@ -1,6 +1,7 @@
 #include "columnarithmetic.h"
 #include "correlation.h"
 #include "derivative.h"
+#include "elevationangle.h"
 #include "energy.h"
 #include "movingaverage.h"
 #include "normalize.h"
@@ -17,32 +18,41 @@
 namespace
 {
 
+using Values = std::vector<double>;
+
 constexpr double missing = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
 // Not-a-number equals itself, infinities have their sign, all else is as near as the tolerance.
-void compareColumns(const Column& actual, const Column& expected, double tolerance = 0)
+void compareColumns(ConstSpan<double> actual, const Values& expected, double tolerance = 0)
 {
-    QCOMPARE(actual.size(), expected.size());
-    for (size_t row = 0; row < actual.size(); ++row) {
-        if (std::isfinite(expected[row]) && std::abs(actual[row] - expected[row]) <= tolerance)
+    QCOMPARE(actual.size(), int(expected.size()));
+    for (int row = 0; row < actual.size(); ++row) {
+        const double wanted = expected[size_t(row)];
+        if (std::isfinite(wanted) && std::abs(actual[row] - wanted) <= tolerance)
             continue;
         QCOMPARE(qMakePair(row, QString::number(actual[row], 'g', 17)),
-                 qMakePair(row, QString::number(expected[row], 'g', 17)));
+                 qMakePair(row, QString::number(wanted, 'g', 17)));
     }
 }
 
-Column noise(size_t rows, double level)
+// Single numbers.
+void compareNumbers(const Values& actual, const Values& expected, double tolerance = 0)
+{
+    compareColumns(actual, expected, tolerance);
+}
+
+Values noise(size_t rows, double level)
 {
     std::mt19937 random(7);
     std::normal_distribution<double> wiggle;
-    Column values(rows);
+    Values values(rows);
     for (double& value : values)
         value = level + wiggle(random);
     return values;
 }
 
-double directSum(const Column& values, int from, int to)
+double directSum(const Values& values, int from, int to)
 {
     return double(std::accumulate(values.begin() + from, values.begin() + to, 0.0L));
 }
@@ -67,6 +77,7 @@ private slots:
     void arithmetic();
     void derivativeLeavesRaggedRows();
     void normalizeEqualValues();
+    void elevationAngles();
     void whaleAngles();
     void whaleNumbers();
     void rotation();
@@ -75,8 +86,8 @@ private slots:
 
 void TestDerivedColumns::windowsInClosedForm()
 {
-    const Column values{1, 2, 4, 8, 16};
-    compareColumns(MovingAverage({1, -2, 0}, 0), {infinity, -infinity, missing});
+    const Values values{1, 2, 4, 8, 16};
+    compareColumns(MovingAverage(Values{1, -2, 0}, 0), {infinity, -infinity, missing});
     compareColumns(MovingAverage(values, 2), {1, 3.5, 7, 14, 16});
     compareColumns(MovingAverage(values, 5), {1, 2, 31.0 / 5, 8, 16});
     compareColumns(MovingAverage(values, 6), values);
@@ -85,21 +96,21 @@ void TestDerivedColumns::windowsInClosedForm()
 
 void TestDerivedColumns::windowsAsDirectSums()
 {
-    Column all = noise(1000, 1e6);
+    Values all = noise(1000, 1e6);
     all[300] = missing;
     all[420] = infinity;
     all[440] = -infinity;
     for (const int window : {-3, 0, 1, 2, 7, 32, 101, 998, 1001, 1'000'000'000}) {
         for (const int rows : {0, 1, 2, 7, 421, 1000}) {
-            const Column values(all.begin(), all.begin() + rows);
+            const Values values(all.begin(), all.begin() + rows);
             const int half = std::clamp(window / 2, 0, rows);
-            Column averages = values;
+            Values averages = values;
             for (int row = half; row < rows - half; ++row)
                 averages[size_t(row)] = directSum(values, row - half, row + half + 1) / window;
             // An average by an even window may be half as much again as a value.
             compareColumns(MovingAverage(values, window), averages, 1e-12 * 1e6);
 
-            Column energies(values.size(), 0.0);
+            Values energies(values.size(), 0.0);
             for (int row = 0; row < rows; ++row) {
                 for (int i = std::max(row - half, 0); i < std::min(row + half, rows); ++i)
                     energies[size_t(row)] += values[size_t(i)] * values[size_t(i)];
@@ -111,10 +122,10 @@ void TestDerivedColumns::windowsAsDirectSums()
 
 void TestDerivedColumns::averageDoesNotDrift()
 {
-    const Column values = noise(2'000'000, 1e6);
-    const Column averages = MovingAverage(values, 2001);
+    const Values values = noise(2'000'000, 1e6);
+    const DataColumn averages = MovingAverage(values, 2001);
     for (int row = 1000; row < int(values.size()) - 1000; row += 997)
-        compareColumns({averages[size_t(row)]}, {directSum(values, row - 1000, row + 1001) / 2001},
+        compareNumbers({averages[row]}, {directSum(values, row - 1000, row + 1001) / 2001},
                        1e-12 * 1e6);
 }
 
@@ -133,18 +144,17 @@ void TestDerivedColumns::arithmetic()
 void TestDerivedColumns::derivativeLeavesRaggedRows()
 {
     // By the number of rows. In the last row the next column slides into the derivative's place.
-    const Column slopes[] = {{}, {0}, {0, 7}, {0, 5, 7}};
-    const Column next[] = {{}, {7}, {3, missing}, {3, 7, missing}};
-    for (const size_t rows : {0U, 1U, 2U, 3U}) {
+    const Values slopes[] = {{}, {0}, {0, 7}, {0, 5, 7}};
+    const Values next[] = {{}, {7}, {3, missing}, {3, 7, missing}};
+    for (const int rows : {0, 1, 2, 3}) {
         const std::array<double, 3> values{1, 4, 9};
         const auto data = MakeColumn({values.begin(), values.begin() + rows});
-        const Column differences = ForwardDifferences(*data, 0);
+        DataColumn differences = ForwardDifferences(*data, 0);
         data->AddAttribute(QStringLiteral("slope"), ATTRIBUTE_OTHER);
-        AppendDerivative(*data, differences);
-        data->AddAttribute(QStringLiteral("next"), ATTRIBUTE_OTHER);
-        AppendColumn(*data, Column(rows, 7));
-        compareColumns(data->CopyColumn(1), slopes[rows]);
-        compareColumns(data->CopyColumn(2), next[rows]);
+        AppendDerivative(*data, std::move(differences));
+        data->AddColumn(QStringLiteral("next"), ATTRIBUTE_OTHER, DataColumn(rows, 7));
+        compareColumns(data->GetColumn(1), slopes[rows]);
+        compareColumns(data->GetColumn(2), next[rows]);
     }
 }
 
@@ -152,24 +162,51 @@ void TestDerivedColumns::normalizeEqualValues()
 {
     // Three times 0.1 is not 0.3, and the mean taken from it is not 0.1.
     for (const size_t rows : {1U, 3U, 1000U})
-        compareColumns(Normalize(Column(rows, 0.1)), Column(rows, missing));
+        compareColumns(Normalize(Values(rows, 0.1)), Values(rows, missing));
     compareColumns(Normalize({}), {});
-    compareColumns(Normalize({1, infinity}), {missing, missing});
-    compareColumns(Normalize({1e8 + 1, 1e8 - 1}), {1, -1});
+    compareColumns(Normalize(Values{1, infinity}), {missing, missing});
+    compareColumns(Normalize(Values{1e8 + 1, 1e8 - 1}), {1, -1});
+}
+
+// The standard library's arc tangent knows the angles; two units in the last place are allowed.
+void TestDerivedColumns::elevationAngles()
+{
+    const auto check = [](double rise, double run) {
+        const double expected = std::atan2(rise, run);
+        const double angle = ElevationAngle(rise, run);
+        QCOMPARE(std::signbit(angle), std::signbit(expected));
+        compareNumbers({angle}, {expected}, std::abs(expected) * 4.5e-16);
+    };
+    const double tan1 = std::tan(std::atan(1.0) / 2);
+    for (const double rise : {0.0, 1.0, 1e-300, tan1, 1 / tan1, 1e150, infinity}) {
+        for (const double run : {0.0, 1.0, 1e-300, tan1, 1e150}) {
+            check(rise, run);
+            check(-rise, run);
+        }
+        QCOMPARE(ElevationAngle(rise, infinity), rise == infinity ? std::atan(1.0) : 0.0);
+    }
+    compareNumbers({ElevationAngle(missing, 1), ElevationAngle(1, missing)}, {missing, missing});
+    std::mt19937 random(5);
+    std::normal_distribution<double> wiggle;
+    for (int i = 0; i < 100000; ++i)
+        check(wiggle(random), std::ldexp(std::abs(wiggle(random)), i % 40 - 20));
 }
 
 void TestDerivedColumns::whaleAngles()
 {
     const auto data = whale();
     QCOMPARE(data->GetRowCount(), 24);
-    const std::vector<Column> angles = PitchAndRoll(*data, {0, 1, 2});
+    const std::vector<DataColumn> angles = PitchAndRoll(*data, {0, 1, 2});
     // The publishers' pitch is the angle of the x axis, the roll turns about that axis; they give
     // five decimals.
     constexpr double degrees = 180 / 3.141592653589793;
-    const Column pitch = DeriveColumn(*data, [](const double* row) {
-        return std::asin(-std::cos(row[3]) * std::sin(row[4])) * degrees;
-    });
-    const Column roll = DeriveColumn(*data, [](const double* row) { return row[3] * degrees; });
+    Values pitch;
+    Values roll;
+    for (int row = 0; row < 24; ++row) {
+        const double turn = data->GetValue(row, 3);
+        pitch.push_back(std::asin(-std::cos(turn) * std::sin(data->GetValue(row, 4))) * degrees);
+        roll.push_back(turn * degrees);
+    }
     compareColumns(angles.at(0), pitch, 2e-3);
     compareColumns(angles.at(1), roll, 2e-3);
 }
@@ -178,14 +215,14 @@ void TestDerivedColumns::whaleAngles()
 void TestDerivedColumns::whaleNumbers()
 {
     const auto data = whale();
-    compareColumns({Vedba(*data, {0, 1, 2})[5]}, {0.849005630619366}, 1e-15);
-    const std::vector<Column> unit = NormalizeVector(*data, {0, 1, 2});
-    compareColumns({unit[0][5], unit[1][5], unit[2][5]},
+    compareNumbers({Vedba(*data, {0, 1, 2})[5]}, {0.849005630619366}, 1e-15);
+    const std::vector<DataColumn> unit = NormalizeVector(*data, {0, 1, 2});
+    compareNumbers({unit[0][5], unit[1][5], unit[2][5]},
                    {0.8352829813957214, 0.16362670063972473, -0.524908185005188});
-    const Column normalized = Normalize(data->CopyColumn(0));
-    compareColumns({normalized[0], normalized[5], normalized[23]},
+    const DataColumn normalized = Normalize(data->GetColumn(0));
+    compareNumbers({normalized[0], normalized[5], normalized[23]},
                    {0.1061678618890562, 1.1128229205318818, -0.13587444900303944}, 1e-14);
-    compareColumns({CorrelateRanges(*data, 0, 2, 12, 10, 20)}, {-0.4744299801172578}, 1e-14);
+    compareNumbers({CorrelateRanges(*data, 0, 2, 12, 10, 20)}, {-0.4744299801172578}, 1e-14);
     compareColumns(NormalizeVector(*MakeDataSet("0\n"), {0, 0, 0})[2], {missing});
 }
 
@@ -194,7 +231,7 @@ void TestDerivedColumns::rotation()
 {
     const auto data = MakeDataSet("1 2 3 30 50\n0.70916 0.13892 -0.44565 30 50\n1 2 3 -400 90\n"
                                   "1 2 3 0 0\n1 2 3 nan 0\n");
-    const std::vector<Column> turned = RotateVector(*data, {0, 1, 2}, 3, 4);
+    const std::vector<DataColumn> turned = RotateVector(*data, {0, 1, 2}, 3, 4);
     compareColumns(turned[0], {3.3990738973123324, 0.21339828230286306, 1.0125581099838568, 1, 1},
                    1e-6);
     compareColumns(turned[1],
@@ -208,15 +245,15 @@ void TestDerivedColumns::correlation()
     const auto correlate = [&](int startA, int endA, int startB, int endB) {
         return CorrelateRanges(*data, 0, startA, endA, startB, endB);
     };
-    compareColumns({correlate(0, 3, 0, 3), correlate(0, 3, 3, 6)}, {1, -1}, 1e-15);
+    compareNumbers({correlate(0, 3, 0, 3), correlate(0, 3, 3, 6)}, {1, -1}, 1e-15);
     // Equal values, 0.1 among them, a missing value, and no values at all.
-    compareColumns({correlate(0, 3, 6, 9), correlate(9, 12, 0, 3), correlate(0, 3, 10, 13),
+    compareNumbers({correlate(0, 3, 6, 9), correlate(9, 12, 0, 3), correlate(0, 3, 10, 13),
                     correlate(2, 2, 4, 4)},
-                   Column(4, missing));
+                   Values(4, missing));
     // Unequal lengths, beyond both ends, reversed, no such attribute.
-    compareColumns({correlate(0, 3, 0, 2), correlate(0, 3, 11, 14), correlate(-1, 2, 0, 3),
+    compareNumbers({correlate(0, 3, 0, 2), correlate(0, 3, 11, 14), correlate(-1, 2, 0, 3),
                     correlate(3, 0, 6, 3), CorrelateRanges(*data, 1, 0, 3, 0, 3)},
-                   Column(5, 0));
+                   Values(5, 0));
 }
 
 QTEST_APPLESS_MAIN(TestDerivedColumns)

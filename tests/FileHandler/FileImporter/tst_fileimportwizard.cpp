@@ -165,7 +165,7 @@ void TestFileImportWizard::importByHand()
     }
     finish();
     QVERIFY(isAccepted());
-    const std::unique_ptr<DataSet> data(m_Wizard->GetDataSet());
+    const std::unique_ptr<DataSet> data = m_Wizard->TakeDataSet();
     QCOMPARE(attributes(*data), QStringLiteral("Surge:14 Acc_Y:3 Acc_Z:4 Comp_X:11 Comp_Y:12 "
                                                "Comp_Z:13 TG_Presure:14"));
     QCOMPARE(data->GetRowCount(), 12);
@@ -307,9 +307,9 @@ void TestFileImportWizard::importGoesBackToFirstPreset()
 void TestFileImportWizard::loggerPage()
 {
     const QString path = writeFile(csvLines(60, 13));
-    DataSet* slot = nullptr;
+    std::unique_ptr<DataSet> data;
     QWizard wizard;
-    wizard.addPage(new FileSpecWizardPage(&slot));
+    wizard.addPage(new FileSpecWizardPage(&data));
     wizard.show();
     ModalScript user;
     user.PickFile(path);
@@ -326,7 +326,6 @@ void TestFileImportWizard::loggerPage()
     clickHeader(&wizard, 0);
     ClickButton(&wizard, QStringLiteral("Finish"));
     QCOMPARE(wizard.result(), int(QDialog::Accepted));
-    const std::unique_ptr<DataSet> data(slot);
     QCOMPARE(data->GetAttributeName(0), QStringLiteral("Surge"));
     QCOMPARE(data->GetAttributeName(12), QStringLiteral("TG_Unknown13"));
     QCOMPARE(data->m_SamplingRate, 40);

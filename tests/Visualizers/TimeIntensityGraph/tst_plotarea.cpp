@@ -26,7 +26,7 @@ std::unique_ptr<DataSet> makeRecording(int rows)
         auto* row = new DataRow;
         for (int j = 0; j < 3; ++j)
             row->AddValue((i * 7 + j) % 11);
-        row->SetNumberLabel(i + 1);
+        row->SetLabel(QString::number(i + 1));
         data->AddRow(row);
     }
     data->ComputeRanges();

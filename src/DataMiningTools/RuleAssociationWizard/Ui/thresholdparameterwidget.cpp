@@ -18,7 +18,7 @@ constexpr double step = 0.1;
 
 ThresholdParameterWidget::ThresholdParameterWidget(const DataSet* dataSet, QWidget* parent)
     : QWidget(parent), m_Operator(new QComboBox),
-      m_Attribute(MakeAttributeBox(dataSet, tr("The attribute whose values are compared"))),
+      m_Attribute(new AttributeBox(dataSet, tr("The attribute whose values are compared"))),
       m_Value(new QDoubleSpinBox)
 {
     // In the order of ThresholdParameter::Operator.

@@ -30,7 +30,8 @@ QLabel* makeText()
 
 } // namespace
 
-TemplateMatcherPage::TemplateMatcherPage(DataSet* dataSet, CutCollection* cuts, int searchMode,
+TemplateMatcherPage::TemplateMatcherPage(DataSet* dataSet, CutCollection* cuts,
+                                         CutSegment::SEGMENT_STATE searchMode,
                                          const QList<int>* patternIds, ResultFilterPage* resultPage,
                                          QWidget* parent)
     : TemplateSearchPage(dataSet, cuts, searchMode, patternIds, parent), m_ResultPage(resultPage),

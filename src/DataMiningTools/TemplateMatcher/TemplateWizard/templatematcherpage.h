@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cutsegment.h"
 #include "templatesearchpage.h"
 
 class PlotAreaWidget;
@@ -18,7 +19,7 @@ class TemplateMatcherPage : public TemplateSearchPage
     Q_OBJECT
 public:
     /// resultPage: the page that follows.
-    TemplateMatcherPage(DataSet* dataSet, CutCollection* cuts, int searchMode,
+    TemplateMatcherPage(DataSet* dataSet, CutCollection* cuts, CutSegment::SEGMENT_STATE searchMode,
                         const QList<int>* patternIds, ResultFilterPage* resultPage,
                         QWidget* parent = nullptr);
 

@@ -11,7 +11,8 @@
 #include <QInputDialog>
 #include <QWizard>
 
-TemplateSearchPage::TemplateSearchPage(DataSet* dataSet, CutCollection* cuts, int searchMode,
+TemplateSearchPage::TemplateSearchPage(DataSet* dataSet, CutCollection* cuts,
+                                       CutSegment::SEGMENT_STATE searchMode,
                                        const QList<int>* patternIds, QWidget* parent)
     : QWizardPage(parent), m_DataSet(dataSet), m_CutCollection(cuts), m_SearchMode(searchMode),
       m_PatternIds(patternIds)
@@ -74,11 +75,11 @@ bool TemplateSearchPage::askAttributes()
 void TemplateSearchPage::search()
 {
     auto matcher = std::make_unique<TemplateMatcher>(m_DataSet, m_Pattern.get(), 0, m_Measure);
+    // Nobody can cancel it, though the matcher could stop: the page would have nothing to show.
     DialogProgress progress(this, tr("Template Matcher"));
     progress.SetLabelText(tr("Initalizing Template Matcher"));
     progress.SetRange(0, 2);
-    if (!matcher->Convolve(progress, m_AttributeMap, m_CutCollection,
-                           CutSegment::SEGMENT_STATE(m_SearchMode))) {
+    if (!matcher->Convolve(progress, m_AttributeMap, m_CutCollection, m_SearchMode)) {
         ShowUserError(this, tr("Error"), tr("Error:") + matcher->getErrorMessage());
         return;
     }

@@ -1,12 +1,13 @@
 #include "addcollectionform.h"
 
+#include "askuser.h"
 #include "databasemessages.h"
 #include "dialogbuttons.h"
 #include "usererror.h"
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
+#include <QPointer>
 
 AddCollectionForm::AddCollectionForm(std::unique_ptr<CollectionsDataObject> collection,
                                      QWidget* parent)
@@ -48,10 +49,11 @@ void AddCollectionForm::save()
         ShowDatabaseError(this, tr("Error: The collection was not stored."));
         return;
     }
+    const QPointer<AddCollectionForm> self(this);
     if (isNew)
-        QMessageBox::information(this, tr("Collection Added"), tr("Collection succesfully added"));
+        TellUser(this, tr("Collection Added"), tr("Collection succesfully added"));
     else
-        QMessageBox::information(this, tr("Collection Updated"),
-                                 tr("Collection succesfully updated"));
-    QDialog::accept();
+        TellUser(this, tr("Collection Updated"), tr("Collection succesfully updated"));
+    if (self)
+        QDialog::accept();
 }

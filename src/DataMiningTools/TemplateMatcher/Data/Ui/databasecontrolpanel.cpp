@@ -3,6 +3,7 @@
 #include "addcollectionform.h"
 #include "databasemessages.h"
 #include "databasequery.h"
+#include "modaldialog.h"
 #include "templaterows.h"
 #include "viewpatternform.h"
 #include <QLabel>
@@ -74,10 +75,10 @@ void DatabaseControlPanel::populatePatternsList(QListWidgetItem* collection)
 
 void DatabaseControlPanel::addCollection()
 {
-    AddCollectionForm form(nullptr, this);
-    form.setWindowTitle(tr("Add Collection"));
-    connect(&form, &QDialog::accepted, this, &DatabaseControlPanel::populateListWidget);
-    form.exec();
+    ModalDialog<AddCollectionForm> form(nullptr, this);
+    form->setWindowTitle(tr("Add Collection"));
+    connect(form.Get(), &QDialog::accepted, this, &DatabaseControlPanel::populateListWidget);
+    form.Run();
 }
 
 void DatabaseControlPanel::editCollection()
@@ -90,10 +91,10 @@ void DatabaseControlPanel::editCollection()
         ShowDatabaseError(this, tr("Error: The collection can't be read."));
         return;
     }
-    AddCollectionForm form(std::move(stored), this);
-    form.setWindowTitle(tr("Edit Collection"));
-    connect(&form, &QDialog::accepted, this, &DatabaseControlPanel::populateListWidget);
-    form.exec();
+    ModalDialog<AddCollectionForm> form(std::move(stored), this);
+    form->setWindowTitle(tr("Edit Collection"));
+    connect(form.Get(), &QDialog::accepted, this, &DatabaseControlPanel::populateListWidget);
+    form.Run();
 }
 
 void DatabaseControlPanel::deleteCollection()
@@ -113,8 +114,10 @@ void DatabaseControlPanel::viewPattern()
         ShowDatabaseError(this, tr("Error: The pattern can't be read."));
         return;
     }
-    ViewPatternForm(std::move(pattern), this).exec();
-    populatePatternsList(m_Collections->GetCurrentItem());
+    const QPointer<DatabaseControlPanel> self(this);
+    ModalDialog<ViewPatternForm>(std::move(pattern), this).Run();
+    if (self)
+        populatePatternsList(m_Collections->GetCurrentItem());
 }
 
 void DatabaseControlPanel::deletePattern()
@@ -122,4 +125,9 @@ void DatabaseControlPanel::deletePattern()
     if (DeleteCurrentRow(*m_Patterns, &PatternsDataObject::DeletePattern, tr("Pattern Deleted"),
                          tr("Pattern succesfully deleted")))
         populatePatternsList(m_Collections->GetCurrentItem());
+}
+
+void ShowTemplateDatabase(const SharedRecording&, QWidget* parent)
+{
+    ModalDialog<DatabaseControlPanel>(parent).Run();
 }

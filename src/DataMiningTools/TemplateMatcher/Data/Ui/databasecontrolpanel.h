@@ -1,5 +1,6 @@
 #pragma once
 
+#include "liverecording.h"
 #include <QDialog>
 
 class QListWidgetItem;
@@ -32,3 +33,6 @@ private:
     RowList* m_Collections;
     RowList* m_Patterns;
 };
+
+/// Shows the template database, which belongs to no recording.
+void ShowTemplateDatabase(const SharedRecording& recording, QWidget* parent);

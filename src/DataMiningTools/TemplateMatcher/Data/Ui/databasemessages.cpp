@@ -1,9 +1,11 @@
 #include "databasemessages.h"
 
+#include "askuser.h"
 #include "databasequery.h"
 #include "rowlist.h"
 #include "usererror.h"
 #include <QMessageBox>
+#include <QPointer>
 
 void ShowDatabaseError(QWidget* parent, const QString& text)
 {
@@ -23,6 +25,7 @@ bool DeleteCurrentRow(const RowList& list, bool (*deleteRow)(int id), const QStr
         ShowDatabaseError(list.window(), QMessageBox::tr("Error: Nothing was deleted."));
         return false;
     }
-    QMessageBox::information(list.window(), title, text);
-    return true;
+    const QPointer<QWidget> window(list.window());
+    TellUser(window, title, text);
+    return window;
 }

@@ -1,5 +1,6 @@
 #include "templatedialog.h"
 
+#include "askuser.h"
 #include "collectionsdataobject.h"
 #include "cutsegment.h"
 #include "databasemessages.h"
@@ -7,6 +8,7 @@
 #include "dataset.h"
 #include "dialogbuttons.h"
 #include "lineplotwidget.h"
+#include "modaldialog.h"
 #include "signalresampling.h"
 #include "signalresamplingform.h"
 #include "usererror.h"
@@ -14,7 +16,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLineEdit>
-#include <QMessageBox>
+#include <QPointer>
 #include <QScrollArea>
 #include <QSpinBox>
 
@@ -151,10 +153,10 @@ bool TemplateDialog::checkInput(const PatternRequest& request)
 
 bool TemplateDialog::askFactors(PatternRequest& request)
 {
-    SignalResamplingForm form(this);
-    if (form.exec() != QDialog::Accepted)
+    ModalDialog<SignalResamplingForm> form(this);
+    if (!form.IsAccepted())
         return false;
-    request.m_Factors = form.GetFactors();
+    request.m_Factors = form->GetFactors();
     return true;
 }
 
@@ -177,8 +179,9 @@ void TemplateDialog::addTemplate()
         ShowDatabaseError(this, tr("Error: The template was not stored."));
         return;
     }
-    QMessageBox::information(this, tr("Pattern Added"),
-                             tr("Pattern succesfully uploaded to database"));
     m_Pattern = std::move(pattern);
-    QDialog::accept();
+    const QPointer<TemplateDialog> self(this);
+    TellUser(this, tr("Pattern Added"), tr("Pattern succesfully uploaded to database"));
+    if (self)
+        QDialog::accept();
 }

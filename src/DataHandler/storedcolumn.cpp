@@ -1,0 +1,24 @@
+#include "storedcolumn.h"
+
+DataColumn& StoredColumn::ChangeValues()
+{
+    m_HasChanged = true;
+    m_Summary.reset();
+    return m_Values;
+}
+
+void StoredColumn::Update()
+{
+    if (!m_HasChanged)
+        return;
+    m_Range = ComputeValueRange(m_Values);
+    m_Summary.reset();
+    m_HasChanged = false;
+}
+
+const ColumnSummary& StoredColumn::GetSummary() const
+{
+    if (!m_Summary)
+        m_Summary = std::make_unique<const ColumnSummary>(m_Values);
+    return *m_Summary;
+}

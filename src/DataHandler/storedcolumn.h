@@ -1,0 +1,36 @@
+#pragma once
+
+#include "columnsummary.h"
+#include "datacolumn.h"
+#include "valuerange.h"
+#include <memory>
+
+/// A column together with what is known about its values.
+class StoredColumn
+{
+public:
+    explicit StoredColumn(DataColumn&& values) : m_Values(std::move(values)) {}
+
+    const DataColumn& GetValues() const { return m_Values; }
+    double GetValue(int row) const { return m_Values[row]; }
+    /// Range and summary know of the new value after the next Update only.
+    void SetValue(int row, double value)
+    {
+        m_Values[row] = value;
+        m_HasChanged = true;
+    }
+    /// For whoever changes many values or their number.
+    DataColumn& ChangeValues();
+    /// Takes the range anew when values have changed since the last time.
+    void Update();
+    /// As of the last Update.
+    const ValueRange& GetRange() const { return m_Range; }
+    /// Made when first asked for. The reference holds until the values change.
+    const ColumnSummary& GetSummary() const;
+
+private:
+    DataColumn m_Values;
+    bool m_HasChanged = true;
+    ValueRange m_Range;
+    mutable std::unique_ptr<const ColumnSummary> m_Summary;
+};

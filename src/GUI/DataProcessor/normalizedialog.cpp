@@ -1,7 +1,0 @@
-#include "normalizedialog.h"
-
-NormalizeDialog::NormalizeDialog(const DataSet& dataSet, const SingleColumnParams& start,
-                                 QWidget* parent)
-    : SingleColumnDialog(dataSet, tr("Normalize"), start, parent)
-{
-}
