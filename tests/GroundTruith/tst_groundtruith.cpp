@@ -40,47 +40,37 @@ class TestGroundTruith : public QObject
 {
     Q_OBJECT
 private slots:
-    void labels_data();
     void labels();
     void tiles();
     void compares();
 };
 
-// Rows of a widget 1005 pixels wide stand ten pixels apart, from 40 on.
-void TestGroundTruith::labels_data()
-{
-    QTest::addColumn<int>("names");
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<int>("pixel");
-    QTest::addColumn<bool>("isLabelled");
-    QTest::newRow("first pixel") << 1 << 10 << 20 << 140 << true;
-    QTest::newRow("before") << 1 << 10 << 20 << 139 << false;
-    QTest::newRow("last pixel") << 1 << 10 << 20 << 239 << true;
-    QTest::newRow("behind") << 1 << 10 << 20 << 240 << false;
-    QTest::newRow("no end row") << 1 << 10 << -1 << 35 << true;
-    QTest::newRow("no length") << 1 << 10 << 10 << 140 << true;
-    QTest::newRow("seventeenth name") << 17 << 10 << 20 << 200 << true;
-}
-
 void TestGroundTruith::labels()
 {
-    QFETCH(int, names);
-    QFETCH(int, from);
-    QFETCH(int, to);
-    QFETCH(int, pixel);
-    QFETCH(bool, isLabelled);
+    // Names, the rows of the last one, a pixel, and the palette entry there; -1 where it is white.
+    // Rows of a widget 1005 pixels wide stand ten pixels apart, from 40 on.
+    const std::vector<std::tuple<int, int, int, int, int>> cases{{1, 10, 20, 140, 0},
+                                                                 {1, 10, 20, 139, -1},
+                                                                 {1, 10, 20, 239, 0},
+                                                                 {1, 10, 20, 240, -1},
+                                                                 // No end row, and no length.
+                                                                 {1, 10, -1, 35, 0},
+                                                                 {1, 10, 10, 140, 0},
+                                                                 {3, 10, 20, 200, 2},
+                                                                 {17, 10, 20, 200, 0}};
     const auto data = MakeColumn(std::vector<double>(101, 1.0));
-    GroundTruithBehaviorCollection behaviors;
-    for (int i = 1; i < names; ++i)
-        behaviors.Add(QString::number(i), new GroundTruithInstance(90, 91));
-    behaviors.Add(QStringLiteral("dive"), new GroundTruithInstance(from, to));
-    GroundTruithWidget widget;
-    widget.resize(1005, 300);
-    widget.SetDataSet(data.get());
-    widget.SetBehaviorCollection(&behaviors);
-    // Above the axis nothing else is painted.
-    QCOMPARE(pixelAt(widget, pixel, 2), isLabelled ? onWhite((names - 1) % 16) : QColor(Qt::white));
+    for (const auto& [names, from, to, pixel, entry] : cases) {
+        GroundTruithBehaviorCollection behaviors;
+        for (int i = 1; i < names; ++i)
+            behaviors.Add(QString::number(i), new GroundTruithInstance(90, 91));
+        behaviors.Add(QStringLiteral("dive"), new GroundTruithInstance(from, to));
+        GroundTruithWidget widget;
+        widget.resize(1005, 300);
+        widget.SetDataSet(data.get());
+        widget.SetBehaviorCollection(&behaviors);
+        // Above the axis nothing else is painted.
+        QCOMPARE(pixelAt(widget, pixel, 2), entry == -1 ? QColor(Qt::white) : onWhite(entry));
+    }
 }
 
 void TestGroundTruith::tiles()

@@ -19,6 +19,17 @@ std::unique_ptr<DataSet> MakeDataSet(const char* rows, const QStringList& names)
     return data;
 }
 
+std::unique_ptr<DataSet> MakeRecording(int rows, int attributes)
+{
+    QByteArray text;
+    for (int i = 0; i < rows; ++i) {
+        for (int j = 0; j < attributes; ++j)
+            text += QByteArray::number((i * 7 + j) % 11) + ' ';
+        text += '\n';
+    }
+    return MakeDataSet(text.constData());
+}
+
 std::unique_ptr<DataSet> MakeColumn(const std::vector<double>& values)
 {
     auto data = MakeDataSet("", {QStringLiteral("A")});

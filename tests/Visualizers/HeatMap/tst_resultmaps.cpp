@@ -71,14 +71,6 @@ QSet<int> differentColumns(const QImage& a, const QImage& b)
     return columns;
 }
 
-void dragRight(QWidget& map, int from, int to)
-{
-    QTest::mousePress(&map, Qt::RightButton, {}, {from, 10});
-    QMouseEvent move(QEvent::MouseMove, QPointF(to, 10), Qt::NoButton, Qt::RightButton, {});
-    QCoreApplication::sendEvent(&map, &move);
-    QTest::mouseRelease(&map, Qt::RightButton, {}, {to, 10});
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(Maker)
@@ -185,10 +177,10 @@ void TestResultMaps::opensAPlotOfASpan()
     const auto data = MakeColumn(std::vector<double>(steps, 1.0));
     ThresholdMap map;
     results.ShowOn(map);
-    dragRight(map, 100, 200);
+    DragMouse(map, {100, 10}, {200, 10}, Qt::RightButton);
     QVERIFY(!map.findChild<QDialog*>());
     map.SetDataSet(data.get());
-    dragRight(map, 200, 100);
+    DragMouse(map, {200, 10}, {100, 10}, Qt::RightButton);
     const auto* dialog = map.findChild<QDialog*>();
     QVERIFY(dialog);
     QCOMPARE(dialog->windowTitle(), QStringLiteral("Line Plot"));
@@ -199,6 +191,14 @@ void TestResultMaps::opensAPlotOfASpan()
     QCOMPARE(from, int(60 / ((mapWidth - 39.0) / steps)));
     QCOMPARE(to, int(160 / ((mapWidth - 39.0) / steps)) + 1);
     QCOMPARE(map.GetRemovedSteps(), QList<int>());
+    // The other button does not take a band over.
+    QTest::mousePress(&map, Qt::LeftButton, {}, {100, 10});
+    MoveMouse(map, {200, 10}, Qt::LeftButton);
+    QTest::mousePress(&map, Qt::RightButton, {}, {150, 10});
+    QTest::mouseRelease(&map, Qt::RightButton, {}, {150, 10});
+    QTest::mouseRelease(&map, Qt::LeftButton, {}, {200, 10});
+    QCOMPARE(map.findChildren<QDialog*>().size(), 1);
+    QCOMPARE(map.GetRemovedSteps(), QList<int>{20});
 }
 
 void TestResultMaps::colorsConfidences()

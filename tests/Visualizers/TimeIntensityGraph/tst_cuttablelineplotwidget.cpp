@@ -1,9 +1,9 @@
+#include "areascene.h"
 #include "cutcollection.h"
 #include "cuttablelineplotwidget.h"
 #include "lineplotwidget.h"
 #include "mousedrag.h"
-#include "testdata.h"
-#include "timeaxis.h"
+#include "segmenttext.h"
 #include <QDrag>
 #include <QMenu>
 #include <QMimeData>
@@ -35,12 +35,8 @@ class TestCuttableLinePlotWidget : public QObject
     Q_OBJECT
 private slots:
     void init();
-    void cleanup();
-    void dragSelects_data();
-    void dragSelects();
     void selectionEnds();
     void keys();
-    void adjustedPosition_data();
     void adjustedPosition();
     void contextMenu_data();
     void contextMenu();
@@ -56,40 +52,21 @@ private:
     QStringList menuTexts(QPoint point);
     QColor pixel(int x, int y) { return m_Widget->grab().toImage().pixelColor(x, y); }
 
-    std::unique_ptr<DataSet> m_Data;
     std::unique_ptr<CutCollection> m_Cuts;
-    std::unique_ptr<RecordingPlotWidget> m_Widget;
+    std::unique_ptr<AreaScene<RecordingPlotWidget>> m_Scene;
+    RecordingPlotWidget* m_Widget = nullptr;
 };
 
-// Rows stand 10 pixels apart, the first one at pixel 40: the axis ends at 40 + 966 - 5.
 void TestCuttableLinePlotWidget::init()
 {
-    m_Data = MakeDataSet("");
-    m_Data->AddAttribute(QStringLiteral("depth"), ATTRIBUTE_OTHER);
-    for (int i = 0; i <= 96; ++i) {
-        auto* row = new DataRow;
-        row->AddValue(i % 2);
-        row->SetLabel(QString::number(i + 1));
-        m_Data->AddRow(row);
-    }
-    m_Data->ComputeRanges();
+    m_Scene = std::make_unique<AreaScene<RecordingPlotWidget>>(97);
+    m_Widget = &m_Scene->m_Area;
     m_Cuts = std::make_unique<CutCollection>();
-    m_Cuts->InsertCut(0, 96, CutSegment::SEGMENT_CUT);
-    m_Cuts->InsertCut(30, 60, CutSegment::SEGMENT_LABELED)->SetColor(Qt::red);
-    m_Cuts->InsertCut(70, 80, CutSegment::SEGMENT_RESULT);
-
-    m_Widget = std::make_unique<RecordingPlotWidget>();
-    m_Widget->SetDataSet(m_Data.get());
+    MakeCuts(*m_Cuts, "30 60L 70 80R 96");
+    m_Cuts->GetSegment(1)->SetColor(Qt::red);
     m_Widget->SetCutCollection(m_Cuts.get());
-    m_Widget->ResizePlots(965, 200);
-    m_Widget->AddPlot(0);
     m_Widget->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_Widget.get()));
-}
-
-void TestCuttableLinePlotWidget::cleanup()
-{
-    m_Widget.reset();
+    QVERIFY(QTest::qWaitForWindowExposed(m_Widget));
 }
 
 void TestCuttableLinePlotWidget::drag(int from, int to)
@@ -97,43 +74,13 @@ void TestCuttableLinePlotWidget::drag(int from, int to)
     DragMouse(*m_Widget, {from, 50}, {to, 50});
 }
 
-void TestCuttableLinePlotWidget::dragSelects_data()
-{
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("end");
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::newRow("inside") << 141 << 345 << 10 << 30;
-    QTest::newRow("truncated") << 149 << 349 << 10 << 30;
-    QTest::newRow("left of the axis") << 5 << 345 << 0 << 30;
-    QTest::newRow("beyond the end") << 141 << 1201 << 10 << 116;
-    QTest::newRow("backwards") << 345 << 141 << 30 << 10;
-}
-
-void TestCuttableLinePlotWidget::dragSelects()
-{
-    QFETCH(int, start);
-    QFETCH(int, end);
-    int from = -1;
-    int to = -1;
-    QVERIFY(!m_Widget->GetSelectedRange(from, to));
-    drag(start, end);
-    QVERIFY(m_Widget->GetSelectedRange(from, to));
-    QTEST(from, "from");
-    QTEST(to, "to");
-    QVERIFY(!m_Widget->GetSelectedRow(from));
-}
-
 void TestCuttableLinePlotWidget::selectionEnds()
 {
     int from = 0;
     int to = 0;
     drag(141, 345);
-    QTest::mousePress(m_Widget.get(), Qt::RightButton, {}, {200, 50});
+    QTest::mousePress(m_Widget, Qt::RightButton, {}, {200, 50});
     QVERIFY(m_Widget->GetSelectedRange(from, to));
-    QTest::mousePress(m_Widget.get(), Qt::LeftButton, {}, {200, 50});
-    QVERIFY(!m_Widget->GetSelectedRange(from, to));
-    drag(141, 345);
     m_Widget->ClearSelection();
     QVERIFY(!m_Widget->GetSelectedRange(from, to));
     drag(141, 345);
@@ -144,46 +91,36 @@ void TestCuttableLinePlotWidget::selectionEnds()
 void TestCuttableLinePlotWidget::keys()
 {
     int row = -1;
-    QSignalSpy cuts(m_Widget.get(), &CuttableLinePlotWidget::CutRequested);
-    QTest::keyClick(m_Widget.get(), Qt::Key_C);
+    QSignalSpy cuts(m_Widget, &CuttableLinePlotWidget::CutRequested);
+    QTest::keyClick(m_Widget, Qt::Key_C);
     QCOMPARE(cuts.count(), 1);
-    QTest::keyClick(m_Widget.get(), Qt::Key_Right);
+    QTest::keyClick(m_Widget, Qt::Key_Right);
     QVERIFY(m_Widget->GetSelectedRow(row));
     QCOMPARE(row, 4);
-    QTest::keyClick(m_Widget.get(), Qt::Key_Left);
+    QTest::keyClick(m_Widget, Qt::Key_Left);
     QVERIFY(m_Widget->GetSelectedRow(row));
     QCOMPARE(row, 0);
     for (int i = 0; i < 40; ++i)
-        QTest::keyClick(m_Widget.get(), Qt::Key_Right);
+        QTest::keyClick(m_Widget, Qt::Key_Right);
     QVERIFY(m_Widget->GetSelectedRow(row));
     QCOMPARE(row, 97);
     drag(141, 345);
-    QSignalSpy deletions(m_Widget.get(), &CuttableLinePlotWidget::DeleteActionRequested);
-    QTest::keyClick(m_Widget.get(), Qt::Key_Delete);
+    QSignalSpy deletions(m_Widget, &CuttableLinePlotWidget::DeleteActionRequested);
+    QTest::keyClick(m_Widget, Qt::Key_Delete);
     QCOMPARE(deletions.count(), 1);
-    QTest::keyClick(m_Widget.get(), Qt::Key_Right);
-    QTest::keyClick(m_Widget.get(), Qt::Key_Escape);
+    QTest::keyClick(m_Widget, Qt::Key_Right);
+    QTest::keyClick(m_Widget, Qt::Key_Escape);
     QVERIFY(!m_Widget->GetSelectedRow(row) && !m_Widget->GetSelectedRange(row, row));
-}
-
-void TestCuttableLinePlotWidget::adjustedPosition_data()
-{
-    QTest::addColumn<int>("index");
-    QTest::addColumn<int>("row");
-    // Rows 30 to 60 are shown as a block of 20: what follows stands 10 further left.
-    QTest::newRow("before the block") << 12 << 12;
-    QTest::newRow("shared row") << 30 << 30;
-    QTest::newRow("in the block") << 35 << 45;
-    QTest::newRow("behind the block") << 55 << 65;
-    QTest::newRow("beyond the end") << 200 << 210;
 }
 
 void TestCuttableLinePlotWidget::adjustedPosition()
 {
-    QFETCH(int, index);
-    QTEST(m_Widget->computeAdjustedTimePosition(index), "row");
+    // Rows 30 to 60 are shown as a block of 20: what follows stands 10 further left.
+    const std::vector<std::pair<int, int>> rows{{12, 12}, {30, 30}, {35, 45}, {55, 65}, {200, 210}};
+    for (const auto& [index, row] : rows)
+        QCOMPARE(m_Widget->computeAdjustedTimePosition(index), row);
     m_Widget->SetCutCollection(nullptr);
-    QCOMPARE(m_Widget->computeAdjustedTimePosition(index), index);
+    QCOMPARE(m_Widget->computeAdjustedTimePosition(55), 55);
 }
 
 QStringList TestCuttableLinePlotWidget::menuTexts(QPoint point)
@@ -228,6 +165,7 @@ void TestCuttableLinePlotWidget::contextMenu()
 
 void TestCuttableLinePlotWidget::menuEffects()
 {
+    using Graph = CuttableLinePlotWidget;
     const auto choose = [this](QPoint point, int entry = 0) {
         m_Widget->showContextMenu(point);
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
@@ -254,33 +192,33 @@ void TestCuttableLinePlotWidget::menuEffects()
     m_Widget->ShowLabeledData(false);
     QVERIFY(m_Widget->GetSelectedRow(from));
     QCOMPARE(from, 48);
-    QSignalSpy moves(m_Widget.get(), &CuttableLinePlotWidget::MoveActionRequested);
-    QSignalSpy deletions(m_Widget.get(), &CuttableLinePlotWidget::DeleteActionRequested);
-    choose({425, 50}, 2);
-    QCOMPARE(std::make_pair(moves.count(), deletions.count()), std::make_pair(1, 0));
-    choose({425, 50}, 3);
-    QCOMPARE(std::make_pair(moves.count(), deletions.count()), std::make_pair(1, 1));
 
-    QSignalSpy saves(m_Widget.get(), &CuttableLinePlotWidget::SaveActionRequested);
-    QSignalSpy searches(m_Widget.get(), &CuttableLinePlotWidget::SearchActionRequested);
+    QSignalSpy saves(m_Widget, &Graph::SaveActionRequested);
+    QSignalSpy searches(m_Widget, &Graph::SearchActionRequested);
+    QSignalSpy moves(m_Widget, &Graph::MoveActionRequested);
+    QSignalSpy deletions(m_Widget, &Graph::DeleteActionRequested);
+    QSignalSpy zoomed(m_Widget, &Graph::ZoomOnRegion);
+    const auto counts = [&] {
+        return QVector<int>{saves.count(), searches.count(), moves.count(), deletions.count()};
+    };
     choose({425, 50}, 0);
-    QCOMPARE(std::make_pair(saves.count(), searches.count()), std::make_pair(1, 0));
-    QSignalSpy zoomed(m_Widget.get(), &CuttableLinePlotWidget::ZoomOnRegion);
+    choose({425, 50}, 2);
+    QCOMPARE(counts(), (QVector<int>{1, 0, 1, 0}));
+    choose({425, 50}, 3);
     drag(141, 345);
-    choose({200, 50});
-    QCOMPARE(zoomed.count(), 1);
-    QCOMPARE(zoomed.first(), (QVariantList{10, 30}));
     choose({200, 50}, 2);
-    QCOMPARE(searches.count(), 1);
+    QCOMPARE(counts(), (QVector<int>{1, 1, 1, 1}));
+    choose({200, 50});
+    QCOMPARE(zoomed, (QList<QVariantList>{{10, 30}}));
 }
 
 void TestCuttableLinePlotWidget::doubleClickDrags()
 {
-    QTest::mouseDClick(m_Widget.get(), Qt::LeftButton, {}, {400, 50});
+    QTest::mouseDClick(m_Widget, Qt::LeftButton, {}, {400, 50});
     QCOMPARE(m_Widget->m_Carried, QByteArray("1"));
     QCOMPARE(m_Widget->m_PictureSize, QSize(300, 100));
     m_Widget->m_Carried.clear();
-    QTest::mouseDClick(m_Widget.get(), Qt::LeftButton, {}, {20, 50});
+    QTest::mouseDClick(m_Widget, Qt::LeftButton, {}, {20, 50});
     QVERIFY(m_Widget->m_Carried.isEmpty());
 }
 
@@ -302,17 +240,13 @@ void TestCuttableLinePlotWidget::paintsSegments()
 void TestCuttableLinePlotWidget::paintsManySegmentsTogether()
 {
     // Thousands of segments on a few pixels keep a shade in which lines can be seen.
-    auto data = MakeDataSet("0\n");
+    const auto data = MakeColumn(std::vector<double>(20001, 0.0));
     CutCollection cuts;
-    for (int i = 1; i <= 20000; ++i) {
-        auto* row = new DataRow;
-        row->AddValue(0);
-        data->AddRow(row);
-    }
-    data->ComputeRanges();
     cuts.InsertCut(0, 20000, CutSegment::SEGMENT_CUT);
     for (int i = 10; i <= 10000; i += 5)
         cuts.InsertCut(i, i % 2 ? CutSegment::SEGMENT_LABELED : CutSegment::SEGMENT_CUT);
+    // A row on an eighth of a pixel.
+    cuts.InsertCut(15000, 15001, CutSegment::SEGMENT_LABELED)->SetColor(Qt::red);
     m_Widget->SetDataSet(data.get());
     m_Widget->SetCutCollection(&cuts);
     m_Widget->AddPlot(0);
@@ -321,6 +255,9 @@ void TestCuttableLinePlotWidget::paintsManySegmentsTogether()
         QVERIFY2(gray > 60 && gray < 200, qPrintable(QString::number(gray)));
     }
     QCOMPARE(pixel(700, 3), QColor(Qt::white));
+    const QColor narrow = pixel(int(m_Widget->GetTimeAxis()->ToX(15000)), 3);
+    // Under the outlines of three segments.
+    QVERIFY2(narrow.red() > narrow.green() * 5 / 4, qPrintable(narrow.name()));
 }
 
 void TestCuttableLinePlotWidget::paintsSelectionAxisAndOverlay()
@@ -337,9 +274,7 @@ void TestCuttableLinePlotWidget::paintsSelectionAxisAndOverlay()
     QVERIFY(before.copy(text) != after.copy(text));
 
     m_Widget->ClearSelection();
-    QTest::mouseMove(m_Widget.get(), {605, 50});
-    QMouseEvent move(QEvent::MouseMove, QPointF(605, 50), Qt::NoButton, Qt::NoButton, {});
-    QCoreApplication::sendEvent(m_Widget.get(), &move);
+    MoveMouse(*m_Widget, {605, 50});
     QVERIFY(m_Widget->GetEnableOverlay());
     // The value axis stands 10 pixels left of the pointer.
     const QColor with = pixel(595, 12);
@@ -352,7 +287,7 @@ void TestCuttableLinePlotWidget::acceptsNulls()
     m_Widget->SetCutCollection(nullptr);
     m_Widget->SetLabelCollection(nullptr);
     QVERIFY(menuTexts({200, 50}).isEmpty());
-    QTest::mouseDClick(m_Widget.get(), Qt::LeftButton, {}, {400, 50});
+    QTest::mouseDClick(m_Widget, Qt::LeftButton, {}, {400, 50});
     m_Widget->SetDataSet(nullptr);
     m_Widget->AddPlot(0);
     m_Widget->updateTimeAxis();
@@ -362,7 +297,7 @@ void TestCuttableLinePlotWidget::acceptsNulls()
     m_Widget->ClearPlot();
     m_Widget->ResizePlots(900, 200);
     m_Widget->grab();
-    QTest::keyClick(m_Widget.get(), Qt::Key_Right);
+    QTest::keyClick(m_Widget, Qt::Key_Right);
     drag(141, 345);
     int from = 0;
     int to = 0;

@@ -1,6 +1,9 @@
 #include "cutsegment.h"
+#include "cuttablelineplotwidget.h"
 #include "mousedrag.h"
 #include "multiplelineplotwidget.h"
+#include "multiselectionplotareawidget.h"
+#include "plotarealabelwidget.h"
 #include "selectionmultiplelineplotwidget.h"
 #include "selectionplotwidget.h"
 #include "testdata.h"
@@ -13,6 +16,7 @@
 #include <QSignalSpy>
 #include <QTimer>
 #include <QtTest>
+#include <functional>
 
 namespace
 {
@@ -31,7 +35,46 @@ void answer(QMessageBox::StandardButton button, QString& shown)
 const char* const stretches = "0\n0\n0\n0\n0\n5\n5\n5\n5\n5\n10\n10\n10\n10\n10\n";
 const QString oneResult =
     QStringLiteral("Reject Results|Are you sure you want to reject 1 results?");
+const QColor faintYellow(255, 255, 153);
+
+/// A widget in which the user drags, and how its selected rows are read.
+struct Selecting {
+    std::shared_ptr<QWidget> m_Widget;
+    std::function<bool(int&, int&)> m_Read;
+};
+using Maker = Selecting (*)(DataSet& data);
+
+template <class Area>
+Selecting makeArea(DataSet& data)
+{
+    const auto area = std::make_shared<Area>();
+    area->SetDataSet(&data);
+    area->ResizePlots(965, 200);
+    area->PlotDataRange(20, 117);
+    area->AddPlot(0);
+    return {area, [area](int& from, int& to) { return area->GetSelection(from, to); }};
+}
+
+Selecting makePlot(DataSet& data)
+{
+    const auto plot = std::make_shared<SelectionPlotWidget>(0);
+    plot->SetDataSet(&data);
+    plot->resize(960, 200);
+    plot->SetRange(20, 117);
+    return {plot, [plot](int& from, int& to) { return plot->GetSelection(from, to); }};
+}
+
+Selecting makeGraph(DataSet& data)
+{
+    const auto graph = std::make_shared<CuttableLinePlotWidget>();
+    graph->SetDataSet(&data);
+    graph->ResizePlots(1495, 200);
+    graph->AddPlot(0);
+    return {graph, [graph](int& from, int& to) { return graph->GetSelectedRange(from, to); }};
+}
 } // namespace
+
+Q_DECLARE_METATYPE(Maker)
 
 class TestPlotWidgets : public QObject
 {
@@ -41,7 +84,8 @@ private slots:
     void rejectsResults();
     void selectionOverOlderPair();
     void changesAttribute();
-    void selectionPlot_data();
+    void dragsSelectRows_data();
+    void dragsSelectRows();
     void selectionPlot();
     void windowFollowsTheMouse();
     void paintsAnywhereInItsWindow();
@@ -79,8 +123,11 @@ void TestPlotWidgets::rejectsResults()
     QCOMPARE(rejected.first().first().value<CutSegment*>(), &middle);
     QVERIFY(!inkAt(102));
 
-    // No line there: no question.
+    // No line there: no question, and the band is gone.
+    const QImage remaining = widget.grab().toImage();
     DragMouse(widget, {150, 80}, {350, 120});
+    MoveMouse(widget, {300, 150});
+    QCOMPARE(widget.grab().toImage(), remaining);
     answer(QMessageBox::Yes, shown);
     DragMouse(widget, {150, 0}, {350, 199});
     QVERIFY(shown.contains(QStringLiteral("reject 2 results?")));
@@ -139,56 +186,86 @@ void TestPlotWidgets::changesAttribute()
     QVERIFY(inkNear(9) < 220);
 }
 
-void TestPlotWidgets::selectionPlot_data()
+// Rows stand 10 pixels apart from pixel 40 on, row 20 there unless it is the main graph.
+void TestPlotWidgets::dragsSelectRows_data()
 {
+    QTest::addColumn<Maker>("maker");
     QTest::addColumn<int>("start");
     QTest::addColumn<int>("end");
     QTest::addColumn<QVector<int>>("rows");
-    // Rows 20 to 40 over 400 pixels from pixel 40 on.
-    QTest::newRow("inside") << 141 << 241 << QVector<int>{25, 30};
-    QTest::newRow("backwards") << 241 << 141 << QVector<int>{25, 30};
-    QTest::newRow("left of the axis") << 3 << 241 << QVector<int>{20, 30};
-    QTest::newRow("beyond the data") << 241 << 1041 << QVector<int>{30, 49};
-    QTest::newRow("a click") << 241 << 241 << QVector<int>{};
+    QTest::addColumn<bool>("isSeen");
+    const auto row = [](const char* name, Maker maker, int start, int end, QVector<int> rows,
+                        bool isSeen) {
+        QTest::newRow(name) << maker << start << end << rows << isSeen;
+    };
+    row("graph", &makeGraph, 141, 345, {10, 30}, true);
+    row("graph, left of the axis", &makeGraph, 5, 345, {0, 30}, true);
+    row("graph, beyond the end", &makeGraph, 141, 1701, {10, 166}, true);
+    row("graph, backwards", &makeGraph, 345, 141, {30, 10}, false);
+    row("plot", &makePlot, 141, 345, {30, 50}, true);
+    row("plot, backwards", &makePlot, 345, 141, {30, 50}, false);
+    row("plot, beyond the data", &makePlot, 141, 2000, {30, 149}, true);
+    row("plot, a click", &makePlot, 345, 345, {}, false);
+    row("labels", &makeArea<PlotAreaLabelWidget>, 141, 345, {30, 50}, true);
+    const Maker ranges = &makeArea<MultiSelectionPlotAreaWidget>;
+    row("ranges", ranges, 141, 345, {30, 50}, true);
+    row("ranges, on the axis", ranges, 40, 345, {}, false);
+    row("ranges, back before the axis", ranges, 345, 3, {20, 50}, true);
+    row("ranges, beyond the end", ranges, 141, 1400, {30, 116}, true);
+    row("ranges, from beyond the end", ranges, 1400, 141, {30, 116}, true);
+}
+
+void TestPlotWidgets::dragsSelectRows()
+{
+    QFETCH(Maker, maker);
+    QFETCH(int, start);
+    QFETCH(int, end);
+    const auto data = MakeRecording(150);
+    const Selecting selecting = maker(*data);
+    QWidget& widget = *selecting.m_Widget;
+    widget.show();
+    const auto selected = [&] {
+        int from = 0;
+        int to = 0;
+        return selecting.m_Read(from, to) ? QVector<int>{from, to} : QVector<int>{};
+    };
+    DragMouse(widget, {start, 50}, {end, 50}, Qt::RightButton);
+    QCOMPARE(selected(), QVector<int>{});
+    DragMouse(widget, {start, 50}, {end, 50});
+    // Without its button the pointer takes no end with it.
+    MoveMouse(widget, {250, 50});
+    QTEST(selected(), "rows");
+    QTEST(widget.grab().toImage().pixelColor(246, 3) == faintYellow, "isSeen");
+    QTest::mousePress(&widget, Qt::LeftButton, {}, {500, 50});
+    QCOMPARE(selected(), QVector<int>{});
 }
 
 void TestPlotWidgets::selectionPlot()
 {
-    QFETCH(int, start);
-    QFETCH(int, end);
-    QString rows;
-    for (int i = 0; i < 50; ++i)
-        rows += QString::number(i % 3) + QLatin1Char('\n');
-    const auto data = MakeDataSet(rows.toUtf8().constData());
+    const auto data = MakeRecording(150);
     SelectionPlotWidget widget(0);
-    widget.resize(400, 150);
+    widget.resize(960, 150);
     widget.SetDataSet(data.get());
-    widget.SetRange(20, 41);
+    widget.SetRange(20, 117);
     widget.show();
-    DragMouse(widget, {start, 40}, {end, 40});
     int from = 0;
     int to = 0;
-    const QVector<int> found =
-        widget.GetSelection(from, to) ? QVector<int>{from, to} : QVector<int>{};
-    QTEST(found, "rows");
     widget.SetSelection(25, 30);
     QVERIFY(widget.GetSelection(from, to));
     QCOMPARE(std::make_pair(from, to), std::make_pair(25, 30));
     widget.SetSecondSelection(34, 36);
     const QImage image = widget.grab().toImage();
-    QCOMPARE(image.pixelColor(185, 3), QColor(255, 255, 153));
-    QCOMPARE(image.pixelColor(345, 3), QColor(255, 255, 153));
+    QCOMPARE(image.pixelColor(115, 3), faintYellow);
+    QCOMPARE(image.pixelColor(195, 3), faintYellow);
     widget.ClearSelection();
     widget.ClearSecondSelection();
     QVERIFY(!widget.GetSelection(from, to));
+    QCOMPARE(widget.grab().toImage().pixelColor(195, 3), QColor(Qt::white));
 }
 
 void TestPlotWidgets::windowFollowsTheMouse()
 {
-    QString rows;
-    for (int i = 0; i <= 40; ++i)
-        rows += QString::number(i % 3) + QLatin1Char('\n');
-    const auto data = MakeDataSet(rows.toUtf8().constData());
+    const auto data = MakeRecording(41);
     WindowLinePlot widget(0);
     widget.resize(400, 150);
     widget.SetDataSet(data.get());
@@ -196,13 +273,12 @@ void TestPlotWidgets::windowFollowsTheMouse()
     int from = 0;
     int to = 0;
     QVERIFY(!widget.GetSelection(from, to));
-    QMouseEvent move(QEvent::MouseMove, QPointF(141, 40), Qt::NoButton, Qt::NoButton, {});
-    QCoreApplication::sendEvent(&widget, &move);
+    MoveMouse(widget, {141, 40});
     QVERIFY(widget.GetSelection(from, to));
     QCOMPARE(std::make_pair(from, to), std::make_pair(10, 20));
     widget.AddSample(25, 28);
     const QImage image = widget.grab().toImage();
-    QCOMPARE(image.pixelColor(185, 3), QColor(255, 255, 153));
+    QCOMPARE(image.pixelColor(185, 3), faintYellow);
     QCOMPARE(image.pixelColor(305, 3), QColor(153, 153, 255));
     QCOMPARE(image.pixelColor(350, 3), QColor(Qt::white));
 }

@@ -1,9 +1,11 @@
 #include "collectionamplitudeline.h"
+#include "colormaps.h"
 #include "cutcollection.h"
 #include "heatcolor.h"
 #include "linescene.h"
 #include "slittedaxis.h"
 #include <QtTest>
+#include <array>
 #include <cmath>
 
 Q_DECLARE_METATYPE(Column)
@@ -18,8 +20,8 @@ private slots:
     void survivesOddInput_data();
     void survivesOddInput();
     void secondPainters();
-    void heatColors_data();
     void heatColors();
+    void colorMaps();
 };
 
 void TestAmplitudeLine::staysQuickOnSharpScreens()
@@ -153,27 +155,38 @@ void TestAmplitudeLine::secondPainters()
     QCOMPARE(darkestIn(rows, {223 * scale, 0, 100, height}), 255);
 }
 
-void TestAmplitudeLine::heatColors_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QVector<double>>("rgb");
-    // t = |value| / 4 for values from -4 to 4; the ramp's corner points.
-    QTest::newRow("lowest") << 0.0 << QVector<double>{0, 0, 1};
-    QTest::newRow("quarter") << 1.0 << QVector<double>{0, 1, 1};
-    QTest::newRow("middle") << -2.0 << QVector<double>{0, 1, 0};
-    QTest::newRow("three quarters") << 3.0 << QVector<double>{1, 1, 0};
-    QTest::newRow("highest") << 4.0 << QVector<double>{1, 0, 0};
-    QTest::newRow("missing") << missing << QVector<double>{0, 0, 1};
-}
-
 void TestAmplitudeLine::heatColors()
 {
-    QFETCH(double, value);
-    QFETCH(QVector<double>, rgb);
-    const auto data = MakeColumn({-4, 4, value});
-    const HeatRgb color = HeatColor(*data, 2, 0);
-    QCOMPARE((QVector<double>{double(color.m_Red), double(color.m_Green), double(color.m_Blue)}),
-             rgb);
+    // t = |value| / 4 for values from -4 to 4: the ramp's corner points. A missing value comes
+    // last.
+    const std::vector<std::pair<double, QVector<double>>> colors{
+        {0, {0, 0, 1}}, {1, {0, 1, 1}}, {-2, {0, 1, 0}},
+        {3, {1, 1, 0}}, {4, {1, 0, 0}}, {missing, {0, 0, 1}}};
+    for (const auto& [value, rgb] : colors) {
+        const HeatRgb color = HeatColor(*MakeColumn({-4, 4, value}), 2, 0);
+        QCOMPARE(
+            (QVector<double>{double(color.m_Red), double(color.m_Green), double(color.m_Blue)}),
+            rgb);
+    }
+}
+
+void TestAmplitudeLine::colorMaps()
+{
+    // Scheme 0 worked by hand from its ramps; the others are their stops, blended. Values beyond
+    // both ends, and an unknown scheme, which is left alone.
+    const float none = std::nanf("");
+    const std::vector<std::tuple<int, float, std::array<float, 3>>> colors{
+        {0, 0.0F, {0, 0, 1}},          {0, 0.25F, {0, 1, 1}}, {0, 7.0F, {1, 0, 0}},
+        {1, 0.5F, {0, 1, 0}},          {1, 1.0F, {1, 0, 0}},  {2, 1.0F, {1, 1, 0}},
+        {3, 0.5F, {0.5F, 0.5F, 0.5F}}, {3, 1.0F, {0, 0, 1}},  {3, none, {1, 1, 0}},
+        {4, 0.5F, {-1, -1, -1}}};
+    for (const auto& [scheme, value, expected] : colors) {
+        std::array<float, 3> color{-1, -1, -1};
+        ColorMaps::GetColor(value, &color[0], &color[1], &color[2], scheme);
+        // A hundred columns over a slightly sloping gradient: up to one and a half columns off.
+        for (size_t i = 0; i < 3; ++i)
+            QVERIFY(std::abs(color[i] - expected[i]) < 0.04F);
+    }
 }
 
 QTEST_MAIN(TestAmplitudeLine)
