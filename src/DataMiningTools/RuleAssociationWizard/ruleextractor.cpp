@@ -45,25 +45,30 @@ private:
 } // namespace
 
 RuleExtractor::RuleExtractor(const DataSet* dataSet, const CutCollection* cuts,
-                             const LabelCollection* labels, int searchMode)
+                             const LabelCollection* labels, CutSegment::SEGMENT_STATE searchMode)
     : m_DataSet(dataSet), m_CutCollection(cuts), m_LabelCollection(labels), m_SearchMode(searchMode)
 {
 }
 
-void RuleExtractor::Extract(Progress& progress)
+bool RuleExtractor::canSearch() const
 {
-    m_Matches.clear();
-    if (!m_DataSet || !m_CutCollection || !m_LabelCollection || m_SearchLength < 0 ||
-        m_RuleLabels.isEmpty())
-        return;
-    const int count = m_RuleLabels.size();
+    return m_DataSet && m_CutCollection && m_LabelCollection && m_SearchLength >= 0 &&
+           !m_RuleLabels.isEmpty();
+}
+
+bool RuleExtractor::Extract(Progress& progress)
+{
+    const int count = canSearch() ? m_RuleLabels.size() : 0;
     StepProgress steps(progress, QStringLiteral("Searching for rule %1 of %2"), count);
-    Occurrences current = findLabel(m_RuleLabels.first());
+    Occurrences current = count > 0 ? findLabel(m_RuleLabels.first()) : Occurrences();
     for (int label = 1; label < count; ++label) {
         steps.SetStep(label);
+        if (progress.IsStopRequested())
+            return false;
         current = follow(current, findLabel(m_RuleLabels.at(label)));
     }
-    findMatches(current);
+    m_Matches = findMatches(current);
+    return true;
 }
 
 // A behaviour may still hold segments that have left the collection; they count no more.
@@ -93,8 +98,9 @@ RuleExtractor::Occurrences RuleExtractor::follow(const Occurrences& current,
     return followers;
 }
 
-void RuleExtractor::findMatches(const Occurrences& last)
+SearchMatches RuleExtractor::findMatches(const Occurrences& last) const
 {
+    SearchMatches matches;
     QHash<int, int> found; // by the first row
     for (const Occurrence& occurrence : last) {
         int index = 0;
@@ -108,10 +114,11 @@ void RuleExtractor::findMatches(const Occurrences& last)
             continue;
         const auto earlier = found.constFind(from);
         if (earlier != found.constEnd()) {
-            m_Matches[*earlier].m_Count += occurrence.m_Ways;
+            matches[*earlier].m_Count += occurrence.m_Ways;
             continue;
         }
-        found.insert(from, m_Matches.size());
-        m_Matches.append({from, from + m_SearchLength, occurrence.m_Ways});
+        found.insert(from, matches.size());
+        matches.append({{from, from + m_SearchLength}, occurrence.m_Ways});
     }
+    return matches;
 }

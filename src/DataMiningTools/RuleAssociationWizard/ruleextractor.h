@@ -1,11 +1,11 @@
 #pragma once
 
+#include "cutsegment.h"
 #include "searchmatch.h"
 #include <QStringList>
 #include <vector>
 
 class CutCollection;
-class CutSegment;
 class DataSet;
 class LabelCollection;
 class Progress;
@@ -22,7 +22,7 @@ public:
 
     /// searchMode: the state of the segments that hold the matches.
     RuleExtractor(const DataSet* dataSet, const CutCollection* cuts, const LabelCollection* labels,
-                  int searchMode);
+                  CutSegment::SEGMENT_STATE searchMode);
 
     /// Names of behaviours, in the order of the rule.
     void SetRuleLabels(const QStringList& labels) { m_RuleLabels = labels; }
@@ -30,8 +30,9 @@ public:
     void SetSearchLength(int length) { m_SearchLength = length; }
 
     /// Finds the matches anew. Without rule labels or with a negative length there are none, and
-    /// none reaches beyond the data.
-    void Extract(Progress& progress);
+    /// none reaches beyond the data. False when it was stopped; the matches are those of before
+    /// then.
+    bool Extract(Progress& progress);
     /// Each stretch once, with the number of ways in which the rule leads to it, in the order in
     /// which it was found first.
     const SearchMatches& GetMatches() const { return m_Matches; }
@@ -46,12 +47,13 @@ private:
 
     Occurrences findLabel(const QString& name) const;
     static Occurrences follow(const Occurrences& current, const Occurrences& next);
-    void findMatches(const Occurrences& last);
+    bool canSearch() const;
+    SearchMatches findMatches(const Occurrences& last) const;
 
     const DataSet* m_DataSet;
     const CutCollection* m_CutCollection;
     const LabelCollection* m_LabelCollection;
-    int m_SearchMode;
+    CutSegment::SEGMENT_STATE m_SearchMode;
     int m_SearchLength = 0;
     QStringList m_RuleLabels;
     SearchMatches m_Matches;

@@ -23,7 +23,7 @@ bool ThresholdParameter::IsMetBy(double x) const
 }
 
 ThresholdExtractor::ThresholdExtractor(const DataSet* dataSet, const CutCollection* cuts,
-                                       int searchMode)
+                                       CutSegment::SEGMENT_STATE searchMode)
     : m_DataSet(dataSet), m_CutCollection(cuts), m_SearchMode(searchMode)
 {
 }
@@ -42,52 +42,59 @@ bool ThresholdExtractor::canSearch() const
            std::all_of(m_Parameters.begin(), m_Parameters.end(), exists);
 }
 
-void ThresholdExtractor::Extract(Progress& progress)
+bool ThresholdExtractor::Extract(Progress& progress)
 {
-    m_Matches.clear();
-    if (!canSearch())
-        return;
-    const int count = m_CutCollection->GetSegmentCount();
+    constexpr int rowsAtOnce = 8192;
+    SearchMatches matches;
+    const int count = canSearch() ? m_CutCollection->GetSegmentCount() : 0;
     StepProgress steps(progress, QStringLiteral("Searching segment %1 of %2"), count);
     for (int i = 0; i < count; ++i) {
-        steps.SetStep(i);
         const CutSegment& segment = *m_CutCollection->GetSegment(i);
-        if (segment.GetState() == m_SearchMode)
-            searchSegment(segment);
+        const bool isSearched = segment.GetState() == m_SearchMode;
+        const int end = isSearched ? std::min(segment.GetTo(), m_DataSet->GetRowCount()) : 0;
+        RowSpan run;
+        for (int from = std::max(segment.GetFrom(), 0); from < end; from += rowsAtOnce) {
+            steps.SetStep(i);
+            if (progress.IsStopRequested())
+                return false;
+            findRuns({from, std::min(from + rowsAtOnce, end)}, run, matches);
+        }
+        closeRun(run, matches);
     }
-}
-
-bool ThresholdExtractor::isMetByRow(int row) const
-{
-    for (const ThresholdParameter& parameter : m_Parameters) {
-        if (!parameter.IsMetBy(m_DataSet->GetValue(row, parameter.m_Attribute)))
-            return false;
-    }
+    m_Matches = matches;
     return true;
 }
 
-void ThresholdExtractor::searchSegment(const CutSegment& segment)
+std::vector<char> ThresholdExtractor::findMetRows(RowSpan rows) const
 {
-    constexpr int none = -1;
-    const int end = std::min(segment.GetTo(), m_DataSet->GetRowCount());
-    int runStart = none;
-    for (int row = std::max(segment.GetFrom(), 0); row < end; ++row) {
-        if (!isMetByRow(row)) {
-            if (runStart != none)
-                closeRun(runStart, row);
-            runStart = none;
-        } else if (runStart == none) {
-            runStart = row;
-        }
+    std::vector<char> isMet(size_t(rows.GetLength()), 1);
+    for (const ThresholdParameter& parameter : m_Parameters) {
+        const double* values = m_DataSet->GetColumn(parameter.m_Attribute).data() + rows.m_From;
+        for (size_t i = 0; i < isMet.size(); ++i)
+            isMet[i] = char(isMet[i] & int(parameter.IsMetBy(values[i])));
     }
-    if (runStart != none)
-        closeRun(runStart, end);
+    return isMet;
 }
 
-void ThresholdExtractor::closeRun(int from, int end)
+/// run: the one that the rows before have left open, and that these leave open.
+void ThresholdExtractor::findRuns(RowSpan rows, RowSpan& run, SearchMatches& matches) const
+{
+    const std::vector<char> isMet = findMetRows(rows);
+    for (int row = rows.m_From; row < rows.m_To; ++row) {
+        if (!isMet[size_t(row - rows.m_From)])
+            closeRun(run, matches);
+        else if (run.IsEmpty())
+            run = {row, row + 1};
+        else
+            run.m_To = row + 1;
+    }
+}
+
+void ThresholdExtractor::closeRun(RowSpan& run, SearchMatches& matches) const
 {
     // A match ends with its last row, so its length is one less than the number of its rows.
-    const int last = end - 1;
-    if (last - from >= m_MinimumLength)
-        m_Matches.append({from, last});
+    const RowSpan match{run.m_From, run.m_To - 1};
+    if (!run.IsEmpty() && match.GetLength() >= m_MinimumLength)
+        matches.append({match});
+    run = {};
 }

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "cutsegment.h"
 #include "searchmatch.h"
 #include <vector>
 
 class CutCollection;
-class CutSegment;
 class DataSet;
 class Progress;
 
@@ -32,27 +32,28 @@ class ThresholdExtractor
 {
 public:
     /// searchMode: the state of the segments to search.
-    ThresholdExtractor(const DataSet* dataSet, const CutCollection* cuts, int searchMode);
+    ThresholdExtractor(const DataSet* dataSet, const CutCollection* cuts,
+                       CutSegment::SEGMENT_STATE searchMode);
 
     void SetParameters(std::vector<ThresholdParameter> parameters);
     /// Matches whose last row is less than this behind their first are left out.
     void SetMinimumLength(int length) { m_MinimumLength = length; }
 
     /// Finds the matches anew. Without parameters, or with one on an attribute that does not
-    /// exist, there are none.
-    void Extract(Progress& progress);
+    /// exist, there are none. False when it was stopped; the matches are those of before then.
+    bool Extract(Progress& progress);
     /// From the first row of a run to its last, in the order of the segments.
     const SearchMatches& GetMatches() const { return m_Matches; }
 
 private:
     bool canSearch() const;
-    bool isMetByRow(int row) const;
-    void searchSegment(const CutSegment& segment);
-    void closeRun(int from, int end);
+    std::vector<char> findMetRows(RowSpan rows) const;
+    void findRuns(RowSpan rows, RowSpan& run, SearchMatches& matches) const;
+    void closeRun(RowSpan& run, SearchMatches& matches) const;
 
     const DataSet* m_DataSet;
     const CutCollection* m_CutCollection;
-    int m_SearchMode;
+    CutSegment::SEGMENT_STATE m_SearchMode;
     std::vector<ThresholdParameter> m_Parameters;
     int m_MinimumLength = 0;
     SearchMatches m_Matches;

@@ -5,8 +5,8 @@
 #include "stepprogress.h"
 #include <algorithm>
 
-int InsertMatches(CutCollection& cuts, const SearchMatches& matches, int searchMode,
-                  Progress& progress)
+int InsertMatches(CutCollection& cuts, const SearchMatches& matches,
+                  CutSegment::SEGMENT_STATE searchMode, Progress& progress)
 {
     progress.SetLabelText(QStringLiteral("Initalizing Cut Insertion"));
     progress.SetRange(0, matches.size());
@@ -16,7 +16,7 @@ int InsertMatches(CutCollection& cuts, const SearchMatches& matches, int searchM
     int inserted = 0;
     for (int i = 0; i < matches.size(); ++i) {
         steps.SetStep(i);
-        const auto ends = std::minmax(matches[i].m_From, matches[i].m_To);
+        const auto ends = std::minmax(matches[i].m_Rows.m_From, matches[i].m_Rows.m_To);
         if (cuts.InsertCut(ends.first, ends.second, CutSegment::SEGMENT_RESULT))
             ++inserted;
     }

@@ -1,17 +1,18 @@
 #pragma once
 
+#include "rowspan.h"
 #include <QVector>
 
-/// A stretch of rows that a search has found.
+/// Rows that a search has found: those of the segment that they become. Whoever resizes one may
+/// leave its ends in the wrong order.
 struct SearchMatch {
-    int m_From = 0;
-    int m_To = 0;
+    RowSpan m_Rows;
     /// How many times the search came upon it, at least once.
     quint64 m_Count = 1;
 
     bool operator==(const SearchMatch& other) const
     {
-        return m_From == other.m_From && m_To == other.m_To && m_Count == other.m_Count;
+        return m_Rows == other.m_Rows && m_Count == other.m_Count;
     }
     bool operator!=(const SearchMatch& other) const { return !(*this == other); }
 };

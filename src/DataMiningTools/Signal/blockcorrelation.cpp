@@ -1,7 +1,7 @@
 #include "blockcorrelation.h"
 
-#include "blocktransform.h"
 #include "rowwindow.h"
+#include "vectorclones.h"
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -26,14 +26,14 @@ int chooseBlockLength(int dataLength, int filterLength)
     return int(length);
 }
 
-/// The compiler's own product looks for infinities and takes longer than the transforms.
-void multiply(std::complex<double>* values, const std::vector<std::complex<double>>& factors)
+/// The compiler's own product of complex values looks for infinities and takes longer than the
+/// transforms.
+SKERRYMOOR_VECTOR_CLONES
+void multiply(double* parts, const double* factors, size_t count)
 {
-    auto* parts = reinterpret_cast<double*>(values);
-    const auto* others = reinterpret_cast<const double*>(factors.data());
-    for (size_t i = 0; i < 2 * factors.size(); i += 2) {
-        const double real = parts[i] * others[i] - parts[i + 1] * others[i + 1];
-        const double imaginary = parts[i] * others[i + 1] + parts[i + 1] * others[i];
+    for (size_t i = 0; i < 2 * count; i += 2) {
+        const double real = parts[i] * factors[i] - parts[i + 1] * factors[i + 1];
+        const double imaginary = parts[i] * factors[i + 1] + parts[i + 1] * factors[i];
         parts[i] = real;
         parts[i + 1] = imaginary;
     }
@@ -41,38 +41,60 @@ void multiply(std::complex<double>* values, const std::vector<std::complex<doubl
 
 } // namespace
 
-BlockCorrelation::BlockCorrelation(int dataLength, const double* filter, int filterLength)
-    : m_FilterLength(filterLength),
-      m_Transform(BlockTransform::OfLength(chooseBlockLength(dataLength, filterLength)))
+FilterSpectrum::FilterSpectrum(const BlockFft& fft, const double* filter, int filterLength)
+    : m_Factors(fft.MakeSpectrum())
 {
-    m_Transform->Forward(filter, filterLength);
-    const AlignedArray<std::complex<double>>& spectrum = m_Transform->GetSpectrum();
-    // The conjugate, with the factor that the way back leaves out.
-    for (size_t i = 0; i < spectrum.GetSize(); ++i)
-        m_FilterSpectrum.push_back(std::conj(spectrum[i]) * m_Transform->GetScale());
+    AlignedArray<double> values = fft.MakeValues();
+    std::copy_n(filter, filterLength, values.GetData());
+    fft.Forward(values.GetData(), m_Factors.GetData());
+    for (size_t i = 0; i < m_Factors.GetSize(); ++i)
+        m_Factors[i] = std::conj(m_Factors[i]) * fft.GetScale();
 }
 
-int BlockCorrelation::GetStep() const
+void FilterSpectrum::MultiplyInto(std::complex<double>* spectrum) const
 {
-    return m_Transform->GetLength() - m_FilterLength + 1;
+    multiply(reinterpret_cast<double*>(spectrum),
+             reinterpret_cast<const double*>(m_Factors.GetData()), m_Factors.GetSize());
 }
 
-const double* BlockCorrelation::Correlate(const double* data, int count)
+BlockCorrelation::BlockCorrelation(int dataLength, int longestFilter)
+    : m_Fft(BlockFft::OfLength(chooseBlockLength(dataLength, longestFilter))),
+      m_Step(m_Fft->GetLength() - longestFilter + 1), m_Spectrum(m_Fft->MakeSpectrum()),
+      m_Sums(m_Fft->MakeValues())
 {
-    m_Transform->Forward(data, count + m_FilterLength - 1);
-    multiply(m_Transform->GetSpectrum().GetData(), m_FilterSpectrum);
-    return m_Transform->Backward();
 }
 
-void CorrelateByBlocks(RowWindow& rows, const double* filter, int filterLength, float* results)
+const double* BlockCorrelation::Correlate(double* block, const FilterSpectrum& filter)
 {
-    BlockCorrelation correlation(rows.GetLength(), filter, filterLength);
+    m_Fft->Forward(block, m_Spectrum.GetData());
+    return transformBack(filter);
+}
+
+const double* BlockCorrelation::CorrelateSpectrum(const std::complex<double>* block,
+                                                  const FilterSpectrum& filter)
+{
+    std::copy_n(block, m_Spectrum.GetSize(), m_Spectrum.GetData());
+    return transformBack(filter);
+}
+
+const double* BlockCorrelation::transformBack(const FilterSpectrum& filter)
+{
+    filter.MultiplyInto(m_Spectrum.GetData());
+    m_Fft->Backward(m_Spectrum.GetData(), m_Sums.GetData());
+    return m_Sums.GetData();
+}
+
+void CorrelateByBlocks(RowWindow& rows, const double* filter, int filterLength,
+                       const WindowSink& sink)
+{
+    BlockCorrelation correlation(rows.GetLength(), filterLength);
+    const FilterSpectrum spectrum(correlation.GetFft(), filter, filterLength);
+    AlignedArray<double> block = correlation.GetFft().MakeValues();
     const int windows = rows.GetLength() - filterLength + 1;
-    float* middle = results + (filterLength - 1) / 2;
     for (int done = 0, count = 0; done < windows; done += count) {
         count = std::min(correlation.GetStep(), windows - done);
-        const double* sums =
-            correlation.Correlate(rows.Get(done, done + count + filterLength - 1), count);
-        std::transform(sums, sums + count, middle + done, [](double sum) { return float(sum); });
+        const int length = count + filterLength - 1;
+        FillBlock(rows.Get(done, done + length), length, block);
+        sink(done, correlation.Correlate(block.GetData(), spectrum), count);
     }
 }

@@ -1,34 +1,61 @@
 #pragma once
 
-#include <complex>
-#include <memory>
-#include <vector>
+#include "blockfft.h"
+#include <functional>
 
-class BlockTransform;
 class RowWindow;
 
-/// Cross-correlation of long data with a filter, block by block of the data, so that the length
-/// of the transforms does not depend on that of the data and stays in the processor's cache.
+/// Takes the results of count windows of the data, the first of which starts at value first.
+using WindowSink = std::function<void(int first, const double* results, int count)>;
+
+/// The spectrum of a filter, ready to be multiplied with those of blocks of data.
+class FilterSpectrum
+{
+public:
+    /// 1 <= filterLength <= length of fft.
+    FilterSpectrum(const BlockFft& fft, const double* filter, int filterLength);
+
+    /// Makes the spectrum of a block into that of its correlation with the filter.
+    void MultiplyInto(std::complex<double>* spectrum) const;
+
+private:
+    // The conjugate, with the factor that the way back leaves out.
+    AlignedArray<std::complex<double>> m_Factors;
+};
+
+/// Cross-correlation of long data with filters, block by block of the data, so that the length of
+/// the transforms does not depend on that of the data and stays in the processor's cache: the
+/// overlap-save method (Oppenheim and Schafer 1975, Digital Signal Processing). What it works on
+/// is its own; several can work on blocks of one length in turn.
 class BlockCorrelation
 {
 public:
-    /// For filters of filterLength values over dataLength values, 1 <= filterLength <= dataLength.
-    BlockCorrelation(int dataLength, const double* filter, int filterLength);
+    /// For filters of up to longestFilter values over dataLength values, 1 <= longestFilter <=
+    /// dataLength.
+    BlockCorrelation(int dataLength, int longestFilter);
 
-    /// How many windows are taken in one block.
-    int GetStep() const;
-    /// The sums of data[s + j] * filter[j] over j for s from 0 to count - 1, count at most
-    /// GetStep, good until the next call.
-    const double* Correlate(const double* data, int count);
+    const BlockFft& GetFft() const { return *m_Fft; }
+    /// How many windows of the longest filter there are in one block.
+    int GetStep() const { return m_Step; }
+    int GetLongestFilter() const { return m_Fft->GetLength() - m_Step + 1; }
+
+    /// The sums of block[s + j] * filter[j] over j, for s from 0 to GetStep - 1 at least, good
+    /// until the next call. block: as many values as the transform has, aligned for it.
+    const double* Correlate(double* block, const FilterSpectrum& filter);
+    /// The same for the spectrum of a block, which is kept.
+    const double* CorrelateSpectrum(const std::complex<double>* block,
+                                    const FilterSpectrum& filter);
 
 private:
-    using Spectrum = std::vector<std::complex<double>>;
+    const double* transformBack(const FilterSpectrum& filter);
 
-    int m_FilterLength;
-    std::shared_ptr<BlockTransform> m_Transform;
-    Spectrum m_FilterSpectrum;
+    std::shared_ptr<const BlockFft> m_Fft;
+    int m_Step;
+    AlignedArray<std::complex<double>> m_Spectrum;
+    AlignedArray<double> m_Sums;
 };
 
-/// results[s + (filterLength - 1) / 2] becomes the sum of rows[s + j] * filter[j] over j, for
-/// every s where the filter lies in the rows. Other results stay as they are.
-void CorrelateByBlocks(RowWindow& rows, const double* filter, int filterLength, float* results);
+/// Hands the sums of rows[s + j] * filter[j] over j to sink, for every s where the filter lies in
+/// the rows, in order.
+void CorrelateByBlocks(RowWindow& rows, const double* filter, int filterLength,
+                       const WindowSink& sink);

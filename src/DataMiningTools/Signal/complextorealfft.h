@@ -8,7 +8,10 @@ class ComplexToRealFft : public FftPlan
 {
 public:
     /// Plans for a transform to length values, at least 1, from spectrum to real; see FftPlan.
-    ComplexToRealFft(int length, std::complex<double>* spectrum, double* real);
+    ComplexToRealFft(int length, std::complex<double>* spectrum, double* real)
+        : FftPlan(TO_VALUES, length, real, spectrum)
+    {
+    }
 
     /// The arrays are those of the constructor, or others that are aligned alike and in place or
     /// not as those are. Destroys spectrum.

@@ -38,6 +38,11 @@ bool areAligned(const double* real, const std::complex<double>* spectrum)
     return isAligned(real) && isAligned(spectrum);
 }
 
+fftw_complex* toLibrary(std::complex<double>* spectrum)
+{
+    return reinterpret_cast<fftw_complex*>(spectrum);
+}
+
 bool areSame(const double* real, const std::complex<double>* spectrum)
 {
     return static_cast<const void*>(real) == static_cast<const void*>(spectrum);
@@ -55,11 +60,6 @@ void FftPlan::Destroy::operator()(fftw_plan_s* plan) const
     fftw_destroy_plan(plan);
 }
 
-FftPlan::Complex* FftPlan::toLibrary(std::complex<double>* spectrum)
-{
-    return reinterpret_cast<Complex*>(spectrum);
-}
-
 void FftPlan::SetThreadCount(int count)
 {
     s_ThreadCount = count;
@@ -70,17 +70,16 @@ void FftPlan::SetPlannerEffort(unsigned effort)
     s_PlannerEffort = effort;
 }
 
-FftPlan::FftPlan(const Direction& direction, int length, double* real,
-                 std::complex<double>* spectrum)
+FftPlan::FftPlan(Direction direction, int length, double* real, std::complex<double>* spectrum)
     : m_Direction(direction), m_Length(length), m_IsInPlace(areSame(real, spectrum)),
       m_IsAligned(areAligned(real, spectrum))
 {
     prepareLibrary();
-    m_Plan = choosePlan(real, toLibrary(spectrum));
+    m_Plan = choosePlan(real, spectrum);
     fftw_export_wisdom_to_filename(wisdomPath);
 }
 
-FftPlan::Plan FftPlan::choosePlan(double* real, Complex* spectrum)
+FftPlan::Plan FftPlan::choosePlan(double* real, std::complex<double>* spectrum)
 {
     const int threads = std::min(s_ThreadCount, omp_get_max_threads());
     if (threads <= 1)
@@ -88,7 +87,7 @@ FftPlan::Plan FftPlan::choosePlan(double* real, Complex* spectrum)
     // What was found for a length holds for the run, so that a repeated search does not measure.
     static std::map<std::tuple<int, int, bool, int>, int> found;
     const auto [best, isNew] =
-        found.try_emplace({m_Direction.sign, m_Length, m_IsInPlace, threads}, threads);
+        found.try_emplace({m_Direction, m_Length, m_IsInPlace, threads}, threads);
     if (!isNew)
         return makePlan(best->second, real, spectrum);
 
@@ -101,10 +100,13 @@ FftPlan::Plan FftPlan::choosePlan(double* real, Complex* spectrum)
     return single;
 }
 
-FftPlan::Plan FftPlan::makePlan(int threads, double* real, Complex* spectrum)
+FftPlan::Plan FftPlan::makePlan(int threads, double* real, std::complex<double>* spectrum)
 {
     fftw_plan_with_nthreads(threads);
-    Plan plan(m_Direction.make(m_Length, real, spectrum, s_PlannerEffort));
+    fftw_complex* complex = toLibrary(spectrum);
+    Plan plan(m_Direction == TO_SPECTRUM
+                  ? fftw_plan_dft_r2c_1d(m_Length, real, complex, s_PlannerEffort)
+                  : fftw_plan_dft_c2r_1d(m_Length, complex, real, s_PlannerEffort));
     if (!plan) {
         std::cerr << "Unable to construct FFTW plan" << std::endl;
         std::exit(1);
@@ -113,7 +115,8 @@ FftPlan::Plan FftPlan::makePlan(int threads, double* real, Complex* spectrum)
     return plan;
 }
 
-FftPlan::RunTime FftPlan::measure(const Plan& plan, double* real, Complex* spectrum) const
+FftPlan::RunTime FftPlan::measure(const Plan& plan, double* real,
+                                  std::complex<double>* spectrum) const
 {
     constexpr qint64 enough = 100'000'000;
     QElapsedTimer total;
@@ -124,7 +127,7 @@ FftPlan::RunTime FftPlan::measure(const Plan& plan, double* real, Complex* spect
     do {
         QElapsedTimer timer;
         timer.start();
-        m_Direction.run(plan.get(), real, spectrum);
+        run(plan, real, spectrum);
         const auto time = double(timer.nsecsElapsed());
         sum += time;
         squares += time * time;
@@ -141,5 +144,13 @@ void FftPlan::execute(double* real, std::complex<double>* spectrum) const
                   << std::endl;
         std::exit(1);
     }
-    m_Direction.run(m_Plan.get(), real, toLibrary(spectrum));
+    run(m_Plan, real, spectrum);
+}
+
+void FftPlan::run(const Plan& plan, double* real, std::complex<double>* spectrum) const
+{
+    if (m_Direction == TO_SPECTRUM)
+        fftw_execute_dft_r2c(plan.get(), real, toLibrary(spectrum));
+    else
+        fftw_execute_dft_c2r(plan.get(), toLibrary(spectrum), real);
 }

@@ -6,7 +6,8 @@
 struct fftw_plan_s;
 
 /// A prepared Fourier transform of one length between real values and the lower half of their
-/// spectrum, length / 2 + 1 complex values. Base of the two directions.
+/// spectrum, length / 2 + 1 complex values. Base of the two directions; the work is done by FFTW
+/// (Frigo and Johnson 2005).
 ///
 /// Plans are made on the main thread. Before the first one, what the library has learnt in
 /// earlier runs is read from "wisdom3.txt" in the working directory; it is written back after
@@ -30,23 +31,18 @@ public:
     /// The number of complex values, length / 2 + 1.
     int GetSpectrumLength() const { return m_Length / 2 + 1; }
     /// The sign in the exponent.
-    int GetSign() const { return m_Direction.sign; }
+    int GetSign() const { return m_Direction; }
     /// How many threads the plan uses.
     int GetThreadCount() const { return m_ThreadCount; }
 
 protected:
-    /// A complex value as the library has it.
-    using Complex = double[2];
-    struct Direction {
-        int sign;
-        fftw_plan_s* (*make)(int length, double* real, Complex* spectrum, unsigned effort);
-        void (*run)(fftw_plan_s* plan, double* real, Complex* spectrum);
-    };
+    /// By the sign in the exponent.
+    enum Direction { TO_SPECTRUM = -1, TO_VALUES = 1 };
 
     /// Plans for these two arrays, or for others that are aligned alike. Planning may write to
     /// them. Both may start at the same place, for a transform in place. Ends the program when
     /// there is no plan.
-    FftPlan(const Direction& direction, int length, double* real, std::complex<double>* spectrum);
+    FftPlan(Direction direction, int length, double* real, std::complex<double>* spectrum);
     ~FftPlan() = default;
 
     /// Ends the program for arrays that the plan was not made for.
@@ -62,10 +58,10 @@ private:
         double deviation;
     };
 
-    Plan choosePlan(double* real, Complex* spectrum);
-    Plan makePlan(int threads, double* real, Complex* spectrum);
-    RunTime measure(const Plan& plan, double* real, Complex* spectrum) const;
-    static Complex* toLibrary(std::complex<double>* spectrum);
+    Plan choosePlan(double* real, std::complex<double>* spectrum);
+    Plan makePlan(int threads, double* real, std::complex<double>* spectrum);
+    RunTime measure(const Plan& plan, double* real, std::complex<double>* spectrum) const;
+    void run(const Plan& plan, double* real, std::complex<double>* spectrum) const;
 
     static int s_ThreadCount;
     static unsigned s_PlannerEffort;

@@ -7,7 +7,10 @@ class RealToComplexFft : public FftPlan
 {
 public:
     /// Plans for a transform of length values, at least 1, from real to spectrum; see FftPlan.
-    RealToComplexFft(int length, double* real, std::complex<double>* spectrum);
+    RealToComplexFft(int length, double* real, std::complex<double>* spectrum)
+        : FftPlan(TO_SPECTRUM, length, real, spectrum)
+    {
+    }
 
     /// The arrays are those of the constructor, or others that are aligned alike and in place or
     /// not as those are. Keeps real, unless in place.

@@ -1,32 +1,59 @@
 #include "rowwindow.h"
 
-#include "dataset.h"
+#include "vectorclones.h"
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
-RowWindow::RowWindow(const DataSet& data, int attribute, int start, int end)
-    : m_Data(data), m_Attribute(attribute), m_Start(start), m_End(end)
+namespace
 {
-    for (int row = start; row < end; ++row) {
-        const double value = data.GetRow(row)->GetValue(attribute);
-        if (std::isfinite(value)) {
-            m_LastNumber = value;
+
+SKERRYMOOR_VECTOR_CLONES
+bool holdsGap(const double* values, int count)
+{
+    std::int64_t gaps = 0;
+    for (int i = 0; i < count; ++i)
+        gaps |= !(values[i] - values[i] == 0.0);
+    return gaps != 0;
+}
+
+bool isNumber(double value)
+{
+    return std::isfinite(value);
+}
+
+} // namespace
+
+RowWindow::RowWindow(ConstSpan<double> rows) : m_Rows(rows)
+{
+    const auto* number = std::find_if(rows.begin(), rows.end(), isNumber);
+    if (number != rows.end())
+        m_NumberBefore = *number;
+}
+
+void RowWindow::passRows(int from)
+{
+    for (int row = from - 1; row >= m_From; --row) {
+        if (isNumber(m_Rows[row])) {
+            m_NumberBefore = m_Rows[row];
             break;
         }
     }
+    m_From = from;
 }
 
 const double* RowWindow::Get(int from, int to)
 {
-    const int next = m_From + int(m_Values.size());
-    m_Values.erase(m_Values.begin(), m_Values.begin() + std::min(from, next) - m_From);
-    m_From = from;
-    m_Values.resize(size_t(to - from));
-    for (int row = std::max(from, next); row < to; ++row) {
-        const double value = m_Data.GetRow(m_Start + row)->GetValue(m_Attribute);
-        if (std::isfinite(value))
-            m_LastNumber = value;
-        m_Values[size_t(row - from)] = m_LastNumber;
-    }
-    return m_Values.data();
+    passRows(from);
+    const int firstNew = std::max(from, m_To);
+    if (holdsGap(m_Rows.data() + firstNew, to - firstNew))
+        m_GapEnd = to;
+    m_To = to;
+    if (m_GapEnd <= from)
+        return m_Rows.data() + from;
+    m_Bridged.assign(m_Rows.data() + from, m_Rows.data() + to);
+    double number = m_NumberBefore;
+    for (double& value : m_Bridged)
+        value = number = isNumber(value) ? value : number;
+    return m_Bridged.data();
 }

@@ -1,30 +1,30 @@
 #pragma once
 
-#include <vector>
+#include "constspan.h"
 
-class DataSet;
-
-/// The rows of an attribute as an array, of which only the part in use is kept: the table is read
-/// once, in order, and what is read stays in the processor's cache. Values that are no finite
-/// numbers are bridged by the last one before, those in front by the first behind: running sums
-/// would not get rid of them.
+/// The rows of an attribute as an array without gaps, taken a part at a time. Values that are no
+/// finite numbers are bridged by the last one before, those in front by the first behind: running
+/// sums would not get rid of them. Only parts with gaps are copied.
 class RowWindow
 {
 public:
-    /// Rows start to end - 1, which exist, as does the attribute.
-    RowWindow(const DataSet& data, int attribute, int start, int end);
+    explicit RowWindow(ConstSpan<double> rows);
 
-    int GetLength() const { return m_End - m_Start; }
-    /// The values of rows from to to - 1, counted from start; neither lies before that of the
-    /// call before. Good until the next call.
+    int GetLength() const { return m_Rows.size(); }
+    /// The values of rows from to to - 1; neither lies before that of the call before. Good until
+    /// the next call.
     const double* Get(int from, int to);
 
 private:
-    const DataSet& m_Data;
-    int m_Attribute;
-    int m_Start;
-    int m_End;
+    void passRows(int from);
+
+    ConstSpan<double> m_Rows;
+    // The part asked for last.
     int m_From = 0;
-    double m_LastNumber = 0.0;
-    std::vector<double> m_Values;
+    int m_To = 0;
+    // No gap lies from here to m_To.
+    int m_GapEnd = 0;
+    // The last one before m_From, or the first of all.
+    double m_NumberBefore = 0.0;
+    std::vector<double> m_Bridged;
 };

@@ -1,69 +1,112 @@
 #include "runningnormalization.h"
 
+#include "blockfft.h"
 #include "rowwindow.h"
+#include "vectorclones.h"
 #include <algorithm>
 #include <cmath>
 
 namespace
 {
 
-double square(double value)
+/// Takes the mean off values, by the sums of the windows around them, and squares what is left.
+SKERRYMOOR_VECTOR_CLONES
+void takeMeansOff(const double* values, const float* sums, int count, float width, double* centred,
+                  double* squares)
 {
-    return value * value;
+    for (int i = 0; i < count; ++i)
+        centred[i] = values[i] - double(sums[i] / width);
+    for (int i = 0; i < count; ++i)
+        squares[i] = centred[i] * centred[i];
 }
 
-/// Takes the mean off the middle of a window of data, to which the sum goes on.
-double centre(const double* middle, int half, int width, RunningSum& sum)
+SKERRYMOOR_VECTOR_CLONES
+void makeRoots(float* sums, int count, float width)
 {
-    sum.Subtract(middle[-half]);
-    sum.Add(middle[half]);
-    return *middle - double(sum.Get() / float(width));
+    for (int i = 0; i < count; ++i)
+        sums[i] = std::sqrt(sums[i] / width);
 }
 
 } // namespace
 
 RunningNormalization::RunningNormalization(RowWindow& rows, int width, int windows)
     : m_Rows(rows), m_Width(width), m_Half((width - 1) / 2),
-      m_Centred(size_t(windows) + size_t(width) - 1), m_Roots(size_t(windows))
+      m_MeanEnd(rows.GetLength() - width / 2), m_Sums(RunningSum(), RunningSum(0.0F)),
+      m_Centred(size_t(windows + width - 1 + Lead), BlockFft::Alignment),
+      m_Squares(m_Centred.GetSize()), m_Roots(size_t(windows))
 {
-    const double* data = readRows(1);
-    std::for_each(data, data + width, [this](double value) { m_Sum.Add(value); });
-    const int meanEnd = rows.GetLength() - width / 2;
-    for (int row = 0; row < width; ++row) {
-        const bool isMiddle = row >= m_Half && row < meanEnd;
-        const double value = isMiddle ? centre(data + row, m_Half, width, m_Sum) : data[row];
-        m_Centred[size_t(row)] = value;
-        m_Squares.Add(square(value));
-    }
+    start();
 }
 
-/// The rows of the next count windows, and those that the means of their last ones look at.
-const double* RunningNormalization::readRows(int count)
+/// The rows of the next count windows, and those that the means look at which run ahead.
+void RunningNormalization::readRows(int count)
 {
-    const int end = m_Start + count + m_Width - 1;
-    return m_Rows.Get(m_Start, std::min(end + m_Half, m_Rows.GetLength()));
+    const int end = m_Start + count + m_Width - 1 + Lead + m_Half;
+    m_Data = m_Rows.Get(m_Start, std::min(end, m_Rows.GetLength()));
+}
+
+void RunningNormalization::start()
+{
+    readRows(1);
+    RunningSum& sum = m_Sums.GetFirst();
+    std::for_each(m_Data, m_Data + m_Width, [&](double value) { sum.Add(value); });
+    const int end = std::min(m_Width - 1 + Lead, m_Rows.GetLength());
+    for (int row = 0; row < end; ++row) {
+        const bool isMiddle = row >= m_Half && row < m_MeanEnd;
+        const float slid = isMiddle ? sum.Slide(m_Data[row - m_Half], m_Data[row + m_Half]) : 0.0F;
+        centre(row, isMiddle, 1, &slid);
+    }
+    std::for_each(m_Squares.begin(), m_Squares.begin() + m_Width,
+                  [this](double square) { m_Sums.GetSecond().Add(square); });
 }
 
 void RunningNormalization::Advance(int count)
 {
-    const double* data = readRows(count);
-    double* centred = m_Centred.data();
-    std::copy_n(centred + m_Count, m_Width - 1, centred);
-    const int meanEnd = m_Rows.GetLength() - m_Width / 2 - m_Start;
-    // Both sums wait for their last step most of the time: in one loop they wait together.
-    RunningSum sum = m_Sum;
-    RunningSum squares = m_Squares;
-    for (int i = 0; i < count; ++i) {
-        const int last = i + m_Width - 1;
-        if (m_Start + i > 0)
-            centred[last] = last < meanEnd ? centre(data + last, m_Half, m_Width, sum) : data[last];
-        squares.Subtract(square(centred[i]));
-        squares.Add(square(centred[i + 2 * m_Half]));
-        squares.HoldAtZero();
-        m_Roots[size_t(i)] = std::sqrt(squares.Get() / float(m_Width));
-    }
-    m_Sum = sum;
-    m_Squares = squares;
+    dropPassedRows();
+    readRows(count);
+    for (int done = 0; done < count; done += RunningSumPair::MaximumSteps)
+        advance(done, std::min(count - done, RunningSumPair::MaximumSteps));
+    makeRoots(m_Roots.data(), count, float(m_Width));
+    if (m_Start + count + m_Width - 1 == m_Rows.GetLength())
+        std::fill(m_Centred.GetData() + count + m_Width - 1,
+                  m_Centred.GetData() + m_Centred.GetSize(), 0.0);
     m_Start += count;
     m_Count = count;
+}
+
+void RunningNormalization::dropPassedRows()
+{
+    if (m_Count == 0)
+        return;
+    const int rest = m_Width - 1 + Lead;
+    std::copy_n(m_Centred.GetData() + m_Count, rest, m_Centred.GetData());
+    std::copy_n(m_Squares.data() + m_Count, rest, m_Squares.data());
+}
+
+/// Slides both sums over some windows: that of the squares to those windows, that of the mean to
+/// the rows ahead, as long as they are middles.
+void RunningNormalization::advance(int window, int count)
+{
+    const int row = window + m_Width - 1 + Lead;
+    const int means = std::clamp(m_MeanEnd - m_Start - row, 0, count);
+    float sums[RunningSumPair::MaximumSteps];
+    const double* leaving = m_Squares.data() + window;
+    const double* entering = leaving + 2 * m_Half;
+    float* roots = m_Roots.data() + window;
+    m_Sums.Slide({m_Data + row - m_Half, m_Data + row + m_Half, sums}, {leaving, entering, roots},
+                 means);
+    for (int i = means; i < count; ++i)
+        roots[i] = m_Sums.GetSecond().Slide(leaving[i], entering[i]);
+    centre(row, means, std::clamp(m_Rows.GetLength() - m_Start - row, 0, count), sums);
+}
+
+/// Centres rows from row on: the first means of count rows are middles, the rest keep their mean.
+void RunningNormalization::centre(int row, int means, int count, const float* sums)
+{
+    double* centred = m_Centred.GetData() + row;
+    takeMeansOff(m_Data + row, sums, means, float(m_Width), centred, m_Squares.data() + row);
+    for (int i = means; i < count; ++i) {
+        centred[i] = m_Data[row + i];
+        m_Squares[size_t(row + i)] = centred[i] * centred[i];
+    }
 }

@@ -4,11 +4,10 @@
 #include "complextorealfft.h"
 #include "realtocomplexfft.h"
 #include <QElapsedTimer>
-#include <QLoggingCategory>
 #include <algorithm>
 #include <omp.h>
 
-Q_DECLARE_LOGGING_CATEGORY(lcMatcher)
+Q_LOGGING_CATEGORY(lcMatcher, "skerrymoor.matcher", QtWarningMsg)
 
 namespace
 {
@@ -28,6 +27,11 @@ private:
     QElapsedTimer m_Timer;
 };
 
+struct Values {
+    const double* values;
+    int length;
+};
+
 struct RealArrays {
     explicit RealArrays(size_t length) : data(length), filter(length), product(length) {}
     AlignedArray<double> data, filter, product;
@@ -43,6 +47,31 @@ void multiply(Spectra& spectra)
 {
     for (size_t i = 0; i < spectra.product.GetSize(); ++i)
         spectra.product[i] = spectra.data[i] * std::conj(spectra.filter[i]);
+}
+
+void populate(const Values& data, const Values& filter, RealArrays& arrays, StageTimer& stages)
+{
+    std::copy_n(data.values, data.length, arrays.data.GetData() + filter.length - 1);
+    stages.Log("populating data");
+    std::copy_n(filter.values, filter.length, arrays.filter.GetData());
+    stages.Log("populating filter");
+}
+
+struct Plans {
+    const RealToComplexFft& data;
+    const RealToComplexFft& filter;
+    const ComplexToRealFft& back;
+};
+
+void correlate(const Plans& plans, RealArrays& arrays, Spectra& spectra, StageTimer& stages)
+{
+    plans.data.Transform(arrays.data.GetData(), spectra.data.GetData());
+    stages.Log("data to fq domain");
+    plans.filter.Transform(arrays.filter.GetData(), spectra.filter.GetData());
+    stages.Log("filter to fq domain");
+    multiply(spectra);
+    stages.Log("perform cross correlation");
+    plans.back.Transform(spectra.product.GetData(), arrays.product.GetData());
 }
 
 } // namespace
@@ -67,17 +96,8 @@ void CorrelateWhole(const double* data, int dataLength, const double* filter, in
     const ComplexToRealFft back(length, spectra.product.GetData(), arrays.product.GetData());
     stages.Log("backward transformation 3");
 
-    std::copy_n(data, dataLength, arrays.data.GetData() + filterLength - 1);
-    stages.Log("populating data");
-    std::copy_n(filter, filterLength, arrays.filter.GetData());
-    stages.Log("populating filter");
-    dataFft.Transform(arrays.data.GetData(), spectra.data.GetData());
-    stages.Log("data to fq domain");
-    filterFft.Transform(arrays.filter.GetData(), spectra.filter.GetData());
-    stages.Log("filter to fq domain");
-    multiply(spectra);
-    stages.Log("perform cross correlation");
-    back.Transform(spectra.product.GetData(), arrays.product.GetData());
+    populate({data, dataLength}, {filter, filterLength}, arrays, stages);
+    correlate({dataFft, filterFft, back}, arrays, spectra, stages);
     for (int i = filterLength - 1; i < dataLength; ++i)
         results[i - filterLength / 2] = float(arrays.product[size_t(i)] * back.GetScale());
     stages.Log("back to time domain");

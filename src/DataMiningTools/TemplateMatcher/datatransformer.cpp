@@ -15,9 +15,9 @@ struct Source {
 
 std::unique_ptr<double[]> copyRows(const DataSet& data, int start, int end, int attribute)
 {
+    const ConstSpan<double> rows = data.GetColumn(attribute).Part(start, end);
     std::unique_ptr<double[]> values(new double[size_t(end - start)]);
-    for (int row = start; row < end; ++row)
-        values[size_t(row - start)] = data.GetRow(row)->GetValue(attribute);
+    std::copy(rows.begin(), rows.end(), values.get());
     return values;
 }
 

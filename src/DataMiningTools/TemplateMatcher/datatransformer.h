@@ -21,7 +21,8 @@ public:
     /// there.
     ///
     /// The local mean is that of the rows counted from 0 wherever the range starts, and always
-    /// divided by 32, also at the edges: kept.
+    /// divided by 32: only the first rows lose their own mean, and values near the edges lose too
+    /// little.
     std::unique_ptr<double[]> TransformData(const DataSet* dataSet, int startID, int endID,
                                             int attId, int& dataOutSize) const;
     /// The same for an array.

@@ -12,7 +12,8 @@ struct MeanDeviation {
 
 /// Correlations in the time domain: slow, and plain enough to check others by. results[k] belongs
 /// to the window of the data that starts at value k; there are length - m + 1 windows for a
-/// signal of m values. Sums are in single precision, of products in double.
+/// signal of m values. Sums are in single precision, of products in double. The normalised forms
+/// are Pearson's correlation (1895).
 
 /// Adds the sum of products to results.
 void CorrelateDirectly(const double* data, int length, const SignalTemplateDataObject& signal,

@@ -27,15 +27,15 @@ std::vector<double> DTW::distances(int attribute) const
 {
     constexpr double unreachable = 1e20;
     const int columns = m_Signal->GetLength();
-    const int rows = std::min(columns, m_DataSet->GetRowCount());
+    const ConstSpan<double> values = m_DataSet->GetColumn(attribute);
+    const int rows = std::min(columns, values.size());
     std::vector<double> above(size_t(columns), unreachable);
     above[0] = 0.0;
     std::vector<double> result{above.back()};
     std::vector<double> cells(size_t(columns), unreachable);
     for (int row = 1; row < rows; ++row) {
-        const double value = m_DataSet->GetRow(row)->GetValue(attribute);
         for (size_t column = 1; column < size_t(columns); ++column) {
-            const double difference = value - m_Signal->GetSignal()[column];
+            const double difference = values[row] - m_Signal->GetSignal()[column];
             cells[column] = difference * difference +
                             std::min({above[column], cells[column - 1], above[column - 1]});
         }

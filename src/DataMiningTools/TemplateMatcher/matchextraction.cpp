@@ -1,6 +1,7 @@
 #include "matchextraction.h"
 
 #include "patternsdataobject.h"
+#include "wholecorrelation.h"
 #include <algorithm>
 #include <iterator>
 
@@ -55,20 +56,36 @@ CenterPoints computeCenterPoints(const SearchResults& results, const std::vector
     return matches;
 }
 
-MatchExtent ExtentOfMatch(int center, int width, int steps)
+RowSpan ExtentOfMatch(int center, int width, int steps)
 {
     return {std::max(center - width / 2, 0), std::min(center + width / 2, steps)};
+}
+
+SearchMatches ExtentsOfMatches(const CenterPoints& matches, const PatternsDataObject& pattern,
+                               int steps)
+{
+    SearchMatches extents;
+    const std::vector<int> widths = TemplateWidths(pattern);
+    for (size_t r = 0; r < std::min(matches.size(), widths.size()); ++r) {
+        if (widths[r] == 0)
+            continue;
+        const double factor = pattern.GetSignalCollections()[int(r)]->GetFrequencyFactor();
+        qCDebug(lcMatcher, "Signal freq - width: %g %d", factor, widths[r]);
+        for (const int center : matches[r])
+            extents.append({ExtentOfMatch(center, widths[r], steps)});
+    }
+    return extents;
 }
 
 CenterPoints WithoutSteps(const CenterPoints& matches, const std::vector<int>& steps)
 {
     if (steps.empty())
         return matches;
-    CenterPoints kept(matches.size());
+    CenterPoints rest(matches.size());
     for (size_t r = 0; r < matches.size(); ++r)
         std::set_difference(matches[r].begin(), matches[r].end(), steps.begin(), steps.end(),
-                            std::back_inserter(kept[r]));
-    return kept;
+                            std::back_inserter(rest[r]));
+    return rest;
 }
 
 std::vector<int> StepsOfMatches(const CenterPoints& matches, double first, double last)
@@ -92,11 +109,11 @@ qint64 CountMatches(const CenterPoints& matches)
     return count;
 }
 
-std::vector<Match> ChooseEvenly(const CenterPoints& matches, int most)
+std::vector<CenterPoint> ChooseEvenly(const CenterPoints& matches, int most)
 {
     const qint64 total = CountMatches(matches);
     const qint64 count = std::min(total, qint64(most));
-    std::vector<Match> chosen;
+    std::vector<CenterPoint> chosen;
     chosen.reserve(size_t(count));
     size_t factor = 0;
     qint64 before = 0; // matches of the factors that have been passed
@@ -107,14 +124,4 @@ std::vector<Match> ChooseEvenly(const CenterPoints& matches, int most)
         chosen.push_back({int(factor), matches[factor][size_t(index - before)]});
     }
     return chosen;
-}
-
-MatchFlags::MatchFlags(const CenterPoints& matches, int steps)
-{
-    for (const std::vector<int>& centers : matches) {
-        m_Flags.push_back(std::make_unique<bool[]>(size_t(steps)));
-        m_Rows.push_back(m_Flags.back().get());
-        for (const int center : centers)
-            m_Rows.back()[center] = true;
-    }
 }

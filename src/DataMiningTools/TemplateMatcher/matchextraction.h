@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
-#include <memory>
+#include "searchmatch.h"
 #include <vector>
 
 class PatternsDataObject;
@@ -19,21 +18,15 @@ struct SearchResults {
 /// The steps on which matches are centred, ascending, per frequency factor.
 using CenterPoints = std::vector<std::vector<int>>;
 
-/// A match of the template at one frequency factor.
-struct Match {
+/// One of them.
+struct CenterPoint {
     int m_Factor;
-    int m_Center;
+    int m_Step;
 
-    bool operator==(const Match& other) const
+    bool operator==(const CenterPoint& other) const
     {
-        return m_Factor == other.m_Factor && m_Center == other.m_Center;
+        return m_Factor == other.m_Factor && m_Step == other.m_Step;
     }
-};
-
-/// The rows of a match, from the first up to, but without, the last.
-struct MatchExtent {
-    int m_From;
-    int m_To;
 };
 
 /// The length of the first signal per signal collection of the pattern; 0 for one without
@@ -48,7 +41,12 @@ CenterPoints computeCenterPoints(const SearchResults& results, const std::vector
                                  float threshold);
 
 /// The span of half a template to both sides, inside the steps.
-MatchExtent ExtentOfMatch(int center, int width, int steps);
+RowSpan ExtentOfMatch(int center, int width, int steps);
+
+/// The spans of all matches of the pattern, by frequency factor and then by step. There are none
+/// for a factor without signals.
+SearchMatches ExtentsOfMatches(const CenterPoints& matches, const PatternsDataObject& pattern,
+                               int steps);
 
 /// The matches without those on one of the steps, which are ascending.
 CenterPoints WithoutSteps(const CenterPoints& matches, const std::vector<int>& steps);
@@ -59,17 +57,4 @@ std::vector<int> StepsOfMatches(const CenterPoints& matches, double first, doubl
 qint64 CountMatches(const CenterPoints& matches);
 
 /// At most that many of the matches, evenly spread; all of them when there are no more.
-std::vector<Match> ChooseEvenly(const CenterPoints& matches, int most);
-
-/// Matches as flags, one per step and frequency factor, the form in which cuts are inserted.
-class MatchFlags
-{
-public:
-    MatchFlags(const CenterPoints& matches, int steps);
-    /// Valid as long as this object.
-    bool** Get() { return m_Rows.data(); }
-
-private:
-    std::vector<std::unique_ptr<bool[]>> m_Flags;
-    std::vector<bool*> m_Rows;
-};
+std::vector<CenterPoint> ChooseEvenly(const CenterPoints& matches, int most);

@@ -1,22 +1,15 @@
 #include "templatematcher.h"
 
 #include "alignedarray.h"
-#include "blockcorrelation.h"
+#include "attributesearch.h"
 #include "cutcollection.h"
 #include "dataset.h"
-#include "datatransformer.h"
 #include "directcorrelation.h"
-#include "exclusionmark.h"
 #include "patternsdataobject.h"
 #include "rowwindow.h"
-#include "runningnormalization.h"
 #include "wholecorrelation.h"
 #include <QElapsedTimer>
-#include <QLoggingCategory>
 #include <algorithm>
-#include <limits>
-
-Q_LOGGING_CATEGORY(lcMatcher, "skerrymoor.matcher", QtWarningMsg)
 
 namespace
 {
@@ -26,60 +19,12 @@ bool holdsAttribute(const DataSet& data, int attribute)
     return attribute >= 0 && attribute < data.GetAttributeCount();
 }
 
-bool canMatch(const DataSet* data, const SignalTemplateDataObject* signal, int attribute, int start,
-              int end)
+bool canMatch(const DataSet* data, const SignalTemplateDataObject* signal, int attribute,
+              RowSpan rows)
 {
-    return data && signal && holdsAttribute(*data, attribute) && start >= 0 &&
-           end <= data->GetRowCount() && signal->GetLength() >= 1 &&
-           signal->GetLength() <= end - start;
-}
-
-std::unique_ptr<double[]> copySignal(const SignalTemplateDataObject& signal)
-{
-    int length = 0;
-    return DataTransformer(DataTransformer::TRANSFORM_NONE)
-        .TransformData(signal.GetSignal(), signal.GetLength(), length);
-}
-
-void correlate(RowWindow& rows, const SignalTemplateDataObject& signal, float* results)
-{
-    const auto filter = copySignal(signal);
-    CorrelateByBlocks(rows, filter.get(), signal.GetLength(), results);
-}
-
-void correlateNormalized(RowWindow& rows, const SignalTemplateDataObject& signal, float* results)
-{
-    const int width = signal.GetLength();
-    const auto mean = double(float(signal.GetMean()));
-    const auto filter = copySignal(signal);
-    std::for_each(filter.get(), filter.get() + width, [=](double& value) { value -= mean; });
-
-    const auto deviation = float(signal.GetSd());
-    BlockCorrelation correlation(rows.GetLength(), filter.get(), width);
-    const int windows = rows.GetLength() - width + 1;
-    const int step = std::min(correlation.GetStep(), windows);
-    RunningNormalization running(rows, width, step);
-    float* middle = results + (width - 1) / 2;
-    for (int done = 0, count = 0; done < windows; done += count) {
-        count = std::min(step, windows - done);
-        running.Advance(count);
-        const double* sums = correlation.Correlate(running.GetCentred(), count);
-        for (int i = 0; i < count; ++i) {
-            const float scale = deviation * running.GetRootMeanSquares()[i];
-            middle[done + i] = float(sums[i]) / (scale == 0.0F ? 1.0F : scale) / float(width);
-        }
-    }
-}
-
-/// Adds the confidences of one signal; what is no positive number adds nothing.
-void addPositive(const std::vector<float>& confidences, std::vector<float>& sum)
-{
-    constexpr float largest = std::numeric_limits<float>::max();
-    std::transform(sum.begin(), sum.end(), confidences.begin(), sum.begin(),
-                   [=](float value, float confidence) {
-                       return value +
-                              (confidence > 0.0F && confidence <= largest ? confidence : 0.0F);
-                   });
+    return data && signal && holdsAttribute(*data, attribute) && rows.m_From >= 0 &&
+           rows.m_To <= data->GetRowCount() && signal->GetLength() >= 1 &&
+           signal->GetLength() <= rows.GetLength();
 }
 
 int countSignals(const PatternsDataObject& pattern)
@@ -88,6 +33,18 @@ int countSignals(const PatternsDataObject& pattern)
     for (const auto* collection : pattern.GetSignalCollections())
         count += collection->GetSignals().size();
     return count;
+}
+
+/// Those of a group's signals that fit into the rows.
+std::vector<SignalGroups::Member> fittingOf(const SignalGroups::Group& group, const DataSet* data,
+                                            RowSpan rows)
+{
+    std::vector<SignalGroups::Member> fitting;
+    for (const auto& member : group.m_Members) {
+        if (canMatch(data, member.m_Signal, group.m_Attribute, rows))
+            fitting.push_back(member);
+    }
+    return fitting;
 }
 
 } // namespace
@@ -118,25 +75,39 @@ bool TemplateMatcher::Convolve(const QHash<QString, int>& attributeMap)
 bool TemplateMatcher::Convolve(int start, int end, const QHash<QString, int>& attributeMap)
 {
     NoProgress progress;
-    return match(start, end, attributeMap, progress);
+    Results results;
+    if (!match({start, end}, attributeMap, progress, results))
+        return false;
+    take(std::move(results));
+    return true;
 }
 
 bool TemplateMatcher::Convolve(Progress& progress, const QHash<QString, int>& attributeMap,
                                CutCollection* cuts, CutSegment::SEGMENT_STATE state)
 {
-    const int signalCount = m_Pattern ? countSignals(*m_Pattern) : 0;
     const int segments = cuts ? cuts->GetSegmentCount() : 0;
-    progress.SetRange(0, signalCount + segments);
-    const int rows = m_DataSet ? m_DataSet->GetRowCount() : 0;
-    if (!match(0, rows, attributeMap, progress))
+    progress.SetRange(0, (m_Pattern ? countSignals(*m_Pattern) : 0) + segments);
+    Results results;
+    if (!match({0, m_DataSet ? m_DataSet->GetRowCount() : 0}, attributeMap, progress, results) ||
+        (cuts && !markOthers(*cuts, state, progress, results)))
         return false;
-    for (int i = 0; i < segments; ++i) {
-        progress.SetValue(signalCount + i + 1);
-        const CutSegment* segment = cuts->GetSegment(i);
+    take(std::move(results));
+    return true;
+}
+
+bool TemplateMatcher::markOthers(const CutCollection& cuts, CutSegment::SEGMENT_STATE state,
+                                 Progress& progress, Results& results)
+{
+    const int rows = m_DataSet->GetRowCount();
+    for (int i = 0; i < cuts.GetSegmentCount(); ++i) {
+        progress.SetValue(++m_Done);
+        if (isStopped(progress))
+            return false;
+        const CutSegment* segment = cuts.GetSegment(i);
         const int from = qBound(0, segment->GetFrom(), rows);
         const int to = qBound(from, segment->GetTo(), rows);
-        for (size_t c = 0; segment->GetState() != state && c < m_Results.size(); ++c)
-            std::fill_n(m_Results[c].begin() + from, to - from, ExclusionMark);
+        for (size_t c = 0; segment->GetState() != state && c < results.size(); ++c)
+            std::fill_n(results[c].begin() + from, to - from, ExclusionMark);
     }
     return true;
 }
@@ -147,69 +118,78 @@ bool TemplateMatcher::refuse(const QString& message)
     return false;
 }
 
-bool TemplateMatcher::match(int start, int end, const QHash<QString, int>& attributeMap,
-                            Progress& progress)
+bool TemplateMatcher::isStopped(const Progress& progress)
 {
-    m_ResultPointers.clear();
-    m_Results.clear();
-    if (!m_DataSet || !m_Pattern)
-        return refuse(QStringLiteral("There is no data or no template."));
-    if (start < 0 || start > end || end > m_DataSet->GetRowCount())
-        return refuse(QStringLiteral("The rows to search are not in the data."));
-    QElapsedTimer timer;
-    timer.start();
-    try {
-        makeResults(end - start);
-        if (!matchAll(start, end, attributeMap, progress))
-            return refuse(QStringLiteral("There is no such measure."));
-    } catch (const std::bad_alloc&) {
-        m_ResultPointers.clear();
-        m_Results.clear();
-        return refuse(QString::fromLatin1(MemoryLimitError().what()));
-    }
-    qCDebug(lcMatcher) << "Time taken:" << timer.elapsed() << "No Templates:" << m_Results.size();
-    return true;
+    return progress.IsStopRequested() && !refuse(QStringLiteral("The search was stopped."));
 }
 
-void TemplateMatcher::makeResults(int length)
+void TemplateMatcher::take(Results results)
 {
-    for (int i = 0; i < m_Pattern->GetSignalCollections().size(); ++i)
-        m_Results.emplace_back(size_t(length));
+    m_Results = std::move(results);
+    m_ResultPointers.clear();
     for (auto& result : m_Results)
         m_ResultPointers.push_back(result.data());
 }
 
-bool TemplateMatcher::matchAll(int start, int end, const QHash<QString, int>& attributeMap,
-                               Progress& progress)
+bool TemplateMatcher::match(RowSpan rows, const QHash<QString, int>& attributeMap,
+                            Progress& progress, Results& results)
 {
-    int done = 0;
-    for (size_t c = 0; c < m_Results.size(); ++c) {
-        const auto& collection = m_Pattern->GetSignalCollections()[int(c)]->GetSignals();
-        for (const auto* signal : collection) {
-            const int attribute = attributeMap.value(signal->GetAttributeName(), 0);
-            if (canMatch(m_DataSet, signal, attribute, start, end) &&
-                !addMatches(RowWindow(*m_DataSet, attribute, start, end), *signal, m_Results[c]))
-                return false;
-            progress.SetValue(++done);
-        }
-        const auto count = float(std::max(collection.size(), 1));
-        std::for_each(m_Results[c].begin(), m_Results[c].end(),
-                      [=](float& value) { value /= count; });
+    if (!m_DataSet || !m_Pattern)
+        return refuse(QStringLiteral("There is no data or no template."));
+    if (rows.m_From < 0 || rows.m_From > rows.m_To || rows.m_To > m_DataSet->GetRowCount())
+        return refuse(QStringLiteral("The rows to search are not in the data."));
+    QElapsedTimer timer;
+    timer.start();
+    try {
+        if (!matchAll(rows, attributeMap, progress, results))
+            return false;
+    } catch (const std::bad_alloc&) {
+        return refuse(QString::fromLatin1(MemoryLimitError().what()));
+    }
+    qCDebug(lcMatcher) << "Time taken:" << timer.elapsed() << "No Templates:" << results.size();
+    return true;
+}
+
+bool TemplateMatcher::matchAll(RowSpan rows, const QHash<QString, int>& attributeMap,
+                               Progress& progress, Results& results)
+{
+    const auto& collections = m_Pattern->GetSignalCollections();
+    for (int c = 0; c < collections.size(); ++c)
+        results.emplace_back(size_t(rows.GetLength()));
+    m_Done = 0;
+    SignalGroups groups(*m_Pattern, attributeMap);
+    for (auto group = groups.Take(); !group.m_Members.empty(); group = groups.Take()) {
+        if (!matchGroup(rows, group, progress, results))
+            return false;
+    }
+    for (int c = 0; c < collections.size(); ++c) {
+        const auto count = float(std::max(collections[c]->GetSignals().size(), 1));
+        auto& sums = results[size_t(c)];
+        std::for_each(sums.begin(), sums.end(), [=](float& value) { value /= count; });
     }
     return true;
 }
 
-bool TemplateMatcher::addMatches(RowWindow rows, const SignalTemplateDataObject& signal,
-                                 std::vector<float>& sum) const
+bool TemplateMatcher::matchGroup(RowSpan rows, const SignalGroups::Group& group, Progress& progress,
+                                 Results& results)
 {
+    const auto fitting = fittingOf(group, m_DataSet, rows);
+    m_Done += int(group.m_Members.size() - fitting.size());
+    if (fitting.empty())
+        return true;
     if (getMeasureName(m_Measure).isEmpty())
-        return false;
-    std::vector<float> confidences(sum.size());
-    if (m_Measure == MEASURE_CORRELATION)
-        correlate(rows, signal, confidences.data());
-    else
-        correlateNormalized(rows, signal, confidences.data());
-    addPositive(confidences, sum);
+        return refuse(QStringLiteral("There is no such measure."));
+    const ConstSpan<double> column = m_DataSet->GetColumn(group.m_Attribute);
+    AttributeSearch search(column.Part(rows.m_From, rows.m_To), fitting);
+    for (const auto& [collection, signal] : fitting) {
+        if (m_Measure == MEASURE_CORRELATION)
+            search.AddCorrelation(*signal, results[collection]);
+        else
+            search.AddNormalizedCorrelation(*signal, results[collection]);
+        progress.SetValue(++m_Done);
+        if (isStopped(progress))
+            return false;
+    }
     return true;
 }
 
@@ -259,19 +239,22 @@ void TemplateMatcher::fastNormalizedRunningCorrelation(const DataSet* dataSet,
                                                        int attribute, float* results,
                                                        int startIndex, int endIndex)
 {
-    if (!canMatch(dataSet, signal, attribute, startIndex, endIndex))
+    if (!canMatch(dataSet, signal, attribute, {startIndex, endIndex}))
         return;
-    RowWindow rows(*dataSet, attribute, startIndex, endIndex);
-    correlateNormalized(rows, *signal, results);
+    RowWindow rows(dataSet->GetColumn(attribute).Part(startIndex, endIndex));
+    float* middles = results + (signal->GetLength() - 1) / 2;
+    CorrelateWithSignal(rows, *signal, [=](int first, const float* confidences, int count) {
+        std::copy_n(confidences, count, middles + first);
+    });
 }
 
 void TemplateMatcher::directCorrelation(const DataSet* dataSet,
                                         const SignalTemplateDataObject* signal, int attribute,
                                         float* results, int startIndex, int endIndex)
 {
-    if (!canMatch(dataSet, signal, attribute, startIndex, endIndex))
+    if (!canMatch(dataSet, signal, attribute, {startIndex, endIndex}))
         return;
-    RowWindow rows(*dataSet, attribute, startIndex, endIndex);
+    RowWindow rows(dataSet->GetColumn(attribute).Part(startIndex, endIndex));
     CorrelateDirectly(rows.Get(0, rows.GetLength()), rows.GetLength(), *signal, results);
 }
 
@@ -279,10 +262,10 @@ void TemplateMatcher::normalizedCorrelation(const DataSet* dataSet,
                                             const SignalTemplateDataObject* signal, int attribute,
                                             float* results, int startIndex, int endIndex)
 {
-    if (!canMatch(dataSet, signal, attribute, startIndex, endIndex))
+    if (!canMatch(dataSet, signal, attribute, {startIndex, endIndex}))
         return;
     const int length = dataSet->GetRowCount();
-    RowWindow rows(*dataSet, attribute, 0, length);
+    RowWindow rows(dataSet->GetColumn(attribute));
     const double* column = rows.Get(0, length);
     CorrelateNormalized(column + startIndex, endIndex - startIndex, *signal, {column, length},
                         results);
@@ -293,8 +276,8 @@ void TemplateMatcher::normalizedRunningCorrelation(const DataSet* dataSet,
                                                    int attribute, float* results, int startIndex,
                                                    int endIndex)
 {
-    if (!canMatch(dataSet, signal, attribute, startIndex, endIndex))
+    if (!canMatch(dataSet, signal, attribute, {startIndex, endIndex}))
         return;
-    RowWindow rows(*dataSet, attribute, startIndex, endIndex);
+    RowWindow rows(dataSet->GetColumn(attribute).Part(startIndex, endIndex));
     CorrelateNormalizedByWindow(rows.Get(0, rows.GetLength()), rows.GetLength(), *signal, results);
 }

@@ -2,6 +2,8 @@
 
 #include "cutsegment.h"
 #include "progress.h"
+#include "rowspan.h"
+#include "signalgroups.h"
 #include <QHash>
 #include <QString>
 #include <vector>
@@ -9,8 +11,11 @@
 class CutCollection;
 class DataSet;
 class PatternsDataObject;
-class RowWindow;
 class SignalTemplateDataObject;
+
+/// The confidence of a row that lies in a segment left out of a search: no data. Consumers test
+/// for exactly this value.
+constexpr float ExclusionMark = -200000.0F;
 
 /// Slides the signals of a template over a data set and tells, for each of the template's
 /// frequency factors and every row, how sure it is that the template lies around that row.
@@ -33,18 +38,20 @@ public:
     /// Matches rows start to end - 1. attributeMap gives the attribute for a signal's attribute
     /// name: attribute 0 for a name that is not in it; a signal whose attribute does not exist
     /// counts as one that matches nowhere, as does one longer than the range. Negative
-    /// correlation counts as none. False, with a message, when data or template are missing, the
-    /// range is not in the data, the measure is unknown or memory does not suffice.
+    /// correlation counts as none. False, with a message and the earlier results whole, when data
+    /// or template are missing, the range is not in the data, the measure is unknown or memory
+    /// does not suffice.
     bool Convolve(int start, int end, const QHash<QString, int>& attributeMap);
     /// Matches all rows.
     bool Convolve(const QHash<QString, int>& attributeMap);
     /// Matches all rows, and marks those in segments of another state than state by
-    /// ExclusionMark. The range of progress becomes the number of signals and segments.
+    /// ExclusionMark. The range of progress becomes the number of signals and segments; a request
+    /// to stop is asked for behind each, and ends the search as a failure.
     bool Convolve(Progress& progress, const QHash<QString, int>& attributeMap, CutCollection* cuts,
                   CutSegment::SEGMENT_STATE state);
 
     /// One array per signal collection of the template, in its order, as long as the range. They
-    /// belong to the matcher and last until the next Convolve.
+    /// belong to the matcher and last until a Convolve goes well.
     float** getResults() { return m_ResultPointers.data(); }
     QString getErrorMessage() const { return m_ErrorMessage; }
     int GetOption() const { return m_Option; }
@@ -52,7 +59,8 @@ public:
     static QString getMeasureName(int measure);
 
     /// Brings all values except ExclusionMark to 0 to 1 by their minimum and maximum, which are
-    /// returned. When the very first value is the mark, the minimum stays at it: kept.
+    /// returned. When the very first value is the mark, the minimum stays at it, and all other
+    /// values end near 1: searches of which the first row is left out pass at any threshold.
     static void normalizeResults(float** results, int collections, int length, float& min,
                                  float& max);
     /// Brings min to 0 and max to 1, without exception.
@@ -61,7 +69,7 @@ public:
 
     /// The correlation of data with a filter not longer than it, in one transform of all data:
     /// results[s + (filterLength - 1) / 2] becomes the sum of data[s + j] * filter[j]. Other
-    /// results stay as they are. What CorrelateByBlocks gives is measured by this one.
+    /// results stay as they are. See CorrelateWhole.
     static void convolveFast(const double* data, int dataLength, const double* filter,
                              int filterLength, float* results);
 
@@ -90,18 +98,27 @@ public:
                                              float* results, int startIndex, int endIndex);
 
 private:
-    bool match(int start, int end, const QHash<QString, int>& attributeMap, Progress& progress);
-    bool matchAll(int start, int end, const QHash<QString, int>& attributeMap, Progress& progress);
-    bool addMatches(RowWindow rows, const SignalTemplateDataObject& signal,
-                    std::vector<float>& sum) const;
+    using Results = std::vector<std::vector<float>>;
+
+    bool match(RowSpan rows, const QHash<QString, int>& attributeMap, Progress& progress,
+               Results& results);
+    bool matchAll(RowSpan rows, const QHash<QString, int>& attributeMap, Progress& progress,
+                  Results& results);
+    bool matchGroup(RowSpan rows, const SignalGroups::Group& group, Progress& progress,
+                    Results& results);
+    bool markOthers(const CutCollection& cuts, CutSegment::SEGMENT_STATE state, Progress& progress,
+                    Results& results);
     bool refuse(const QString& message);
-    void makeResults(int length);
+    bool isStopped(const Progress& progress);
+    void take(Results results);
 
     DataSet* m_DataSet;
     PatternsDataObject* m_Pattern;
-    std::vector<std::vector<float>> m_Results;
+    Results m_Results;
     std::vector<float*> m_ResultPointers;
     int m_Option;
     int m_Measure;
+    // Signals and segments that are through.
+    int m_Done = 0;
     QString m_ErrorMessage = QStringLiteral("N/A");
 };

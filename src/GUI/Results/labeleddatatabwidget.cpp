@@ -43,7 +43,6 @@ LabeledDataTabWidget::LabeledDataTabWidget(QWidget* parent)
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addLayout(makeButtons());
     layout->addWidget(m_Tabs, 1);
-    connect(m_Tabs, &QTabWidget::currentChanged, this, &LabeledDataTabWidget::enableButtons);
     enableButtons();
 }
 

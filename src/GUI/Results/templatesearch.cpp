@@ -7,18 +7,18 @@
 #include "templatedialog.h"
 #include "templatewizard.h"
 #include "thresholdwizard.h"
+#include <optional>
 
 namespace
 {
 
-// The state of the segments that the user wants to search; false when he cancels.
-bool askSearchMode(QWidget* parent, int& mode)
+// The state of the segments that the user wants to search; nothing when he cancels.
+std::optional<CutSegment::SEGMENT_STATE> askSearchMode(QWidget* parent)
 {
     ModalDialog<ResultSearchOptionDialog> dialog(parent);
     if (!dialog.IsAccepted())
-        return false;
-    mode = dialog->GetSearchMode();
-    return true;
+        return std::nullopt;
+    return dialog->GetSearchMode();
 }
 
 } // namespace
@@ -33,28 +33,26 @@ std::unique_ptr<PatternsDataObject> SaveTemplate(QWidget* parent, DataSet* data,
 bool SearchForRows(QWidget* parent, DataSet* data, CutCollection* cuts, int from, int to)
 {
     const auto pattern = SaveTemplate(parent, data, from, to);
-    return pattern && ModalDialog<TemplateWizard>(data, cuts, int(CutSegment::SEGMENT_CUT),
-                                                  pattern.get(), parent)
-                          .IsAccepted();
+    return pattern &&
+           ModalDialog<TemplateWizard>(data, cuts, CutSegment::SEGMENT_CUT, pattern.get(), parent)
+               .IsAccepted();
 }
 
 bool SearchTemplates(QWidget* parent, DataSet* data, CutCollection* cuts)
 {
-    int mode = 0;
-    return askSearchMode(parent, mode) &&
-           ModalDialog<TemplateWizard>(data, cuts, mode, parent).IsAccepted();
+    const auto mode = askSearchMode(parent);
+    return mode && ModalDialog<TemplateWizard>(data, cuts, *mode, parent).IsAccepted();
 }
 
 bool SearchThresholds(QWidget* parent, DataSet* data, CutCollection* cuts)
 {
-    int mode = 0;
-    return askSearchMode(parent, mode) &&
-           ModalDialog<ThresholdWizard>(data, cuts, mode, parent).IsAccepted();
+    const auto mode = askSearchMode(parent);
+    return mode && ModalDialog<ThresholdWizard>(data, cuts, *mode, parent).IsAccepted();
 }
 
 bool SearchRules(QWidget* parent, DataSet* data, CutCollection* cuts, LabelCollection* labels)
 {
-    int mode = 0;
-    return askSearchMode(parent, mode) &&
-           ModalDialog<RuleAssociationWizard>(data, cuts, labels, mode, parent).IsAccepted();
+    const auto mode = askSearchMode(parent);
+    return mode &&
+           ModalDialog<RuleAssociationWizard>(data, cuts, labels, *mode, parent).IsAccepted();
 }

@@ -7,7 +7,7 @@
 namespace
 {
 
-// Whatever scheme the plots around it use: kept.
+// Whatever scheme the plots around it use.
 constexpr int colorMap = 3;
 
 QColor colorAt(double value)

@@ -1,8 +1,8 @@
 #include "insertmatches.h"
 #include "labelsegment.h"
-#include "progress.h"
 #include "ruleextractor.h"
 #include "segmenttext.h"
+#include "stoppingprogress.h"
 #include "testdata.h"
 #include "thresholdextractor.h"
 #include <QtTest>
@@ -18,12 +18,14 @@ QString toText(const SearchMatches& matches)
     for (const SearchMatch& match : matches) {
         const QString count =
             match.m_Count == 1 ? QString() : QStringLiteral("x%1").arg(match.m_Count);
-        texts.append(QStringLiteral("(%1,%2)%3").arg(match.m_From).arg(match.m_To).arg(count));
+        texts.append(
+            QStringLiteral("(%1,%2)%3").arg(match.m_Rows.m_From).arg(match.m_Rows.m_To).arg(count));
     }
     return texts.join(QLatin1Char(' '));
 }
 
-QString findRuns(const DataSet& data, const CutCollection& cuts, int searchMode,
+QString findRuns(const DataSet& data, const CutCollection& cuts,
+                 CutSegment::SEGMENT_STATE searchMode,
                  const std::vector<ThresholdParameter>& parameters, int minimumLength)
 {
     ThresholdExtractor extractor(&data, &cuts, searchMode);
@@ -35,7 +37,8 @@ QString findRuns(const DataSet& data, const CutCollection& cuts, int searchMode,
 }
 
 // Every row's answer on its own, then pairs that grow row by row, then a pass that drops the short.
-QString scanForRuns(const DataSet& data, const CutCollection& cuts, int searchMode,
+QString scanForRuns(const DataSet& data, const CutCollection& cuts,
+                    CutSegment::SEGMENT_STATE searchMode,
                     const std::vector<ThresholdParameter>& parameters, int minimumLength)
 {
     QList<QPair<int, int>> pairs;
@@ -59,7 +62,7 @@ QString scanForRuns(const DataSet& data, const CutCollection& cuts, int searchMo
     SearchMatches matches;
     for (const auto& pair : pairs) {
         if (pair.second - pair.first >= minimumLength)
-            matches.append({pair.first, pair.second});
+            matches.append(SearchMatch{{pair.first, pair.second}});
     }
     return toText(matches);
 }
@@ -94,7 +97,7 @@ struct LabelledCuts {
 };
 
 SearchMatches findRule(const LabelledCuts& cuts, const QString& rule, int length, int rows,
-                       int searchMode = CutSegment::SEGMENT_CUT)
+                       CutSegment::SEGMENT_STATE searchMode = CutSegment::SEGMENT_CUT)
 {
     const auto data = MakeColumn(std::vector<double>(size_t(rows)));
     RuleExtractor extractor(data.get(), &cuts.m_Cuts, &cuts.m_Labels, searchMode);
@@ -128,7 +131,7 @@ SearchMatches scanForRule(const LabelledCuts& cuts, const QString& rule, int len
         int index = 0;
         const CutSegment* n = cuts.m_Cuts.FindSegment(s->GetTo() + 1, index);
         if (n && n->GetState() == CutSegment::SEGMENT_CUT && n->GetFrom() + length <= n->GetTo())
-            matches.append({n->GetFrom(), n->GetFrom() + length});
+            matches.append(SearchMatch{{n->GetFrom(), n->GetFrom() + length}});
     }
     return matches;
 }
@@ -145,6 +148,7 @@ private slots:
     void rules();
     void rulesOfRandomLabels();
     void countsManyWays();
+    void keepsMatchesWhenStopped();
     void inserts();
 };
 
@@ -158,16 +162,19 @@ void TestSearchExtractors::runs()
     const ThresholdParameter low{ThresholdParameter::VALUE_ABOVE, 0, 2};
     const ThresholdParameter any{ThresholdParameter::ATTRIBUTE_ABOVE_OR_EQUAL, 0, 0};
     // A run ends with its segment, by its last row; one of exactly the length stays.
-    QCOMPARE(findRuns(*data, cuts, 1, {any}, 0), QStringLiteral("(2,2) (3,4)"));
-    QCOMPARE(findRuns(*data, cuts, 1, {any}, 1), QStringLiteral("(3,4)"));
-    QCOMPARE(findRuns(*data, cuts, 1, {any}, 2), QString());
-    QCOMPARE(findRuns(*data, cuts, 1, {any, {0, 1, 9}}, 0), QStringLiteral("(2,2) (3,3)"));
-    QCOMPARE(findRuns(*data, cuts, 2, {low, {1, 1, 5}}, 0), QStringLiteral("(0,1)"));
-    QCOMPARE(findRuns(*data, cuts, 1, {}, 0), QString());
+    QCOMPARE(findRuns(*data, cuts, CutSegment::SEGMENT_CUT, {any}, 0),
+             QStringLiteral("(2,2) (3,4)"));
+    QCOMPARE(findRuns(*data, cuts, CutSegment::SEGMENT_CUT, {any}, 1), QStringLiteral("(3,4)"));
+    QCOMPARE(findRuns(*data, cuts, CutSegment::SEGMENT_CUT, {any}, 2), QString());
+    QCOMPARE(findRuns(*data, cuts, CutSegment::SEGMENT_CUT, {any, {0, 1, 9}}, 0),
+             QStringLiteral("(2,2) (3,3)"));
+    QCOMPARE(findRuns(*data, cuts, CutSegment::SEGMENT_RESULT, {low, {1, 1, 5}}, 0),
+             QStringLiteral("(0,1)"));
+    QCOMPARE(findRuns(*data, cuts, CutSegment::SEGMENT_CUT, {}, 0), QString());
     // Attributes and operators that there are not.
     for (const ThresholdParameter& unknown :
          {ThresholdParameter{0, 2, 9}, ThresholdParameter{0, -1, 9}, ThresholdParameter{4, 0, 9}})
-        QCOMPARE(findRuns(*data, cuts, 1, {any, unknown}, 0), QString());
+        QCOMPARE(findRuns(*data, cuts, CutSegment::SEGMENT_CUT, {any, unknown}, 0), QString());
 }
 
 void TestSearchExtractors::runsOfRandomData()
@@ -185,8 +192,8 @@ void TestSearchExtractors::runsOfRandomData()
             {int(random() % 4), 0, double(random() % 4)},
             {int(random() % 4), 1, int(random() % 5) - 2.0}};
         for (const int length : {0, 1, 3})
-            QCOMPARE(findRuns(*data, cuts, 1, parameters, length),
-                     scanForRuns(*data, cuts, 1, parameters, length));
+            QCOMPARE(findRuns(*data, cuts, CutSegment::SEGMENT_CUT, parameters, length),
+                     scanForRuns(*data, cuts, CutSegment::SEGMENT_CUT, parameters, length));
     }
 }
 
@@ -253,7 +260,7 @@ void TestSearchExtractors::rulesOfRandomLabels()
             const SearchMatches all = scanForRule(cuts, QString::fromLatin1(rule), 60);
             QCOMPARE(CountMatches(once), quint64(all.size()));
             for (SearchMatch& match : once) {
-                const SearchMatch single{match.m_From, match.m_To};
+                const SearchMatch single{match.m_Rows};
                 QCOMPARE(match.m_Count, quint64(all.count(single)));
             }
             found += CountMatches(once);
@@ -277,10 +284,35 @@ void TestSearchExtractors::countsManyWays()
     QCOMPARE(CountMatches(many), RuleExtractor::MaximumWays);
 }
 
+// Whoever stops, at whatever row or label, keeps what was found before.
+void TestSearchExtractors::keepsMatchesWhenStopped()
+{
+    const auto data = MakeColumn(std::vector<double>(20000, 1.0));
+    const LabelledCuts cuts("10L 20L 30L 5000 15000", QStringLiteral("AAA"));
+    ThresholdExtractor runs(data.get(), &cuts.m_Cuts, CutSegment::SEGMENT_CUT);
+    runs.SetParameters({{ThresholdParameter::ATTRIBUTE_ABOVE, 0, 0}});
+    RuleExtractor rule(data.get(), &cuts.m_Cuts, &cuts.m_Labels, CutSegment::SEGMENT_CUT);
+    rule.SetSearchLength(7);
+    rule.SetRuleLabels({QStringLiteral("A"), QStringLiteral("A"), QStringLiteral("A")});
+    NoProgress progress;
+    QVERIFY(runs.Extract(progress) && rule.Extract(progress));
+    const QString found = toText(runs.GetMatches()) + toText(rule.GetMatches());
+    QCOMPARE(found, QStringLiteral("(30,4999) (5000,14999)(30,37)"));
+    for (int step = 1; step <= 3; ++step) {
+        StoppingProgress atRows(step);
+        StoppingProgress atLabels(step);
+        runs.SetMinimumLength(9000);
+        rule.SetSearchLength(9);
+        QVERIFY(!runs.Extract(atRows));
+        QCOMPARE(rule.Extract(atLabels), step > 2);
+    }
+    QCOMPARE(toText(runs.GetMatches()), QStringLiteral("(30,4999) (5000,14999)"));
+}
+
 void TestSearchExtractors::inserts()
 {
     // Reversed ends, and one across a boundary.
-    const SearchMatches matches{{5, 10}, {18, 15}, {25, 27}, {35, 45}};
+    const SearchMatches matches{{{5, 10}}, {{18, 15}}, {{25, 27}}, {{35, 45}}};
     const QString starts = QStringLiteral("(0,5) R(5,10) (10,15) R(15,18) ");
     const QString ends = QStringLiteral(" R(25,27) (27,30) L(30,40) (40,60)");
     NoProgress progress;

@@ -1,5 +1,9 @@
+#include "insertmatches.h"
 #include "matchextraction.h"
+#include "patternsdataobject.h"
+#include "progress.h"
 #include "resultreduction.h"
+#include "segmenttext.h"
 #include "stepscale.h"
 #include <QtTest>
 #include <numeric>
@@ -78,6 +82,7 @@ private slots:
     void findsCenters();
     void agreesWithAWalkOverFlags();
     void spreadsAndLeavesOut();
+    void insertsAsFlagsDo();
     void reducesToPixels_data();
     void reducesToPixels();
 };
@@ -122,12 +127,8 @@ void TestMatchExtraction::agreesWithAWalkOverFlags()
         const std::vector<int> widths{1 + int(random() % 40), 1 + int(random() % 400)};
         const float threshold = float(random() % 9) / 8;
         const CenterPoints found = computeCenterPoints(results.Get(), widths, threshold);
-        MatchFlags flags(found, steps);
-        for (size_t r = 0; r < 2; ++r) {
+        for (size_t r = 0; r < 2; ++r)
             QCOMPARE(found[r], findCenters(results.m_Values[r], widths[r], threshold));
-            QCOMPARE(std::count(flags.Get()[r], flags.Get()[r] + steps, true),
-                     std::ptrdiff_t(found[r].size()));
-        }
     }
 }
 
@@ -136,9 +137,48 @@ void TestMatchExtraction::spreadsAndLeavesOut()
     const CenterPoints matches{{1, 4, 9}, {}, {4, 6, 20, 30}};
     QCOMPARE(WithoutSteps(matches, {4, 5, 30}), (CenterPoints{{1, 9}, {}, {6, 20}}));
     QCOMPARE(StepsOfMatches(matches, 3.5, 20), (std::vector<int>{4, 6, 9, 20}));
-    QCOMPARE(ChooseEvenly(matches, 3), (std::vector<Match>{{0, 1}, {0, 9}, {2, 6}}));
+    QCOMPARE(ChooseEvenly(matches, 3), (std::vector<CenterPoint>{{0, 1}, {0, 9}, {2, 6}}));
     QCOMPARE(ChooseEvenly(matches, 100).size(), size_t(7));
-    QCOMPARE(ChooseEvenly(matches, 100).back(), (Match{2, 30}));
+    QCOMPARE(ChooseEvenly(matches, 100).back(), (CenterPoint{2, 30}));
+}
+
+// As the cuts would be inserted from flags, one per step and factor; also beyond both ends.
+void TestMatchExtraction::insertsAsFlagsDo()
+{
+    QCOMPARE(ExtentOfMatch(58, 9, 60), (RowSpan{54, 60}));
+    QCOMPARE(ExtentOfMatch(3, 9, 60), (RowSpan{0, 7}));
+    PatternsDataObject pattern;
+    for (const int width : {9, 0, 4}) {
+        auto* collection = new SignalTemplateCollectionDataObject;
+        pattern.AddSignalCollection(collection);
+        if (width == 0)
+            continue;
+        collection->AddSignal(new SignalTemplateDataObject);
+        collection->GetSignals()[0]->SetSignal(std::vector<double>(size_t(width)).data(), width);
+    }
+    std::mt19937 random(5);
+    for (int run = 0; run < 200; ++run) {
+        bool rows[3][60] = {};
+        bool* flags[] = {rows[0], rows[1], rows[2]};
+        CenterPoints matches(3);
+        const std::vector<int> excluded{int(random() % 30), 30 + int(random() % 30)};
+        for (size_t step = 0; step < 60; ++step) {
+            const size_t r = random() % 20;
+            if (r > 2)
+                continue;
+            matches[r].push_back(int(step));
+            rows[r][step] = true;
+        }
+        CutCollection fromFlags;
+        CutCollection fromMatches;
+        MakeCuts(fromFlags, "20 35L 60");
+        MakeCuts(fromMatches, "20 35L 60");
+        fromFlags.InsertCuts(flags, 3, 60, &pattern, 1, {{7, excluded[0]}, {0, excluded[1]}});
+        NoProgress progress;
+        InsertMatches(fromMatches, ExtentsOfMatches(WithoutSteps(matches, excluded), pattern, 60),
+                      CutSegment::SEGMENT_CUT, progress);
+        QCOMPARE(ToText(fromMatches), ToText(fromFlags));
+    }
 }
 
 void TestMatchExtraction::reducesToPixels_data()

@@ -1,6 +1,6 @@
-#include "exclusionmark.h"
 #include "patternsdataobject.h"
 #include "segmenttext.h"
+#include "stoppingprogress.h"
 #include "templatematcher.h"
 #include "testdata.h"
 #include <QtTest>
@@ -90,6 +90,14 @@ void TestTemplateMatcher::marksOtherSegments()
     const auto m = double(ExclusionMark);
     for (int i = 0; i < 2; ++i)
         QCOMPARE(resultOf(matcher, i, 10), Values({2, 2, 2, m, m, m, m, m, 2, 2}));
+
+    // Whoever stops, behind a signal or a segment, keeps what was found before.
+    for (int signalsAndSegments = 1; signalsAndSegments <= 6; ++signalsAndSegments) {
+        StoppingProgress stop(signalsAndSegments);
+        QVERIFY(!matcher.Convolve(stop, {}, &cuts, CutSegment::SEGMENT_LABELED));
+        QCOMPARE(matcher.getErrorMessage(), QStringLiteral("The search was stopped."));
+        QCOMPARE(resultOf(matcher, 0, 10), Values({2, 2, 2, m, m, m, m, m, 2, 2}));
+    }
 
     // The last segment reaches beyond the data.
     QVERIFY(matcher.Convolve(progress, {}, &cuts, CutSegment::SEGMENT_LABELED));

@@ -141,7 +141,7 @@ void TestClassViews::moveAndRemove()
     m_Bar->setCurrentIndex(1);
     table(tab(1))->setFocus();
     QTest::keyClick(table(tab(1)), Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(table(tab(1)), Qt::Key_Delete);
+    ClickButton(tab(1), QStringLiteral("Remove Labels"));
     QCOMPARE(shown(tab(1)), qMakePair(0, 0));
     QCOMPARE(label(1)->GetInstanceCount(), 0);
     QCOMPARE(m_Cuts->CountSegments(CutSegment::SEGMENT_LABELED), 1);

@@ -21,7 +21,8 @@ constexpr int usualLength = 100;
 }
 
 RuleAssociationFilterPage::RuleAssociationFilterPage(DataSet* dataSet, const CutCollection* cuts,
-                                                     const LabelCollection* labels, int searchMode,
+                                                     const LabelCollection* labels,
+                                                     CutSegment::SEGMENT_STATE searchMode,
                                                      QWidget* parent)
     : SearchFilterPage(tr("Results"), dataSet, parent), m_DataSet(dataSet), m_CutCollection(cuts),
       m_LabelCollection(labels), m_SearchMode(searchMode), m_Rows(new SearchRows),
@@ -98,13 +99,14 @@ QStringList RuleAssociationFilterPage::getRule() const
 void RuleAssociationFilterPage::extractMatches()
 {
     const QStringList rule = getRule();
-    DialogProgress progress(this, tr("Rule Extraction"));
+    DialogProgress progress(this, tr("Rule Extraction"), DialogProgress::CAN_STOP);
     progress.SetLabelText(tr("Initalizing Rule Extractor"));
     progress.SetRange(0, 1 + rule.size());
     RuleExtractor extractor(m_DataSet, m_CutCollection, m_LabelCollection, m_SearchMode);
     extractor.SetRuleLabels(rule);
     extractor.SetSearchLength(m_SearchLength->value());
-    extractor.Extract(progress);
+    if (!extractor.Extract(progress))
+        return;
     progress.SetLabelText(tr("Updating GUI"));
     showMatches(extractor.GetMatches());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cutsegment.h"
 #include "searchfilterpage.h"
 #include <QList>
 
@@ -16,7 +17,7 @@ class RuleAssociationFilterPage : public SearchFilterPage
 public:
     /// searchMode: the state of the segments that hold the matches.
     RuleAssociationFilterPage(DataSet* dataSet, const CutCollection* cuts,
-                              const LabelCollection* labels, int searchMode,
+                              const LabelCollection* labels, CutSegment::SEGMENT_STATE searchMode,
                               QWidget* parent = nullptr);
 
 public slots:
@@ -32,7 +33,7 @@ private:
     DataSet* m_DataSet;
     const CutCollection* m_CutCollection;
     const LabelCollection* m_LabelCollection;
-    int m_SearchMode;
+    CutSegment::SEGMENT_STATE m_SearchMode;
     SearchRows* m_Rows;
     QList<QComboBox*> m_Labels;
     QSlider* m_SearchLength;

@@ -7,5 +7,11 @@ class RuleAssociationWelcomePage : public SearchWelcomePage
 {
     Q_OBJECT
 public:
-    explicit RuleAssociationWelcomePage(int searchMode, QWidget* parent = nullptr);
+    explicit RuleAssociationWelcomePage(CutSegment::SEGMENT_STATE searchMode,
+                                        QWidget* parent = nullptr)
+        : SearchWelcomePage(tr("Rule Association Search"),
+                            tr("This search finds what follows a sequence of labeled behaviors."),
+                            searchMode, parent)
+    {
+    }
 };

@@ -12,8 +12,8 @@ enum Page { WELCOME_PAGE, FILTER_PAGE, RESIZE_PAGE };
 } // namespace
 
 RuleAssociationWizard::RuleAssociationWizard(DataSet* dataSet, CutCollection* cuts,
-                                             LabelCollection* labels, int searchMode,
-                                             QWidget* parent)
+                                             LabelCollection* labels,
+                                             CutSegment::SEGMENT_STATE searchMode, QWidget* parent)
     : QWizard(parent), m_Filter(new RuleAssociationFilterPage(dataSet, cuts, labels, searchMode)),
       m_Resize(new ResizeWizardPage(dataSet, cuts, searchMode))
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cutsegment.h"
 #include <QWizard>
 
 class CutCollection;
@@ -16,7 +17,7 @@ class RuleAssociationWizard : public QWizard
 public:
     /// searchMode: the state of the segments to search, those without a label or earlier results.
     RuleAssociationWizard(DataSet* dataSet, CutCollection* cuts, LabelCollection* labels,
-                          int searchMode, QWidget* parent = nullptr);
+                          CutSegment::SEGMENT_STATE searchMode, QWidget* parent = nullptr);
 
 protected:
     void initializePage(int id) override;

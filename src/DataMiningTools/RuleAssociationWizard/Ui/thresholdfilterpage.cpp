@@ -11,7 +11,7 @@
 #include <QSpinBox>
 
 ThresholdFilterPage::ThresholdFilterPage(DataSet* dataSet, const CutCollection* cuts,
-                                         int searchMode, QWidget* parent)
+                                         CutSegment::SEGMENT_STATE searchMode, QWidget* parent)
     : SearchFilterPage(tr("Extracted Results"), dataSet, parent), m_DataSet(dataSet),
       m_CutCollection(cuts), m_SearchMode(searchMode), m_Rows(new SearchRows),
       m_MinimumLength(new QSpinBox)
@@ -58,7 +58,7 @@ void ThresholdFilterPage::removeParameter(ThresholdParameterWidget* parameter)
 
 void ThresholdFilterPage::extractMatches()
 {
-    DialogProgress progress(this, tr("Threshold Extraction"));
+    DialogProgress progress(this, tr("Threshold Extraction"), DialogProgress::CAN_STOP);
     progress.SetLabelText(tr("Initalizing Threshold Extractor"));
     progress.SetRange(0, 1 + (m_CutCollection ? m_CutCollection->GetSegmentCount() : 0));
     std::vector<ThresholdParameter> parameters;
@@ -67,7 +67,8 @@ void ThresholdFilterPage::extractMatches()
     ThresholdExtractor extractor(m_DataSet, m_CutCollection, m_SearchMode);
     extractor.SetParameters(parameters);
     extractor.SetMinimumLength(m_MinimumLength->value());
-    extractor.Extract(progress);
+    if (!extractor.Extract(progress))
+        return;
     progress.SetLabelText(tr("Updating GUI"));
     showMatches(extractor.GetMatches());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cutsegment.h"
 #include "searchfilterpage.h"
 #include <QList>
 
@@ -14,8 +15,8 @@ class ThresholdFilterPage : public SearchFilterPage
     Q_OBJECT
 public:
     /// searchMode: the state of the segments to search.
-    ThresholdFilterPage(DataSet* dataSet, const CutCollection* cuts, int searchMode,
-                        QWidget* parent = nullptr);
+    ThresholdFilterPage(DataSet* dataSet, const CutCollection* cuts,
+                        CutSegment::SEGMENT_STATE searchMode, QWidget* parent = nullptr);
 
 public slots:
     void addThresholdParameter();
@@ -27,7 +28,7 @@ private:
 
     DataSet* m_DataSet;
     const CutCollection* m_CutCollection;
-    int m_SearchMode;
+    CutSegment::SEGMENT_STATE m_SearchMode;
     SearchRows* m_Rows;
     QList<ThresholdParameterWidget*> m_Parameters;
     QSpinBox* m_MinimumLength;

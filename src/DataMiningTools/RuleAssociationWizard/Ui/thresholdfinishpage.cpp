@@ -6,7 +6,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-ThresholdFinishPage::ThresholdFinishPage(CutCollection* cuts, int searchMode, QWidget* parent)
+ThresholdFinishPage::ThresholdFinishPage(CutCollection* cuts, CutSegment::SEGMENT_STATE searchMode,
+                                         QWidget* parent)
     : QWizardPage(parent), m_CutCollection(cuts), m_SearchMode(searchMode), m_Summary(new QLabel)
 {
     setTitle(tr("Insert Results"));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cutsegment.h"
 #include "searchmatch.h"
 #include <QWizardPage>
 
@@ -12,7 +13,8 @@ class ThresholdFinishPage : public QWizardPage
     Q_OBJECT
 public:
     /// searchMode: the state of the segments that were searched.
-    ThresholdFinishPage(CutCollection* cuts, int searchMode, QWidget* parent = nullptr);
+    ThresholdFinishPage(CutCollection* cuts, CutSegment::SEGMENT_STATE searchMode,
+                        QWidget* parent = nullptr);
 
     void SetMatches(const SearchMatches& matches);
     /// Inserts the matches into the cuts.
@@ -20,7 +22,7 @@ public:
 
 private:
     CutCollection* m_CutCollection;
-    int m_SearchMode;
+    CutSegment::SEGMENT_STATE m_SearchMode;
     SearchMatches m_Matches;
     QLabel* m_Summary;
 };

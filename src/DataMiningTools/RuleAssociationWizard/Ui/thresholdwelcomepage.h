@@ -7,5 +7,11 @@ class ThresholdWelcomePage : public SearchWelcomePage
 {
     Q_OBJECT
 public:
-    explicit ThresholdWelcomePage(int searchMode, QWidget* parent = nullptr);
+    explicit ThresholdWelcomePage(CutSegment::SEGMENT_STATE searchMode, QWidget* parent = nullptr)
+        : SearchWelcomePage(tr("Threshold Search"),
+                            tr("This search finds where the values of attributes stay above or "
+                               "below thresholds."),
+                            searchMode, parent)
+    {
+    }
 };

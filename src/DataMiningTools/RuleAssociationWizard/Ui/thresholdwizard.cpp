@@ -11,8 +11,8 @@ enum Page { WELCOME_PAGE, FILTER_PAGE, FINISH_PAGE };
 
 } // namespace
 
-ThresholdWizard::ThresholdWizard(DataSet* dataSet, CutCollection* cuts, int searchMode,
-                                 QWidget* parent)
+ThresholdWizard::ThresholdWizard(DataSet* dataSet, CutCollection* cuts,
+                                 CutSegment::SEGMENT_STATE searchMode, QWidget* parent)
     : QWizard(parent), m_Filter(new ThresholdFilterPage(dataSet, cuts, searchMode)),
       m_Finish(new ThresholdFinishPage(cuts, searchMode))
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cutsegment.h"
 #include <QWizard>
 
 class CutCollection;
@@ -14,7 +15,7 @@ class ThresholdWizard : public QWizard
     Q_OBJECT
 public:
     /// searchMode: the state of the segments to search, those without a label or earlier results.
-    ThresholdWizard(DataSet* dataSet, CutCollection* cuts, int searchMode,
+    ThresholdWizard(DataSet* dataSet, CutCollection* cuts, CutSegment::SEGMENT_STATE searchMode,
                     QWidget* parent = nullptr);
 
 protected:

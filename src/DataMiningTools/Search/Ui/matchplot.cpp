@@ -56,19 +56,19 @@ void MatchPlot::addLines()
         return;
     const int lines = std::min(m_Matches.size(), MostLines);
     for (int i = 0; i < lines; ++i) {
-        const SearchMatch& match = m_Matches.at(int(qint64(i) * m_Matches.size() / lines));
+        const RowSpan rows = m_Matches.at(int(qint64(i) * m_Matches.size() / lines)).m_Rows;
         // With the row at its end, so that also a match of one row shows.
-        m_Plot->AddLine(m_DataSet, attribute, match.m_From, match.m_To + 1, Qt::black);
+        m_Plot->AddLine(m_DataSet, attribute, rows.m_From, rows.m_To + 1, Qt::black);
     }
 }
 
 void MatchPlot::dropRejected()
 {
     QSet<QPair<int, int>> rejected;
-    for (const RowRange& rows : m_Plot->GetRemovedRanges().mid(m_KnownRejections))
+    for (const RowSpan& rows : m_Plot->GetRemovedRanges().mid(m_KnownRejections))
         rejected.insert({rows.m_From, rows.m_To - 1});
     const auto isRejected = [&](const SearchMatch& match) {
-        return rejected.contains({match.m_From, match.m_To});
+        return rejected.contains({match.m_Rows.m_From, match.m_Rows.m_To});
     };
     m_Matches.erase(std::remove_if(m_Matches.begin(), m_Matches.end(), isRejected),
                     m_Matches.end());

@@ -115,7 +115,7 @@ ResizeList::Item ResizeList::takeItem(int index)
         m_SpareItems.push_back(makeItem());
     const Item item = m_SpareItems.back();
     m_SpareItems.pop_back();
-    const SearchMatch& match = m_Matches.at(index);
+    const RowSpan match = m_Matches.at(index).m_Rows;
     const int rows = m_DataSet ? m_DataSet->GetRowCount() : 0;
     // The ends may be in the wrong order.
     const auto ends = std::minmax(match.m_From, match.m_To);
@@ -157,9 +157,9 @@ SegmentResizeWidget* ResizeList::makeResizeWidget()
 void ResizeList::storeEnds(const SegmentResizeWidget* resize)
 {
     for (const auto& item : m_Items) {
-        SearchMatch& match = m_Matches[item.first];
+        RowSpan& rows = m_Matches[item.first].m_Rows;
         if (item.second.m_Resize == resize)
-            resize->GetSelection(match.m_From, match.m_To);
+            resize->GetSelection(rows.m_From, rows.m_To);
     }
 }
 

@@ -10,8 +10,8 @@
 #include <QLabel>
 #include <QWizard>
 
-ResizeWizardPage::ResizeWizardPage(DataSet* dataSet, CutCollection* cuts, int searchMode,
-                                   QWidget* parent)
+ResizeWizardPage::ResizeWizardPage(DataSet* dataSet, CutCollection* cuts,
+                                   CutSegment::SEGMENT_STATE searchMode, QWidget* parent)
     : QWizardPage(parent), m_CutCollection(cuts), m_SearchMode(searchMode),
       m_Attribute(new AttributeBox(dataSet, tr("The attribute that the plots show"))),
       m_Number(new QLabel), m_List(new ResizeList(dataSet))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cutsegment.h"
 #include "searchmatch.h"
 #include <QWizardPage>
 
@@ -15,7 +16,7 @@ class ResizeWizardPage : public QWizardPage
     Q_OBJECT
 public:
     /// searchMode: the state of the segments that were searched.
-    ResizeWizardPage(DataSet* dataSet, CutCollection* cuts, int searchMode,
+    ResizeWizardPage(DataSet* dataSet, CutCollection* cuts, CutSegment::SEGMENT_STATE searchMode,
                      QWidget* parent = nullptr);
 
     /// The same matches again keep the ends that the user has given them.
@@ -28,7 +29,7 @@ public slots:
 
 private:
     CutCollection* m_CutCollection;
-    int m_SearchMode;
+    CutSegment::SEGMENT_STATE m_SearchMode;
     // As they were found.
     SearchMatches m_Matches;
     QComboBox* m_Attribute;

@@ -11,12 +11,12 @@ public:
     explicit ResultSearchOptionDialog(QWidget* parent = nullptr);
 
     /// The state of the segments to search.
-    int GetSearchMode() const { return m_SearchMode; }
+    CutSegment::SEGMENT_STATE GetSearchMode() const { return m_SearchMode; }
 
 public slots:
     void searchUnlabeledData();
     void searchRefineResults();
 
 private:
-    int m_SearchMode = CutSegment::SEGMENT_CUT;
+    CutSegment::SEGMENT_STATE m_SearchMode = CutSegment::SEGMENT_CUT;
 };

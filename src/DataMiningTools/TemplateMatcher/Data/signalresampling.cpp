@@ -34,7 +34,7 @@ std::vector<double> upsample(const std::vector<double>& signal, int factor)
     return values;
 }
 
-// Nothing is filtered beforehand, so fast changes show up as slow ones: kept.
+// Nothing is filtered beforehand, so fast changes show up as slow ones.
 std::vector<double> downsample(const std::vector<double>& signal, int factor)
 {
     std::vector<double> values(size_t(std::ceil(float(signal.size()) / float(factor))));

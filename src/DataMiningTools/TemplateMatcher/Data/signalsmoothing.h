@@ -2,8 +2,8 @@
 
 #include <vector>
 
-/// The Savitzky-Golay weights that give the value in the middle of 2 * half + 1 evenly spaced
-/// points, of a polynomial of order 4 fitted to them by least squares; half is 2 or more. In
+/// The weights (Savitzky and Golay 1964) that give the value in the middle of 2 * half + 1 evenly
+/// spaced points, of a polynomial of order 4 fitted to them by least squares; half is 2 or more. In
 /// single precision, in wrap-around order in a list of size entries (at least the points): the
 /// middle first, then the points to its left, outwards; those to its right from the end on.
 std::vector<float> SavitzkyGolayWeights(int half, int size);
@@ -13,5 +13,6 @@ std::vector<float> SavitzkyGolayWeights(int half, int size);
 /// 4 * window, or with a window below 2.
 ///
 /// The smoothed values are late, by window - 1 values for an even window, and smaller than they
-/// should be, a constant by the factor 3179 / 4199 for a window of 8: both are kept.
+/// should be, a constant by the factor 3179 / 4199 for a window of 8. So they do not go over
+/// smoothly into the values at both ends.
 std::vector<double> SmoothedSignal(const std::vector<double>& signal, int window);

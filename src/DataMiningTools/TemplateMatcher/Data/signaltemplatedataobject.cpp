@@ -95,9 +95,8 @@ bool SignalTemplateDataObject::SetSignal(DataSet* dataSet, int attribute, int st
         return false;
     if (start < 0 || end > dataSet->GetRowCount())
         return false;
-    m_Signal.clear();
-    for (int row = start; row < end; ++row)
-        m_Signal.push_back(dataSet->GetRow(row)->GetValue(attribute));
+    const ConstSpan<double> rows = dataSet->GetColumn(attribute).Part(start, end);
+    m_Signal.assign(rows.begin(), rows.end());
     return true;
 }
 

@@ -18,18 +18,18 @@ MatchOverlayPlot::MatchOverlayPlot(DataSet* dataSet, const SignalTemplateDataObj
            "are drawn, evenly chosen. Drag a box over lines to reject those matches."));
 }
 
-void MatchOverlayPlot::ShowMatches(const std::vector<Match>& matches,
+void MatchOverlayPlot::ShowMatches(const std::vector<CenterPoint>& matches,
                                    const std::vector<int>& widths)
 {
     ClearLines();
     m_Matches.clear();
     setAxis();
     AddLine(m_Template.data(), int(m_Template.size()), GroupColor(m_AttributeId));
-    for (const Match& match : matches) {
-        const MatchExtent rows =
-            ExtentOfMatch(match.m_Center, widths[size_t(match.m_Factor)], m_DataSet->GetRowCount());
+    for (const CenterPoint& match : matches) {
+        const RowSpan rows =
+            ExtentOfMatch(match.m_Step, widths[size_t(match.m_Factor)], m_DataSet->GetRowCount());
         AddLine(m_DataSet, m_AttributeId, rows.m_From, rows.m_To, Qt::black);
-        m_Matches.append({rows.m_From, match.m_Center});
+        m_Matches.append({rows.m_From, match.m_Step});
     }
     RepaintLines();
 }

@@ -17,7 +17,7 @@ public:
                      QWidget* parent = nullptr);
 
     /// Replaces the lines. widths: of the template, per frequency factor.
-    void ShowMatches(const std::vector<Match>& matches, const std::vector<int>& widths);
+    void ShowMatches(const std::vector<CenterPoint>& matches, const std::vector<int>& widths);
 
     /// The first row and the centre of each match that was rejected here.
     const QList<QPair<int, int>>& GetRemovedMatches() const { return m_RemovedMatches; }

@@ -1,12 +1,12 @@
 #include "matchpositionsbox.h"
 
+#include "attributebox.h"
 #include "dataset.h"
 #include "linearcolormapwidget.h"
 #include "plotareawidget.h"
 #include "thresholdmap.h"
 #include "thresholdmapdistribution.h"
 #include "twodimensionalheatmapviz.h"
-#include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -16,8 +16,7 @@ MatchPositionsBox::MatchPositionsBox(DataSet* dataSet, QWidget* parent)
       m_ColorMap(new LinearColorMapWidget), m_ThresholdMap(new ThresholdMap)
 {
     setTitle(tr("Match Positions"));
-    auto* attributes = new QComboBox;
-    attributes->addItems(dataSet->GetAttributeNames());
+    auto* attributes = new AttributeBox(dataSet, tr("The attribute that plot and maps show"));
     attributes->setMaximumWidth(200);
     connect(attributes, QOverload<int>::of(&QComboBox::activated), this,
             &MatchPositionsBox::showAttribute);

@@ -67,7 +67,7 @@ void OverlaidMatchesBox::SetPattern(DataSet* dataSet, const PatternsDataObject& 
 void OverlaidMatchesBox::ShowMatches(const CenterPoints& matches, const std::vector<int>& widths)
 {
     const int plots = std::max(m_OverlayPlots.size(), 1);
-    const std::vector<Match> chosen = ChooseEvenly(matches, std::max(mostLines / plots, 1));
+    const std::vector<CenterPoint> chosen = ChooseEvenly(matches, std::max(mostLines / plots, 1));
     for (MatchOverlayPlot* plot : qAsConst(m_OverlayPlots))
         plot->ShowMatches(chosen, widths);
 }

@@ -1,9 +1,11 @@
 #include "resultfilterpage.h"
 
 #include "cutcollection.h"
+#include "insertmatches.h"
 #include "matchpositionsbox.h"
 #include "overlaidmatchesbox.h"
 #include "patternsdataobject.h"
+#include "progress.h"
 #include "thresholdslider.h"
 #include <QAbstractSpinBox>
 #include <QFormLayout>
@@ -19,7 +21,8 @@ constexpr float initialThreshold = 0.8F;
 
 } // namespace
 
-ResultFilterPage::ResultFilterPage(DataSet* dataSet, CutCollection* cuts, int searchMode,
+ResultFilterPage::ResultFilterPage(DataSet* dataSet, CutCollection* cuts,
+                                   CutSegment::SEGMENT_STATE searchMode,
                                    const QList<int>* patternIds, QWidget* parent)
     : TemplateSearchPage(dataSet, cuts, searchMode, patternIds, parent),
       m_ThresholdSlider(new ThresholdSlider(int(initialThreshold * 100))),
@@ -135,30 +138,23 @@ void ResultFilterPage::setGraphAlphaValues()
 std::vector<int> ResultFilterPage::removedSteps() const
 {
     std::vector<int> steps;
-    for (const auto& pair : excludedPairs())
-        steps.push_back(pair.second);
+    for (const auto& match : m_Overlays->GetRemovedMatches())
+        steps.push_back(match.second);
+    for (const int step : m_Positions->GetRemovedSteps())
+        steps.push_back(step);
     std::sort(steps.begin(), steps.end());
     steps.erase(std::unique(steps.begin(), steps.end()), steps.end());
     return steps;
-}
-
-QList<QPair<int, int>> ResultFilterPage::excludedPairs() const
-{
-    QList<QPair<int, int>> pairs = m_Overlays->GetRemovedMatches();
-    for (const int step : m_Positions->GetRemovedSteps())
-        pairs.append({0, step});
-    return pairs;
 }
 
 bool ResultFilterPage::validatePage()
 {
     if (!HasResults())
         return false;
-    if (searchMode() == CutSegment::SEGMENT_RESULT)
-        cuts()->RemoveSegments(CutSegment::SEGMENT_RESULT);
-    MatchFlags flags(*m_CenterPoints, m_Results.m_Steps);
-    cuts()->InsertCuts(flags.Get(), m_Results.m_Factors, m_Results.m_Steps, m_Pattern, searchMode(),
-                       excludedPairs());
+    const CenterPoints matches = WithoutSteps(*m_CenterPoints, removedSteps());
+    NoProgress progress;
+    InsertMatches(*cuts(), ExtentsOfMatches(matches, *m_Pattern, m_Results.m_Steps), searchMode(),
+                  progress);
     return true;
 }
 

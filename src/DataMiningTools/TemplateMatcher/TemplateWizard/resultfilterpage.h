@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cutsegment.h"
 #include "templatesearchpage.h"
 
 class MatchPositionsBox;
@@ -15,7 +16,7 @@ class ResultFilterPage : public TemplateSearchPage
     Q_OBJECT
 public:
     /// patternIds: the chosen templates, of which the first is searched; the caller's.
-    ResultFilterPage(DataSet* dataSet, CutCollection* cuts, int searchMode,
+    ResultFilterPage(DataSet* dataSet, CutCollection* cuts, CutSegment::SEGMENT_STATE searchMode,
                      const QList<int>* patternIds, QWidget* parent = nullptr);
 
     /// Shows results, which stay the caller's, as does the pattern. attributeMap: from the
@@ -45,7 +46,6 @@ private:
     QGroupBox* makeThresholdBox();
     void initCenterPointMemory();
     std::vector<int> removedSteps() const;
-    QList<QPair<int, int>> excludedPairs() const;
 
     SearchResults m_Results;
     PatternsDataObject* m_Pattern = nullptr;

@@ -1,5 +1,6 @@
 #include "templatematcherpage.h"
 
+#include "attributebox.h"
 #include "colormaps.h"
 #include "dataset.h"
 #include "oldlineplotwidget.h"
@@ -30,7 +31,8 @@ QLabel* makeText()
 
 } // namespace
 
-TemplateMatcherPage::TemplateMatcherPage(DataSet* dataSet, CutCollection* cuts, int searchMode,
+TemplateMatcherPage::TemplateMatcherPage(DataSet* dataSet, CutCollection* cuts,
+                                         CutSegment::SEGMENT_STATE searchMode,
                                          const QList<int>* patternIds, ResultFilterPage* resultPage,
                                          QWidget* parent)
     : TemplateSearchPage(dataSet, cuts, searchMode, patternIds, parent), m_ResultPage(resultPage),
@@ -86,8 +88,7 @@ QLayout* TemplateMatcherPage::makeResultFields()
     for (int scheme = 0; !ColorMaps::GetColorMapName(scheme).isEmpty(); ++scheme)
         colorMaps->addItem(ColorMaps::GetColorMapName(scheme));
     colorMaps->setCurrentIndex(colorMaps->count() - 1);
-    auto* attributes = new QComboBox;
-    attributes->addItems(dataSet()->GetAttributeNames());
+    auto* attributes = new AttributeBox(dataSet(), tr("The attribute that plot and maps show"));
     connect(colorMaps, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &TemplateMatcherPage::colorMapChanged);
     connect(attributes, QOverload<int>::of(&QComboBox::activated), m_Plot,

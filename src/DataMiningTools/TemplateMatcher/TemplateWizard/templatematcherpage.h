@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cutsegment.h"
 #include "templatesearchpage.h"
 
 class PlotAreaWidget;
@@ -12,13 +13,13 @@ class ThresholdSlider;
 class TwoDimensionalHeatMapViz;
 
 /// An older form of ResultFilterPage without single matches: shows the template and lets the user
-/// find a threshold, which it hands on. No wizard adds it: kept for its parts.
+/// find a threshold, which it hands on. No wizard adds it.
 class TemplateMatcherPage : public TemplateSearchPage
 {
     Q_OBJECT
 public:
     /// resultPage: the page that follows.
-    TemplateMatcherPage(DataSet* dataSet, CutCollection* cuts, int searchMode,
+    TemplateMatcherPage(DataSet* dataSet, CutCollection* cuts, CutSegment::SEGMENT_STATE searchMode,
                         const QList<int>* patternIds, ResultFilterPage* resultPage,
                         QWidget* parent = nullptr);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cutsegment.h"
 #include "matchextraction.h"
 #include <QHash>
 #include <QList>
@@ -26,7 +27,7 @@ public:
 
 protected:
     /// patternIds: the chosen templates, of which the first is searched; the caller's.
-    TemplateSearchPage(DataSet* dataSet, CutCollection* cuts, int searchMode,
+    TemplateSearchPage(DataSet* dataSet, CutCollection* cuts, CutSegment::SEGMENT_STATE searchMode,
                        const QList<int>* patternIds, QWidget* parent);
 
     virtual void clearResults() = 0;
@@ -34,7 +35,7 @@ protected:
 
     DataSet* dataSet() const { return m_DataSet; }
     CutCollection* cuts() const { return m_CutCollection; }
-    int searchMode() const { return m_SearchMode; }
+    CutSegment::SEGMENT_STATE searchMode() const { return m_SearchMode; }
     PatternsDataObject* pattern() const { return m_Pattern.get(); }
     /// Of the last search that went well.
     SearchResults searchResults() const;
@@ -52,7 +53,7 @@ private:
 
     DataSet* m_DataSet;
     CutCollection* m_CutCollection;
-    const int m_SearchMode;
+    const CutSegment::SEGMENT_STATE m_SearchMode;
     const QList<int>* m_PatternIds;
     std::unique_ptr<PatternsDataObject> m_Pattern;
     // Borrows the pattern and owns the results.

@@ -14,7 +14,8 @@ enum PageId { WELCOME_PAGE = 0, SELECT_PATTERNS_PAGE = 1, RESULT_FILTER_PAGE = 3
 
 TemplateWizard::TemplateWizard(DataSet* dataSet, CutCollection* cuts, int searchMode,
                                QWidget* parent)
-    : QWizard(parent), m_DataSet(dataSet), m_CutCollection(cuts), m_SearchMode(searchMode)
+    : QWizard(parent), m_DataSet(dataSet), m_CutCollection(cuts),
+      m_SearchMode(CutSegment::SEGMENT_STATE(searchMode))
 {
     setPage(WELCOME_PAGE, new WelcomePage);
     setPage(SELECT_PATTERNS_PAGE, new SelectPatternsPage(&m_PatternIds));
@@ -23,7 +24,8 @@ TemplateWizard::TemplateWizard(DataSet* dataSet, CutCollection* cuts, int search
 
 TemplateWizard::TemplateWizard(DataSet* dataSet, CutCollection* cuts, int searchMode,
                                PatternsDataObject* pattern, QWidget* parent)
-    : QWizard(parent), m_DataSet(dataSet), m_CutCollection(cuts), m_SearchMode(searchMode)
+    : QWizard(parent), m_DataSet(dataSet), m_CutCollection(cuts),
+      m_SearchMode(CutSegment::SEGMENT_STATE(searchMode))
 {
     if (pattern)
         m_PatternIds.append(pattern->GetId());

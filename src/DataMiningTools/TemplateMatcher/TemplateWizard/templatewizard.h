@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cutsegment.h"
 #include <QList>
 #include <QWizard>
 
@@ -13,8 +14,8 @@ class TemplateWizard : public QWizard
 {
     Q_OBJECT
 public:
-    /// The user chooses the pattern. searchMode: the state of the segments that are searched;
-    /// SEGMENT_RESULT refines earlier results.
+    /// The user chooses the pattern. searchMode: the state of the segments that are searched, as
+    /// its plain number or its name; SEGMENT_RESULT refines earlier results.
     TemplateWizard(DataSet* dataSet, CutCollection* cuts, int searchMode,
                    QWidget* parent = nullptr);
     /// Searches for a stored pattern, which stays the caller's.
@@ -29,7 +30,7 @@ private:
 
     DataSet* m_DataSet;
     CutCollection* m_CutCollection;
-    const int m_SearchMode;
+    const CutSegment::SEGMENT_STATE m_SearchMode;
     QList<int> m_PatternIds;
     ResultFilterPage* m_ResultPage = nullptr;
 };

@@ -16,8 +16,10 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QScrollBar>
 #include <QSpinBox>
+#include <QTimer>
 #include <QWheelEvent>
 #include <QtTest>
 
@@ -168,6 +170,17 @@ void TestSearchWizards::insertsRuns()
     QTest::keyClick(length, Qt::Key_Return);
     QCOMPARE(number(wizard), QStringLiteral("2"));
     const QWizardPage* filter = wizard.currentPage();
+    // A search that is stopped leaves the matches there are, and nothing has been searched.
+    type(length, "3");
+    QTimer::singleShot(0, &wizard, [&wizard] {
+        ClickButton(wizard.currentPage()->findChild<QProgressDialog*>(), QStringLiteral("Cancel"));
+    });
+    QCOMPARE(extract(wizard), QStringLiteral("2"));
+    QTest::keyClick(length, Qt::Key_Return);
+    QCOMPARE(wizard.currentPage(), filter);
+    QCOMPARE(number(wizard), QStringLiteral("0"));
+    type(length, "2");
+    QCOMPARE(extract(wizard), QStringLiteral("2"));
     QTest::keyClick(length, Qt::Key_Return);
     QVERIFY(wizard.currentPage() != filter);
     wizard.back();
@@ -297,7 +310,7 @@ void TestSearchWizards::tellsOfCrossedBoundaries()
     QWizard wizard;
     auto* page = new ResizeWizardPage(data.get(), &cuts, CutSegment::SEGMENT_CUT);
     wizard.addPage(page);
-    page->SetMatches({{50, 60}, {70, 80}});
+    page->SetMatches({{{50, 60}}, {{70, 80}}});
     wizard.show();
     type(boxOfMatch(wizard, 50), "49");
     finish(wizard);
@@ -314,7 +327,7 @@ void TestSearchWizards::keepsEndsOutOfView()
     MakeCuts(cuts, "50000");
     SearchMatches matches;
     for (int i = 0; i < 5000; ++i)
-        matches.append({i * 10 + 2, i * 10 + 8});
+        matches.append(SearchMatch{{i * 10 + 2, i * 10 + 8}});
     QWizard wizard;
     auto* page = new ResizeWizardPage(data.get(), &cuts, CutSegment::SEGMENT_CUT);
     wizard.addPage(page);
