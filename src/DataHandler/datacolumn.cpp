@@ -13,7 +13,7 @@ namespace
 // a wish, the system may refuse.
 void askForLargePages(double* memory, int count)
 {
-#ifdef Q_OS_LINUX
+#ifdef MADV_HUGEPAGE
     constexpr size_t page = 4096;
     constexpr int worthwhile = 1 << 19;
     if (count < worthwhile)
