@@ -41,8 +41,11 @@ void ColumnStore::SetValues(int row, ConstSpan<double> values)
 void ColumnStore::AddRow(ConstSpan<double> values)
 {
     Widen(values.size());
-    for (int column = 0; column < GetColumnCount(); ++column)
-        GetColumn(column).ChangeValues().Append(column < values.size() ? values[column] : Missing);
+    for (int column = 0; column < GetColumnCount(); ++column) {
+        const double value = column < values.size() ? values[column] : Missing;
+        const bool hasRoom = GetColumn(column).ChangeValues().Append(value);
+        Q_CHECK_PTR(hasRoom);
+    }
     m_Counts.AddRows(1, values.size());
 }
 

@@ -13,7 +13,7 @@ namespace
 // a wish, the system may refuse.
 void askForLargePages(double* memory, int count)
 {
-#ifdef Q_OS_LINUX
+#ifdef MADV_HUGEPAGE
     constexpr size_t page = 4096;
     constexpr int worthwhile = 1 << 19;
     if (count < worthwhile)
@@ -54,14 +54,14 @@ DataColumn& DataColumn::operator=(DataColumn&& other) noexcept
 
 void DataColumn::Resize(int size)
 {
-    Reserve(size);
+    const bool hasRoom = Reserve(size);
+    Q_CHECK_PTR(hasRoom);
     m_Size = size;
 }
 
-void DataColumn::Reserve(int capacity)
+bool DataColumn::Reserve(int capacity)
 {
-    if (capacity > m_Capacity)
-        allocate(capacity);
+    return capacity <= m_Capacity || allocate(capacity);
 }
 
 void DataColumn::ShrinkToFit()
@@ -80,12 +80,14 @@ void DataColumn::swap(DataColumn& other) noexcept
 }
 
 // The values move along; for long columns the system moves pages instead of bytes.
-void DataColumn::allocate(int capacity)
+bool DataColumn::allocate(int capacity)
 {
     const size_t bytes = size_t(capacity) * sizeof(double);
     auto* values = static_cast<double*>(std::realloc(m_Values.get(), bytes));
-    Q_CHECK_PTR(values);
+    if (!values)
+        return false;
     static_cast<void>(m_Values.release());
     m_Values.reset(values);
     m_Capacity = capacity;
+    return true;
 }

@@ -32,18 +32,21 @@ public:
     double operator[](qptrdiff row) const { return data()[row]; }
     operator ConstSpan<double>() const { return {data(), m_Size}; }
 
-    /// Appends a value. Where no room is left, half as much again is made.
-    void Append(double value)
+    /// Appends a value. Where no room is left, half as much again is made; false, and nothing
+    /// changed, when there is no memory for that.
+    bool Append(double value)
     {
-        if (m_Size == m_Capacity)
-            Reserve(m_Capacity + m_Capacity / 2 + 16);
+        if (m_Size == m_Capacity && !Reserve(m_Capacity + m_Capacity / 2 + 16))
+            return false;
         m_Values[m_Size++] = value;
+        return true;
     }
     /// Cuts values off at the end, or appends values that are not set yet.
     void Resize(int size);
-    /// Makes room for capacity values in all. Room that is never written costs no memory where the
-    /// system hands memory out page by page.
-    void Reserve(int capacity);
+    /// Makes room for capacity values in all; false, and nothing changed, when there is no memory
+    /// for that. Room that is never written costs nothing where the system hands memory out page by
+    /// page.
+    bool Reserve(int capacity);
     /// Gives back what room there is behind the last value.
     void ShrinkToFit();
 
@@ -53,7 +56,7 @@ private:
     };
 
     void swap(DataColumn& other) noexcept;
-    void allocate(int capacity);
+    bool allocate(int capacity);
 
     std::unique_ptr<double[], Free> m_Values;
     int m_Size = 0;

@@ -54,8 +54,9 @@ public:
     DataRow* GetRow(int row) { return m_Rows.Get(m_Store, row); }
     const DataRow* GetRow(int row) const { return m_Rows.Get(m_Store, row); }
 
-    /// All values of an attribute, NaN where a row lacks one. Holds until columns or rows are
-    /// added, replaced or removed. Without values when there is no such attribute.
+    /// All values of an attribute, NaN where a row lacks one. Holds until rows are added or the
+    /// column is replaced or removed; other columns may come and go. Without values when there is
+    /// no such attribute.
     ConstSpan<double> GetColumn(int attribute) const;
     /// What GetRow(row)->GetValue(attribute) gives, without making a row object.
     double GetValue(int row, int attribute) const { return m_Store.GetValue(row, attribute); }

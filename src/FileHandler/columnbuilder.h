@@ -7,20 +7,18 @@
 class ColumnBuilder
 {
 public:
-    /// More rows than this are not taken.
-    static constexpr int MostRows = 1 << 30;
-
     /// Makes room when the first row comes: for rows rows, but not for more than values values in
     /// all. Both may be guesses.
     ColumnBuilder(qint64 rows, qint64 values) : m_ExpectedRows(rows), m_ExpectedValues(values) {}
 
-    int GetRowCount() const { return m_RowCount; }
-    /// All rows have as many values as the first.
-    void AddRow(const std::vector<double>& values);
-    /// The columns, without the room that was not needed.
+    /// All rows have as many values as the first. False when there is no room for more rows.
+    bool AddRow(const std::vector<double>& values);
+    /// The columns of the rows added so far, without the room that was not needed.
     std::vector<DataColumn> Take();
 
 private:
+    static constexpr int MostRows = 1 << 30;
+
     void makeRoom(size_t columns);
 
     qint64 m_ExpectedRows;

@@ -32,8 +32,9 @@ bool CutCollectionWriter::WriteData(const CutCollection* cuts)
             WriteAttributeNames(out, *m_DataSet, '\t');
             out << '\n';
             const int to = std::min(segment->GetTo(), m_DataSet->GetRowCount());
+            RowText rowText(out, *m_DataSet);
             for (int row = segment->GetFrom(); row < to; ++row) {
-                WriteLabelledRow(out, *m_DataSet, row, '\t');
+                rowText.WriteLabelled(row, '\t');
                 out << '\n';
             }
         });

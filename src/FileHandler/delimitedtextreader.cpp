@@ -43,8 +43,8 @@ bool DelimitedTextReader::Read(QIODevice& device, Progress& progress)
     qint64 lines = 0;
     if (!countLines(device, lines))
         return false;
-    // There is no value without a byte of its own.
-    ColumnBuilder rows(lines, device.size());
+    // No value but the last is without a byte of its own.
+    ColumnBuilder rows(lines, device.size() + 1);
     const FieldSplitter splitter(m_Settings.delimiter, m_Settings.startColumn);
     const bool isByte = NumberLine::Supports(m_Settings.delimiter);
     NumberLine fields(isByte ? m_Settings.delimiter[0].toLatin1() : '\0', m_Settings.startColumn);
@@ -60,10 +60,7 @@ bool DelimitedTextReader::Read(QIODevice& device, Progress& progress)
         return int(numbers.size());
     };
     const auto addRow = [&] {
-        if (rows.GetRowCount() == ColumnBuilder::MostRows)
-            return fail(QStringLiteral("The file has too many rows"));
-        rows.AddRow(numbers);
-        return true;
+        return rows.AddRow(numbers) || fail(QStringLiteral("There is no room for so many rows"));
     };
     const bool isRead = readRows(device, lines, progress, split, addRow);
     if (isRead || !progress.IsStopRequested()) {
@@ -133,19 +130,24 @@ bool DelimitedTextReader::readRows(QIODevice& device, qint64 lines, Progress& pr
         if (isBlankLine(content))
             continue;
         const int parts = split(content);
-        if (parts == 0 && width == 0)
-            return fail(QStringLiteral("The start column is beyond the end of line ") +
-                        QString::number(line));
-        if (width > 0 && parts != width) {
-            if (!warn(line))
-                return false;
-            continue;
-        }
-        width = parts;
-        if (!addRow())
+        if (!checkWidth(parts, width, line))
+            return false;
+        if (parts == width && !addRow())
             return false;
     }
     return text.GetError().isEmpty() || fail(text.GetError());
+}
+
+// The first line sets the width, others that differ give a warning. False when it is of no use to
+// go on.
+bool DelimitedTextReader::checkWidth(int parts, int& width, qint64 line)
+{
+    if (width == 0)
+        width = parts;
+    if (width == 0)
+        return fail(QStringLiteral("The start column is beyond the end of line ") +
+                    QString::number(line));
+    return parts == width || warn(line);
 }
 
 bool DelimitedTextReader::fail(const QString& error)

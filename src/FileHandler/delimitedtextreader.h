@@ -50,6 +50,7 @@ private:
     bool countLines(QIODevice& device, qint64& lines);
     bool readRows(QIODevice& device, qint64 lines, Progress& progress, const Split& split,
                   const AddRow& addRow);
+    bool checkWidth(int parts, int& width, qint64 line);
     bool fail(const QString& error);
     bool warn(qint64 line);
 

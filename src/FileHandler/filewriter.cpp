@@ -2,25 +2,9 @@
 
 #include "dataset.h"
 #include "rowprogress.h"
+#include "rowtext.h"
 #include "textoutput.h"
 #include <algorithm>
-
-namespace
-{
-
-// Separators stand between values only.
-void writeRow(TextOutput& out, const DataSet& data, int row)
-{
-    const int count = data.GetValueCount(row);
-    for (int i = 0; i < count; ++i) {
-        if (i > 0)
-            out << ',';
-        out.Number(data.GetValue(row, i), FileWriter::Digits);
-    }
-    out << '\n';
-}
-
-} // namespace
 
 FileWriter::FileWriter(const QString& path) : m_FileName(path), m_Progress(&NoProgress::Shared()) {}
 
@@ -43,8 +27,11 @@ bool FileWriter::Write()
     RowProgress progress(*m_Progress, std::max(to - from, 0));
     const bool isWritten = WriteTextFile(m_FileName, [&](TextOutput& out) {
         out << m_DataSet->GetAttributeNames().join(QLatin1Char(',')) << '\n';
-        for (int row = from; row < to && progress.Advance(); ++row)
-            writeRow(out, *m_DataSet, row);
+        RowText rowText(out, *m_DataSet);
+        for (int row = from; row < to && progress.Advance(); ++row) {
+            rowText.Write(row, ',', Digits);
+            out << '\n';
+        }
         if (progress.IsStopped())
             out.Cancel();
     });

@@ -106,10 +106,11 @@ bool writeDataFile(const QString& path, const DataSet& data, const Segments& seg
         out << "Time ";
         WriteAttributeNames(out, data, '\t');
         out << "\t\n";
+        RowText rowText(out, data);
         for (const CutSegment* segment : segments) {
             const RowSpan rows = rowsOf(data, *segment);
             for (int row = rows.m_From; row < rows.m_To && progress.Advance(); ++row) {
-                WriteLabelledRow(out, data, row, '\t');
+                rowText.WriteLabelled(row, '\t');
                 out << "\t\n";
             }
         }
@@ -279,8 +280,9 @@ bool LabelWriter::WriteAligned(const LabelCollection* labels)
         out << "Time";
         WriteAttributeNames(out, *m_DataSet, ',');
         out << ",Behavior\n";
+        RowText rowText(out, *m_DataSet);
         for (int row = 0; row < m_DataSet->GetRowCount() && progress.Advance(); ++row) {
-            WriteLabelledRow(out, *m_DataSet, row, ',');
+            rowText.WriteLabelled(row, ',');
             out << ',' << behaviors[size_t(row)] << '\n';
         }
     };

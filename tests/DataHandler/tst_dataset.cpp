@@ -34,7 +34,6 @@ private slots:
     void axisRangesOverride();
     void looksUp();
     void removesAttributes();
-    void raggedRowsReadAsMissing();
     void changesAsAListOfRowsWould();
     void refusesColumnsOfAnotherLength();
     void rowObjectsStay();
@@ -164,28 +163,6 @@ void TestDataSet::removesAttributes()
     data->RemoveAttribute(-1);
     data->RemoveAttribute(9);
     QCOMPARE(data->GetAttributeCount(), 2);
-}
-
-void TestDataSet::raggedRowsReadAsMissing()
-{
-    // The second and third row lack one and two values, the last has one too many.
-    const auto data = MakeDataSet("1 2 3\n4 5\n6\n7 8 9 10");
-    for (int column = 3; column < 20; ++column)
-        data->AddAttribute(QStringLiteral("more"), ATTRIBUTE_OTHER);
-    for (int column = 3; column < 20; ++column)
-        QVERIFY(std::isnan(data->GetRow(0)->GetValue(column)));
-    for (int i = 0; i < data->GetRowCount(); ++i)
-        data->GetRow(i)->AddValue(100.0);
-    QCOMPARE(data->GetRow(0)->GetValue(3), 100.0);
-    QCOMPARE(data->GetRow(2)->GetValue(1), 100.0);
-    QVERIFY(std::isnan(data->GetRow(2)->GetValue(2)));
-    QCOMPARE(data->GetRow(3)->GetValue(4), 100.0);
-    data->ComputeRanges();
-    QCOMPARE(data->GetRawMax(2), 100.0F);
-    // What a removal leaves behind the last value is missing, not the old value.
-    data->RemoveAttribute(0);
-    QVERIFY(std::isnan(data->GetRow(1)->GetValue(2)));
-    QCOMPARE(data->GetRow(1)->GetValueCount(), 2);
 }
 
 // A data set, and beside it the list of rows that it stands for.

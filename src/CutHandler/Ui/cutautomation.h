@@ -23,9 +23,9 @@ public:
     void setDataSet(const DataSet* dataSet) { m_DataSet = dataSet; }
     void setCutCollection(CutCollection* cuts) { m_CutCollection = cuts; }
 
-    /// Runs the method with that number; true also when the user cancels. False, with an error
-    /// message, without a data set or cut collection; false and no new message for an unknown
-    /// method.
+    /// Runs the method with that number; true also when the user cancels, or stops the work, after
+    /// which all segments are as before. False, with an error message, without a data set or cut
+    /// collection; false and no new message for an unknown method.
     bool generateCuts(int method);
     /// The name of a method for the user; "Error" for an unknown one.
     static QString getMethodName(int method);

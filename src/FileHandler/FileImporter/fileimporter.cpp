@@ -18,6 +18,7 @@ bool FileImporter::Read()
     QFile file(m_FileName);
     if (!openFile(file))
         return false;
+    // An import has no Cancel: whoever picked the wrong file waits for it and picks another.
     DialogProgress progress(m_Parent, QStringLiteral("Loading file"));
     DelimitedTextReader reader = makeReader();
     const bool isRead = reader.Read(file, progress);
