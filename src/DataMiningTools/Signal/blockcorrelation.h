@@ -42,7 +42,7 @@ public:
     /// The sums of block[s + j] * filter[j] over j, for s from 0 to GetStep - 1 at least, good
     /// until the next call. block: as many values as the transform has, aligned for it.
     const double* Correlate(double* block, const FilterSpectrum& filter);
-    /// The same for the spectrum of a block, which is kept.
+    /// The same for the spectrum of a block, which stays as it is.
     const double* CorrelateSpectrum(const std::complex<double>* block,
                                     const FilterSpectrum& filter);
 

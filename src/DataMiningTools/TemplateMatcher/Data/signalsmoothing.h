@@ -2,8 +2,8 @@
 
 #include <vector>
 
-/// The weights (Savitzky and Golay 1964) that give the value in the middle of 2 * half + 1 evenly spaced
-/// points, of a polynomial of order 4 fitted to them by least squares; half is 2 or more. In
+/// The weights (Savitzky and Golay 1964) that give the value in the middle of 2 * half + 1 evenly
+/// spaced points, of a polynomial of order 4 fitted to them by least squares; half is 2 or more. In
 /// single precision, in wrap-around order in a list of size entries (at least the points): the
 /// middle first, then the points to its left, outwards; those to its right from the end on.
 std::vector<float> SavitzkyGolayWeights(int half, int size);
