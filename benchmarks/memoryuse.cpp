@@ -7,6 +7,8 @@ Memory MemoryInUse()
 {
     QFile status(QStringLiteral("/proc/self/status"));
     Memory memory;
+    const auto heap = mallinfo2();
+    memory.allocated = double(heap.uordblks) + double(heap.hblkhd);
     if (!status.open(QIODevice::ReadOnly))
         return memory;
     const QList<QByteArray> lines = status.readAll().split('\n');

@@ -1,9 +1,11 @@
 #pragma once
 
-/// Memory of this process, in bytes, from the kernel's own account.
+/// Memory of this process, in bytes: resident and at its peak from the kernel's own account, and
+/// what has been asked for and not given back from the allocator's.
 struct Memory {
     double resident = 0.0;
     double peak = 0.0;
+    double allocated = 0.0;
 };
 
 Memory MemoryInUse();

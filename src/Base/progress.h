@@ -20,6 +20,13 @@ public:
 class NoProgress : public Progress
 {
 public:
+    /// One for all who need one.
+    static Progress& Shared()
+    {
+        static NoProgress progress;
+        return progress;
+    }
+
     void SetLabelText(const QString&) override {}
     void SetRange(int, int) override {}
     void SetValue(int) override {}

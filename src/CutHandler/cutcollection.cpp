@@ -221,6 +221,28 @@ std::optional<SegmentRemoval> CutCollection::TakeOut(CutSegment* cut)
     return removal;
 }
 
+SegmentPlaces CutCollection::GetPlaces() const
+{
+    SegmentPlaces places;
+    for (CutSegment* segment : m_Segments)
+        places.emplace_back(segment, segment->GetEnds());
+    return places;
+}
+
+void CutCollection::ReturnTo(const SegmentPlaces& places)
+{
+    m_Segments.TakeAll();
+    std::vector<CutSegment*> segments;
+    for (const auto& [segment, ends] : places) {
+        segment->MoveFrom(ends.m_OriginalFrom);
+        segment->MoveTo(ends.m_OriginalTo);
+        segment->SetFrom(ends.m_From);
+        segment->SetTo(ends.m_To);
+        segments.push_back(segment);
+    }
+    m_Segments.PutAll(std::move(segments));
+}
+
 CutSegment* CutCollection::findNeighbour(const CutSegment* cut, const EndLimits& limits,
                                          const char* message) const
 {

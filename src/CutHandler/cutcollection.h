@@ -24,6 +24,9 @@ struct SegmentRemoval {
     int m_Index = -1;
 };
 
+/// The segments of a collection at some time, in their order, and their ends.
+using SegmentPlaces = std::vector<std::pair<CutSegment*, SegmentEnds>>;
+
 /// The ordered partition of a recording's rows into segments.
 ///
 /// Segments that leave the list stay alive as long as the collection: views may still point at
@@ -87,6 +90,10 @@ public:
     void MoveSegment(DataSet* dataSet, CutSegment* segment, int from, int to);
     /// By first row; segments with the same one keep their order.
     void Sort();
+    SegmentPlaces GetPlaces() const;
+    /// Returns to the segments of a time before, and to their ends; segments made since then leave
+    /// the list.
+    void ReturnTo(const SegmentPlaces& places);
 
 private:
     CutSegment* findNeighbour(const CutSegment* cut, const EndLimits& limits,

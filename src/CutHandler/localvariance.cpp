@@ -1,5 +1,6 @@
 #include "localvariance.h"
 
+#include "rowprogress.h"
 #include <algorithm>
 #include <array>
 
@@ -46,6 +47,11 @@ Sums<Lanes> variancesFrom(const float* values, size_t window)
     return squares;
 }
 
+bool goesOn(RowProgress* progress, size_t rows)
+{
+    return !progress || progress->Advance(qint64(rows));
+}
+
 // The number of starts 0, step, ... that lie more than window before the end.
 size_t countBlocks(size_t values, int window, int step)
 {
@@ -56,7 +62,7 @@ size_t countBlocks(size_t values, int window, int step)
 
 } // namespace
 
-std::vector<float> BlockMeans(ConstSpan<double> values, int window, int step)
+std::vector<float> BlockMeans(ConstSpan<double> values, int window, int step, RowProgress* progress)
 {
     constexpr size_t lanes = 8;
     std::vector<float> smooth(size_t(values.size()), 0.0F);
@@ -66,18 +72,19 @@ std::vector<float> BlockMeans(ConstSpan<double> values, int window, int step)
     const auto width = size_t(window);
     const auto stride = size_t(step);
     size_t block = 0;
-    for (; block + lanes <= means.size(); block += lanes) {
+    for (; block + lanes <= means.size() && goesOn(progress, lanes); block += lanes) {
         const auto found = meansOfBlocks<lanes>(values.data() + block * stride, width, stride);
         std::copy(found.begin(), found.end(), means.begin() + std::ptrdiff_t(block));
     }
-    for (; block < means.size(); ++block)
+    for (; block < means.size() && goesOn(progress, 1); ++block)
         means[block] = meansOfBlocks<1>(values.data() + block * stride, width, stride)[0];
     for (size_t i = 0; i < smooth.size(); ++i)
         smooth[i] = means[std::min(i / stride, means.size() - 1)];
     return smooth;
 }
 
-std::vector<float> LocalVariances(const std::vector<float>& values, int window)
+std::vector<float> LocalVariances(const std::vector<float>& values, int window,
+                                  RowProgress* progress)
 {
     constexpr size_t lanes = 16;
     std::vector<float> variances(values.size(), 0.0F);
@@ -85,11 +92,11 @@ std::vector<float> LocalVariances(const std::vector<float>& values, int window)
     if (windows == 0)
         return variances;
     size_t start = 0;
-    for (; start + lanes <= windows; start += lanes) {
+    for (; start + lanes <= windows && goesOn(progress, lanes); start += lanes) {
         const auto found = variancesFrom<lanes>(&values[start], size_t(window));
         std::copy(found.begin(), found.end(), variances.begin() + std::ptrdiff_t(start));
     }
-    for (; start < windows; ++start)
+    for (; start < windows && goesOn(progress, 1); ++start)
         variances[start] = variancesFrom<1>(&values[start], size_t(window))[0];
     std::fill(variances.begin() + std::ptrdiff_t(windows), variances.end(), variances[windows - 1]);
     return variances;

@@ -1,18 +1,47 @@
 #include "persistenceextractor.h"
 
+#include "rowprogress.h"
 #include <algorithm>
 #include <cmath>
 #include <tuple>
 
-void PersistenceExtractor::extract(const std::vector<float>& data)
+namespace
 {
-    std::vector<int> rows;
+
+// So many values are sorted at once, then twice as many are joined, and so on: between two steps
+// there is time to ask whether to go on.
+constexpr size_t sortedAtOnce = size_t(1) << 17;
+
+size_t countJoins(size_t values)
+{
+    size_t joins = 0;
+    for (size_t sorted = sortedAtOnce; sorted < values; sorted *= 2)
+        ++joins;
+    return joins;
+}
+
+} // namespace
+
+bool PersistenceExtractor::extract(const std::vector<float>& data, Progress& progress)
+{
+    takeData(data);
+    RowProgress steps(progress, qint64(m_Data.size() * (countJoins(m_Data.size()) + 2)));
+    const bool isDone = sortIndices(steps) && floodAll(steps);
+    if (!isDone)
+        m_Pairs.clear();
+    sortPairs();
+    return isDone;
+}
+
+void PersistenceExtractor::takeData(const std::vector<float>& data)
+{
+    m_Rows.clear();
     m_Data.clear();
     m_Data.reserve(data.size());
     for (size_t row = 0; row < data.size(); ++row) {
         if (std::isnan(data[row]))
             continue;
-        rows.push_back(int(row));
+        m_Rows.push_back(int(row));
         m_Data.push_back(data[row]);
     }
     m_Colors.assign(m_Data.size(), -1);
@@ -21,26 +50,51 @@ void PersistenceExtractor::extract(const std::vector<float>& data)
     const size_t expected = m_Data.size() / 20 + 1;
     m_Components.reserve(expected);
     m_Pairs.reserve(expected);
+}
 
-    sortIndices();
-    for (const auto& [index, value] : m_SortedIndices)
+bool PersistenceExtractor::sortIndices(RowProgress& progress)
+{
+    const size_t size = m_Data.size();
+    m_SortedIndices.resize(size);
+    for (size_t i = 0; i < size; ++i)
+        m_SortedIndices[i] = {int(i), m_Data[i]};
+    const auto isLower = [](const auto& a, const auto& b) {
+        return std::tie(a.second, a.first) < std::tie(b.second, b.first);
+    };
+    const auto at = [&](size_t i) { return m_SortedIndices.begin() + qptrdiff(std::min(i, size)); };
+    for (size_t from = 0; from < size; from += sortedAtOnce) {
+        std::sort(at(from), at(from + sortedAtOnce), isLower);
+        if (!progress.Advance(sortedAtOnce))
+            return false;
+    }
+    for (size_t sorted = sortedAtOnce; sorted < size; sorted *= 2) {
+        for (size_t from = 0; from < size; from += 2 * sorted) {
+            std::inplace_merge(at(from), at(from + sorted), at(from + 2 * sorted), isLower);
+            if (!progress.Advance(qint64(2 * sorted)))
+                return false;
+        }
+    }
+    return true;
+}
+
+bool PersistenceExtractor::floodAll(RowProgress& progress)
+{
+    for (const auto& [index, value] : m_SortedIndices) {
         flood(index);
+        if (!progress.Advance())
+            return false;
+    }
+    return true;
+}
+
+void PersistenceExtractor::sortPairs()
+{
     for (PairedExtrema& pair : m_Pairs) {
-        pair.m_MinIndex = rows[size_t(pair.m_MinIndex)];
-        pair.m_MaxIndex = rows[size_t(pair.m_MaxIndex)];
+        pair.m_MinIndex = m_Rows[size_t(pair.m_MinIndex)];
+        pair.m_MaxIndex = m_Rows[size_t(pair.m_MaxIndex)];
     }
     std::sort(m_Pairs.begin(), m_Pairs.end(), [](const auto& a, const auto& b) {
         return std::tie(a.m_Persistence, a.m_MinIndex) < std::tie(b.m_Persistence, b.m_MinIndex);
-    });
-}
-
-void PersistenceExtractor::sortIndices()
-{
-    m_SortedIndices.resize(m_Data.size());
-    for (size_t i = 0; i < m_Data.size(); ++i)
-        m_SortedIndices[i] = {int(i), m_Data[i]};
-    std::sort(m_SortedIndices.begin(), m_SortedIndices.end(), [](const auto& a, const auto& b) {
-        return std::tie(a.second, a.first) < std::tie(b.second, b.first);
     });
 }
 

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "pairedextrema.h"
+#include "progress.h"
 #include <utility>
 #include <vector>
+
+class RowProgress;
 
 /// Pairs the local minima and maxima of a curve by topological persistence.
 ///
@@ -15,7 +18,8 @@ class PersistenceExtractor
 public:
     /// Pairs the extrema of data. Values that are not numbers are passed over, their neighbours
     /// stand side by side then.
-    void extract(const std::vector<float>& data);
+    /// False and no pairs when the progress asked to stop.
+    bool extract(const std::vector<float>& data, Progress& progress = NoProgress::Shared());
     /// The pairs of at least that persistence, the least persistent first, ties by the minimum's
     /// index; all for a threshold of 0, none for one below.
     std::vector<PairedExtrema> getPairs(float threshold) const;
@@ -29,7 +33,10 @@ private:
         bool m_Alive;
     };
 
-    void sortIndices();
+    void takeData(const std::vector<float>& data);
+    bool sortIndices(RowProgress& progress);
+    bool floodAll(RowProgress& progress);
+    void sortPairs();
     void flood(int index);
     void createComponent(int index);
     void extendComponent(int component, int index);
@@ -37,6 +44,8 @@ private:
     void createPair(int a, int b);
 
     std::vector<float> m_Data;
+    // Where each value came from.
+    std::vector<int> m_Rows;
     std::vector<std::pair<int, float>> m_SortedIndices;
     // The component that holds an index, -1 for none so far. Kept up at the edges of components
     // only: nothing else is looked at.

@@ -14,14 +14,15 @@ std::vector<int> PeriodicCuts(const DataSet& dataSet, const PeriodicCutParameter
     return rows;
 }
 
-std::vector<int> MinimaMaximaCuts(const DataSet& dataSet, const MinimaMaximaParameters& parameters)
+std::vector<int> MinimaMaximaCuts(const DataSet& dataSet, const MinimaMaximaParameters& parameters,
+                                  Progress& progress)
 {
     std::vector<int> rows;
     if (parameters.m_Attribute < 0 || parameters.m_Attribute >= dataSet.GetAttributeCount())
         return rows;
     const ConstSpan<double> column = dataSet.GetColumn(parameters.m_Attribute);
     PersistenceExtractor persistence;
-    persistence.extract(std::vector<float>(column.begin(), column.end()));
+    persistence.extract(std::vector<float>(column.begin(), column.end()), progress);
     for (const PairedExtrema& pair : persistence.getPairs(float(parameters.m_Persistence))) {
         rows.push_back(pair.m_MaxIndex);
         rows.push_back(pair.m_MinIndex);

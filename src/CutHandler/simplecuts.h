@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cutparameters.h"
+#include "progress.h"
 #include <vector>
 
 class DataSet;
@@ -9,5 +10,6 @@ class DataSet;
 std::vector<int> PeriodicCuts(const DataSet& dataSet, const PeriodicCutParameters& parameters);
 
 /// The rows of all persistent extrema, for each pair the maximum and then the minimum, the least
-/// persistent pair first. None without such an attribute.
-std::vector<int> MinimaMaximaCuts(const DataSet& dataSet, const MinimaMaximaParameters& parameters);
+/// persistent pair first. None without such an attribute, or when the progress asked to stop.
+std::vector<int> MinimaMaximaCuts(const DataSet& dataSet, const MinimaMaximaParameters& parameters,
+                                  Progress& progress = NoProgress::Shared());

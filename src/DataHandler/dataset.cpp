@@ -82,6 +82,13 @@ int DataSet::GetAttributeIndex(const QString& name) const
     return m_AttributeNames->indexOf(name);
 }
 
+int DataSet::FindAttribute(const QString& name, int likely) const
+{
+    const bool isLikely =
+        likely >= 0 && likely < m_AttributeNames->size() && m_AttributeNames->at(likely) == name;
+    return isLikely ? likely : GetAttributeIndex(name);
+}
+
 int DataSet::GetAttributeIndexByType(AttributeType type) const
 {
     return m_AttributeTypes->indexOf(type);

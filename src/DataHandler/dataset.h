@@ -68,6 +68,8 @@ public:
     const QStringList& GetAttributeNames() const { return *m_AttributeNames; }
     /// The first attribute of exactly that name, -1 if absent.
     int GetAttributeIndex(const QString& name) const;
+    /// The same, but the likely one where that has the name, too.
+    int FindAttribute(const QString& name, int likely) const;
     /// The first attribute of that type code, -1 if absent.
     int GetAttributeIndexByType(AttributeType type) const;
     AttributeType GetAttributeType(int attribute) const
@@ -121,6 +123,13 @@ public:
     const ColumnSummary& GetColumnSummary(int attribute) const
     {
         return m_Store.GetColumn(attribute).GetSummary();
+    }
+
+    /// Differs whenever the values of an attribute differ, and stays with them when the attribute
+    /// gets another index: see StoredColumn.
+    quint64 GetColumnVersion(int attribute) const
+    {
+        return m_Store.GetColumn(attribute).GetVersion();
     }
 
     /// Grows by every change that the data set itself can see: rows, columns, ranges. Caches

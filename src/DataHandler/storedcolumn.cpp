@@ -13,7 +13,14 @@ void StoredColumn::Update()
         return;
     m_Range = ComputeValueRange(m_Values);
     m_Summary.reset();
+    m_Version = nextVersion();
     m_HasChanged = false;
+}
+
+quint64 StoredColumn::nextVersion()
+{
+    static quint64 version = 0;
+    return ++version;
 }
 
 const ColumnSummary& StoredColumn::GetSummary() const

@@ -25,12 +25,18 @@ public:
     void Update();
     /// As of the last Update.
     const ValueRange& GetRange() const { return m_Range; }
+    /// A number that no other content of any column has, as of the last Update: a column that is
+    /// moved keeps it, values that change take it away.
+    quint64 GetVersion() const { return m_Version; }
     /// Made when first asked for. The reference holds until the values change.
     const ColumnSummary& GetSummary() const;
 
 private:
+    static quint64 nextVersion();
+
     DataColumn m_Values;
     bool m_HasChanged = true;
+    quint64 m_Version = nextVersion();
     ValueRange m_Range;
     mutable std::unique_ptr<const ColumnSummary> m_Summary;
 };

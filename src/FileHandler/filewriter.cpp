@@ -1,6 +1,7 @@
 #include "filewriter.h"
 
 #include "dataset.h"
+#include "rowprogress.h"
 #include "textoutput.h"
 #include <algorithm>
 
@@ -21,7 +22,7 @@ void writeRow(TextOutput& out, const DataSet& data, int row)
 
 } // namespace
 
-FileWriter::FileWriter(const QString& path) : m_FileName(path) {}
+FileWriter::FileWriter(const QString& path) : m_FileName(path), m_Progress(&NoProgress::Shared()) {}
 
 void FileWriter::SetRange(int from, int to)
 {
@@ -37,14 +38,18 @@ bool FileWriter::Write()
         return false;
     }
     const bool isAll = m_From < 0 || m_To < 0;
-    const int rows = m_DataSet->GetRowCount();
+    const int from = isAll ? 0 : m_From;
+    const int to = isAll ? m_DataSet->GetRowCount() : std::min(m_To, m_DataSet->GetRowCount());
+    RowProgress progress(*m_Progress, std::max(to - from, 0));
     const bool isWritten = WriteTextFile(m_FileName, [&](TextOutput& out) {
         out << m_DataSet->GetAttributeNames().join(QLatin1Char(',')) << '\n';
-        const int to = isAll ? rows : std::min(m_To, rows);
-        for (int row = isAll ? 0 : m_From; row < to; ++row)
+        for (int row = from; row < to && progress.Advance(); ++row)
             writeRow(out, *m_DataSet, row);
+        if (progress.IsStopped())
+            out.Cancel();
     });
     if (!isWritten)
-        m_Error = QStringLiteral("Unable to open file");
+        m_Error = progress.IsStopped() ? QStringLiteral("Writing was stopped")
+                                       : QStringLiteral("Unable to open file");
     return isWritten;
 }

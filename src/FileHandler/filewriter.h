@@ -3,6 +3,7 @@
 #include <QString>
 
 class DataSet;
+class Progress;
 
 /// Writes the data as comma-separated text: a line of attribute names, then a line of values per
 /// row, without the rows' labels.
@@ -19,7 +20,10 @@ public:
     /// first, when one of them is negative.
     void SetRange(int from, int to);
 
-    /// False with GetError after a failure; an old file is as it was then.
+    /// Tells it the rows written, and stops when it asks for that. Not owned.
+    void SetProgress(Progress* progress) { m_Progress = progress; }
+
+    /// False with GetError after a failure or a stop; an old file is as it was then.
     bool Write();
     QString GetError() const { return m_Error; }
 
@@ -27,6 +31,7 @@ private:
     QString m_Error;
     QString m_FileName;
     const DataSet* m_DataSet = nullptr;
+    Progress* m_Progress;
     int m_From = -1;
     int m_To = -1;
 };

@@ -3,6 +3,7 @@
 #include "behaviorlabel.h"
 #include "cutsegment.h"
 #include "dataset.h"
+#include "rowprogress.h"
 #include "textoutput.h"
 #include <algorithm>
 
@@ -19,23 +20,27 @@ void writeHeader(TextOutput& out, int columns, const QString& attribute)
 } // namespace
 
 bool WriteInstanceColumns(const QString& path, const DataSet& data, const BehaviorLabel& behavior,
-                          int attribute)
+                          int attribute, Progress* progress)
 {
     const int count = behavior.GetInstanceCount();
     const auto segment = [&](int i) { return behavior.GetInstance(i)->GetSegment(); };
     int lines = 0;
     for (int i = 0; i < count; ++i)
         lines = std::max(lines, segment(i)->GetLength());
+    RowProgress rows(*progress, lines);
+    const ConstSpan<double> values = data.GetColumn(attribute);
     return WriteTextFile(path, [&](TextOutput& out) {
         writeHeader(out, count, data.GetAttributeName(attribute));
-        for (int line = 0; line < lines; ++line) {
+        for (int line = 0; line < lines && rows.Advance(); ++line) {
             for (int i = 0; i < count; ++i) {
                 const int row = segment(i)->GetFrom() + line;
-                const bool isInside = row < std::min(segment(i)->GetTo(), data.GetRowCount());
+                const bool isInside = row < std::min(segment(i)->GetTo(), values.size());
                 out << (i == 0 ? "" : ", ");
-                out.Number(isInside ? data.GetValue(row, attribute) : 0);
+                out.Number(isInside ? values[row] : 0);
             }
             out << '\n';
         }
+        if (rows.IsStopped())
+            out.Cancel();
     });
 }

@@ -4,6 +4,8 @@
 #include "dataset.h"
 #include "labelcollection.h"
 #include "rangestatistics.h"
+#include "rowprogress.h"
+#include "rowspan.h"
 #include "rowtext.h"
 #include "textoutput.h"
 #include <QDir>
@@ -62,25 +64,54 @@ QString rowLabel(const DataSet& data, int row)
     return last < 0 ? QString() : data.GetRowLabel(std::clamp(row, 0, last));
 }
 
-template <typename Visit>
-void forEachRow(const DataSet& data, const CutSegment& segment, Visit&& visit)
+// The rows of a segment as far as there are any.
+RowSpan rowsOf(const DataSet& data, const CutSegment& segment)
 {
-    const int to = std::min(segment.GetTo(), data.GetRowCount());
-    for (int row = std::max(segment.GetFrom(), 0); row < to; ++row)
-        visit(row);
+    return {std::max(segment.GetFrom(), 0), std::min(segment.GetTo(), data.GetRowCount())};
 }
 
-bool writeDataFile(const QString& path, const DataSet& data, const Segments& segments)
+qint64 countRows(const DataSet& data, const LabelCollection& labels)
+{
+    qint64 rows = 0;
+    for (int i = 0; i < labels.GetLabelCount(); ++i) {
+        for (const CutSegment* segment : segmentsOf(*labels.GetLabel(i)))
+            rows += std::max(rowsOf(data, *segment).GetLength(), 0);
+    }
+    return rows;
+}
+
+int countInstances(const LabelCollection& labels)
+{
+    int instances = 0;
+    for (int i = 0; i < labels.GetLabelCount(); ++i)
+        instances += labels.GetLabel(i)->GetInstanceCount();
+    return instances;
+}
+
+// Writes a file by fill(TextOutput&), which ends early when the progress asks for that.
+template <typename Fill>
+bool writeFile(const QString& path, const RowProgress& progress, Fill&& fill)
 {
     return WriteTextFile(path, [&](TextOutput& out) {
+        fill(out);
+        if (progress.IsStopped())
+            out.Cancel();
+    });
+}
+
+bool writeDataFile(const QString& path, const DataSet& data, const Segments& segments,
+                   RowProgress& progress)
+{
+    return writeFile(path, progress, [&](TextOutput& out) {
         out << "Time ";
         WriteAttributeNames(out, data, '\t');
         out << "\t\n";
         for (const CutSegment* segment : segments) {
-            forEachRow(data, *segment, [&](int row) {
+            const RowSpan rows = rowsOf(data, *segment);
+            for (int row = rows.m_From; row < rows.m_To && progress.Advance(); ++row) {
                 WriteLabelledRow(out, data, row, '\t');
                 out << "\t\n";
-            });
+            }
         }
     });
 }
@@ -111,15 +142,19 @@ void writeStatistics(TextOutput& out, const DataSet& data, int attribute, const 
     out.Numbers(numbers, 4, ',') << '\n';
 }
 
-void writeSummary(TextOutput& out, const DataSet& data, int attribute, const BehaviorLabel& label)
+void writeSummary(TextOutput& out, const DataSet& data, int attribute, const BehaviorLabel& label,
+                  RowProgress& progress)
 {
     const Segments segments = segmentsOf(label);
     writeCounts(out, label.GetName(), segments);
     const QString name = data.GetAttributeName(attribute);
     out << "Time From, Time To, Data Row From, Data Row To, Data Length, Max " << name << ", Min "
         << name << ", Mean " << name << ", Standard Deviation " << name << '\n';
-    for (const CutSegment* segment : segments)
+    for (const CutSegment* segment : segments) {
+        if (!progress.Advance(std::max(rowsOf(data, *segment).GetLength(), 0)))
+            return;
         writeStatistics(out, data, attribute, *segment);
+    }
     out << "\n \n \n";
 }
 
@@ -128,8 +163,11 @@ std::vector<int> alignBehaviors(const DataSet& data, const LabelCollection& labe
 {
     std::vector<int> behaviors(size_t(data.GetRowCount()), -1);
     for (int i = 0; i < labels.GetLabelCount(); ++i) {
-        for (const CutSegment* segment : segmentsOf(*labels.GetLabel(i)))
-            forEachRow(data, *segment, [&](int row) { behaviors[size_t(row)] = i; });
+        for (const CutSegment* segment : segmentsOf(*labels.GetLabel(i))) {
+            const RowSpan rows = rowsOf(data, *segment);
+            for (int row = rows.m_From; row < rows.m_To; ++row)
+                behaviors[size_t(row)] = i;
+        }
     }
     return behaviors;
 }
@@ -143,10 +181,11 @@ bool LabelWriter::isReady(const void* labels)
     return m_Error.isEmpty();
 }
 
-bool LabelWriter::report(bool isWritten)
+bool LabelWriter::report(bool isWritten, const RowProgress& progress)
 {
     if (!isWritten)
-        m_Error = QStringLiteral("Unable to open file");
+        m_Error = progress.IsStopped() ? QStringLiteral("Writing was stopped")
+                                       : QStringLiteral("Unable to open file");
     return isWritten;
 }
 
@@ -163,16 +202,21 @@ bool LabelWriter::WriteProject(const LabelCollection* labels)
     if (!isReady(labels))
         return false;
     const int lastRow = m_DataSet->GetRowCount() - 1;
-    return report(WriteTextFile(m_FileName, [&](TextOutput& out) {
+    RowProgress progress(*m_Progress, countInstances(*labels));
+    const auto fill = [&](TextOutput& out) {
         for (int i = 0; i < labels->GetLabelCount(); ++i) {
             const BehaviorLabel& label = *labels->GetLabel(i);
             // Names are written bare: a name with a comma shifts the fields behind it, and its
             // line is passed over when the project is read.
-            for (const CutSegment* segment : segmentsOf(label))
+            for (const CutSegment* segment : segmentsOf(label)) {
+                if (!progress.Advance())
+                    return;
                 out << label.GetName() << ',' << segment->GetFrom() << ','
                     << std::min(segment->GetTo(), lastRow) << '\n';
+            }
         }
-    }));
+    };
+    return report(writeFile(m_FileName, progress, fill), progress);
 }
 
 bool LabelWriter::WriteSummary(const LabelCollection* labels, int attribute)
@@ -183,10 +227,12 @@ bool LabelWriter::WriteSummary(const LabelCollection* labels, int attribute)
         m_Error = QStringLiteral("No attribute to export is selected");
         return false;
     }
-    return report(WriteTextFile(m_FileName, [&](TextOutput& out) {
-        for (int i = 0; i < labels->GetLabelCount(); ++i)
-            writeSummary(out, *m_DataSet, attribute, *labels->GetLabel(i));
-    }));
+    RowProgress progress(*m_Progress, countRows(*m_DataSet, *labels));
+    const auto fill = [&](TextOutput& out) {
+        for (int i = 0; i < labels->GetLabelCount() && !progress.IsStopped(); ++i)
+            writeSummary(out, *m_DataSet, attribute, *labels->GetLabel(i), progress);
+    };
+    return report(writeFile(m_FileName, progress, fill), progress);
 }
 
 bool LabelWriter::WriteCombined(const LabelCollection* labels)
@@ -194,11 +240,13 @@ bool LabelWriter::WriteCombined(const LabelCollection* labels)
     if (!isReady(labels))
         return false;
     const auto groups = joinByName(*labels);
-    return report(std::all_of(groups.begin(), groups.end(), [&](const NamedSegments& group) {
+    RowProgress progress(*m_Progress, countRows(*m_DataSet, *labels));
+    const auto write = [&](const NamedSegments& group) {
         const QString path = pathInDirectory(group.m_Name);
         return !path.isEmpty() &&
-               writeDataFile(path + QStringLiteral(".txt"), *m_DataSet, group.m_Segments);
-    }));
+               writeDataFile(path + QStringLiteral(".txt"), *m_DataSet, group.m_Segments, progress);
+    };
+    return report(std::all_of(groups.begin(), groups.end(), write), progress);
 }
 
 bool LabelWriter::WriteSeparateFiles(const LabelCollection* labels)
@@ -206,17 +254,19 @@ bool LabelWriter::WriteSeparateFiles(const LabelCollection* labels)
     if (!isReady(labels))
         return false;
     const auto groups = joinByName(*labels);
-    return report(std::all_of(groups.begin(), groups.end(), [&](const NamedSegments& group) {
+    RowProgress progress(*m_Progress, countRows(*m_DataSet, *labels));
+    const auto write = [&](const NamedSegments& group) {
         const QString directory = pathInDirectory(group.m_Name);
         if (directory.isEmpty() || !QDir().mkpath(directory))
             return false;
         for (size_t i = 0; i < group.m_Segments.size(); ++i) {
             const QString file = QStringLiteral("/cut%1.txt").arg(i);
-            if (!writeDataFile(directory + file, *m_DataSet, {group.m_Segments[i]}))
+            if (!writeDataFile(directory + file, *m_DataSet, {group.m_Segments[i]}, progress))
                 return false;
         }
         return true;
-    }));
+    };
+    return report(std::all_of(groups.begin(), groups.end(), write), progress);
 }
 
 bool LabelWriter::WriteAligned(const LabelCollection* labels)
@@ -224,25 +274,32 @@ bool LabelWriter::WriteAligned(const LabelCollection* labels)
     if (!isReady(labels))
         return false;
     const std::vector<int> behaviors = alignBehaviors(*m_DataSet, *labels);
-    return report(WriteTextFile(m_FileName, [&](TextOutput& out) {
+    RowProgress progress(*m_Progress, m_DataSet->GetRowCount());
+    const auto fill = [&](TextOutput& out) {
         out << "Time";
         WriteAttributeNames(out, *m_DataSet, ',');
         out << ",Behavior\n";
-        for (int row = 0; row < m_DataSet->GetRowCount(); ++row) {
+        for (int row = 0; row < m_DataSet->GetRowCount() && progress.Advance(); ++row) {
             WriteLabelledRow(out, *m_DataSet, row, ',');
             out << ',' << behaviors[size_t(row)] << '\n';
         }
-    }));
+    };
+    return report(writeFile(m_FileName, progress, fill), progress);
 }
 
 bool LabelWriter::WriteLabel(const BehaviorLabel* label)
 {
     if (!isReady(label))
         return false;
-    return report(WriteTextFile(m_FileName, [&](TextOutput& out) {
-        for (const CutSegment* segment : segmentsOf(*label))
+    RowProgress progress(*m_Progress, label->GetInstanceCount());
+    const auto fill = [&](TextOutput& out) {
+        for (const CutSegment* segment : segmentsOf(*label)) {
+            if (!progress.Advance())
+                return;
             out << rowLabel(*m_DataSet, segment->GetFrom()) << '\t'
                 << rowLabel(*m_DataSet, segment->GetTo()) << '\t' << segment->GetLength() << '\t'
                 << label->GetName() << '\n';
-    }));
+        }
+    };
+    return report(writeFile(m_FileName, progress, fill), progress);
 }

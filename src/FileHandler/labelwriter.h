@@ -1,14 +1,16 @@
 #pragma once
 
-#include <QString>
+#include "progress.h"
 
 class BehaviorLabel;
 class DataSet;
 class LabelCollection;
+class RowProgress;
 
 /// Writes labelled segments, and the data below them, as text. All files are UTF-8; R(i) stands
-/// for the label of row i. Every operation returns false with GetError after a failure: the file
-/// that could not be written is as it was, files of the same export written before it stay.
+/// for the label of row i. Every operation returns false with GetError after a failure or a stop:
+/// the file that could not be written is as it was, files of the same export written before it
+/// stay.
 class LabelWriter
 {
 public:
@@ -16,6 +18,9 @@ public:
     explicit LabelWriter(const QString& path) : m_FileName(path) {}
 
     void SetDataSet(const DataSet* dataSet) { m_DataSet = dataSet; }
+
+    /// Tells it what is written, and stops when it asks for that. Not owned.
+    void SetProgress(Progress* progress) { m_Progress = progress; }
 
     /// One line per instance: name, first and end row index, the latter not beyond the last row.
     bool WriteProject(const LabelCollection* labels);
@@ -37,10 +42,11 @@ public:
 
 private:
     bool isReady(const void* labels);
-    bool report(bool isWritten);
+    bool report(bool isWritten, const RowProgress& progress);
     QString pathInDirectory(const QString& name) const;
 
     QString m_FileName;
     QString m_Error;
     const DataSet* m_DataSet = nullptr;
+    Progress* m_Progress = &NoProgress::Shared();
 };

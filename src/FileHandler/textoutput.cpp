@@ -99,6 +99,6 @@ void TextOutput::flush()
 {
     // A disk that fills up takes the first part of a block without complaint.
     if (m_File.write(m_Buffer.data(), qint64(m_Buffer.size())) != qint64(m_Buffer.size()))
-        m_File.cancelWriting();
+        Cancel();
     m_Buffer.clear();
 }

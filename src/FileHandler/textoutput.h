@@ -35,6 +35,8 @@ public:
     TextOutput& Numbers(const double* numbers, int count, char separator,
                         int digits = DefaultDigits);
 
+    /// Gives the text up: Commit will fail.
+    void Cancel() { m_File.cancelWriting(); }
     /// Puts the file in its place; false, and nothing changed, when it could not be written whole.
     bool Commit();
 
@@ -45,7 +47,8 @@ private:
     std::string m_Buffer;
 };
 
-/// Writes a file by fill(TextOutput&). False, and an old file as it was, when that failed.
+/// Writes a file by fill(TextOutput&). False, and an old file as it was, when that failed or fill
+/// gave up.
 template <typename Fill>
 bool WriteTextFile(const QString& path, Fill&& fill)
 {

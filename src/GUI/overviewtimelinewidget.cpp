@@ -47,7 +47,7 @@ void OverviewTimelineWidget::SetLabelCollection(LabelCollection* labels)
 void OverviewTimelineWidget::UpdateLabels()
 {
     // A change of many labels tells of each of them: painted once, when it is seen.
-    m_Cache = QPixmap();
+    m_Picture.Invalidate();
     update();
 }
 
@@ -58,14 +58,10 @@ void OverviewTimelineWidget::SetSelection(int from, int to)
     update();
 }
 
-void OverviewTimelineWidget::paintCache()
+void OverviewTimelineWidget::paintLabels(QPainter& painter) const
 {
-    m_Cache = QPixmap(size() * devicePixelRatioF());
-    m_Cache.setDevicePixelRatio(devicePixelRatioF());
-    m_Cache.fill(Qt::white);
-    if (m_Cache.isNull() || !m_DataSet || !m_LabelCollection || m_DataSet->GetRowCount() == 0)
+    if (!m_DataSet || !m_LabelCollection || m_DataSet->GetRowCount() == 0)
         return;
-    QPainter painter(&m_Cache);
     const double pixelsPerRow = double(width()) / m_DataSet->GetRowCount();
     for (int i = 0; i < m_LabelCollection->GetLabelCount(); ++i) {
         const BehaviorLabel* label = m_LabelCollection->GetLabel(i);
@@ -80,10 +76,9 @@ void OverviewTimelineWidget::paintCache()
 
 void OverviewTimelineWidget::paintEvent(QPaintEvent*)
 {
-    if (m_Cache.isNull())
-        paintCache();
     QPainter painter(this);
-    painter.drawPixmap(0, 0, m_Cache);
+    m_Picture.Paint(painter, {}, size(), devicePixelRatioF(),
+                    [this](QPainter& labels) { paintLabels(labels); });
     if (!m_DataSet || (m_MarkerFrom == -1 && m_MarkerTo == -1))
         return;
     const int wide = std::max(m_MarkerTo - m_MarkerFrom, MINIMUM_MARKER);
@@ -92,9 +87,4 @@ void OverviewTimelineWidget::paintEvent(QPaintEvent*)
     fill.setAlphaF(0.4);
     painter.setBrush(fill);
     painter.drawRect(m_MarkerFrom + 1, 1, wide - 2, height() - 2);
-}
-
-void OverviewTimelineWidget::resizeEvent(QResizeEvent*)
-{
-    UpdateLabels();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "cachedpicture.h"
 #include "liverecording.h"
-#include <QPixmap>
 #include <QPointer>
 #include <QWidget>
 
@@ -26,15 +26,14 @@ public slots:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void paintCache();
+    void paintLabels(QPainter& painter) const;
 
     QPointer<LiveRecording> m_Recording;
     DataSet* m_DataSet = nullptr;
     LabelCollection* m_LabelCollection = nullptr;
-    QPixmap m_Cache;
+    CachedPicture m_Picture;
     int m_MarkerFrom = -1;
     int m_MarkerTo = -1;
 };

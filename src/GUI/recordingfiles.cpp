@@ -7,20 +7,10 @@
 #include "labelwriter.h"
 #include "liverecording.h"
 #include "readlabels.h"
+#include "runexport.h"
 #include "usererror.h"
 #include "waitcursor.h"
 #include <QFileDialog>
-
-namespace
-{
-LabelWriter makeWriter(const QString& path, LiveRecording& recording)
-{
-    LabelWriter writer(path);
-    writer.SetDataSet(recording.GetDataSet());
-    return writer;
-}
-
-} // namespace
 
 void RecordingFiles::SaveDataFile(LiveRecording* recording)
 {
@@ -39,9 +29,9 @@ void RecordingFiles::ExportProject(LiveRecording* recording)
     const QString path = AskSavePath(m_Window, tr("Export Labels"), tr("Traceholm (*.thm)"));
     if (path.isEmpty())
         return;
-    const WaitCursor wait;
-    LabelWriter writer = makeWriter(path, *recording);
-    showResult(writer, writer.WriteProject(recording->GetLabelCollection()));
+    writeLabels(path, *recording, [=](LabelWriter& writer) {
+        return writer.WriteProject(recording->GetLabelCollection());
+    });
 }
 
 void RecordingFiles::ExportSummaryLabels(LiveRecording* recording)
@@ -78,9 +68,9 @@ void RecordingFiles::exportSummary(LiveRecording& recording)
     const int attribute = AskAttribute(m_Window, *recording.GetDataSet());
     if (attribute == -1)
         return;
-    const WaitCursor wait;
-    LabelWriter writer = makeWriter(path, recording);
-    showResult(writer, writer.WriteSummary(recording.GetLabelCollection(), attribute));
+    writeLabels(path, recording, [&](LabelWriter& writer) {
+        return writer.WriteSummary(recording.GetLabelCollection(), attribute);
+    });
 }
 
 void RecordingFiles::exportToFolder(LiveRecording& recording, bool separate)
@@ -89,10 +79,10 @@ void RecordingFiles::exportToFolder(LiveRecording& recording, bool separate)
         m_Window, tr("Export Labels Directory"), QStringLiteral("/home"));
     if (folder.isEmpty())
         return;
-    const WaitCursor wait;
-    LabelWriter writer = makeWriter(folder, recording);
-    showResult(writer, separate ? writer.WriteSeparateFiles(recording.GetLabelCollection())
-                                : writer.WriteCombined(recording.GetLabelCollection()));
+    const LabelCollection* labels = recording.GetLabelCollection();
+    writeLabels(folder, recording, [=](LabelWriter& writer) {
+        return separate ? writer.WriteSeparateFiles(labels) : writer.WriteCombined(labels);
+    });
 }
 
 void RecordingFiles::exportAligned(LiveRecording& recording)
@@ -100,14 +90,21 @@ void RecordingFiles::exportAligned(LiveRecording& recording)
     const QString path = AskSavePath(m_Window, tr("Export Data"), tr("CSV (*.csv)"));
     if (path.isEmpty())
         return;
-    const WaitCursor wait;
-    LabelWriter writer = makeWriter(path, recording);
-    showResult(writer, writer.WriteAligned(recording.GetLabelCollection()));
+    writeLabels(path, recording, [&](LabelWriter& writer) {
+        return writer.WriteAligned(recording.GetLabelCollection());
+    });
 }
 
-void RecordingFiles::showResult(const LabelWriter& writer, bool isWritten)
+void RecordingFiles::writeLabels(const QString& path, LiveRecording& recording,
+                                 const std::function<bool(LabelWriter&)>& write)
 {
-    if (!isWritten)
+    LabelWriter writer(path);
+    writer.SetDataSet(recording.GetDataSet());
+    const ExportResult result = RunExport(m_Window, [&](Progress* progress) {
+        writer.SetProgress(progress);
+        return write(writer);
+    });
+    if (result == EXPORT_FAILED)
         ShowUserError(m_Window, tr("Error writing label collection"),
                       tr("Error: ") + writer.GetError());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <functional>
 
 class LabelWriter;
 class LiveRecording;
@@ -29,7 +30,8 @@ private:
     void exportSummary(LiveRecording& recording);
     void exportToFolder(LiveRecording& recording, bool separate);
     void exportAligned(LiveRecording& recording);
-    void showResult(const LabelWriter& writer, bool isWritten);
+    void writeLabels(const QString& path, LiveRecording& recording,
+                     const std::function<bool(LabelWriter&)>& write);
 
     QWidget* m_Window;
 };

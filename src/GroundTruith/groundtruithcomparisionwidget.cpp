@@ -1,20 +1,17 @@
 #include "groundtruithcomparisionwidget.h"
 
+#include "attributebox.h"
 #include "cuttablelineplotwidget.h"
-#include "dataset.h"
 #include "groundtruithbehaviorcollection.h"
 #include "groundtruithwidget.h"
 #include "openwindow.h"
 #include "readlabels.h"
 #include "zoomwidget.h"
-#include <QComboBox>
-#include <QEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QLoggingCategory>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QSignalBlocker>
 #include <QToolBar>
 #include <algorithm>
 
@@ -22,19 +19,24 @@ Q_LOGGING_CATEGORY(lcGroundTruith, "skerrymoor.groundtruith", QtWarningMsg)
 
 GroundTruithComparisionWidget::GroundTruithComparisionWidget(QWidget* parent)
     : QMainWindow(parent), m_ScrollArea(new QScrollArea), m_Views(new QWidget),
-      m_ZoomWidget(new ZoomWidget), m_Attributes(new QComboBox),
-      m_GroundTruith(new GroundTruithWidget), m_LinePlot(new CuttableLinePlotWidget)
+      m_ZoomWidget(new ZoomWidget),
+      m_Attributes(new AttributeBox(tr("The attribute that both graphs show"))),
+      m_GroundTruith(new GroundTruithWidget), m_LinePlot(new CuttableLinePlotWidget),
+      m_View(m_ScrollArea, m_ZoomWidget)
 {
     setWindowTitle(tr("Ground Truith Comparision"));
     makeToolBar();
     makeViews();
     connect(m_ZoomWidget, &ZoomWidget::ValueChanged, this,
             &GroundTruithComparisionWidget::resizeLinePlotWidget);
-    connect(m_Attributes, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+    connect(m_Attributes, &AttributeBox::AttributeChanged, this,
             &GroundTruithComparisionWidget::attributeChanged);
-    connect(m_ScrollArea->horizontalScrollBar(), &QScrollBar::valueChanged, this,
-            &GroundTruithComparisionWidget::updateVisiblePart);
-    m_ScrollArea->installEventFilter(this);
+    connect(&m_View, &ZoomedView::SizeAsked, this, &GroundTruithComparisionWidget::resizeViews);
+    connect(m_ScrollArea->horizontalScrollBar(), &QScrollBar::valueChanged, &m_View,
+            &ZoomedView::UpdateVisiblePart);
+    // The graph paints what is in sight, and has to be told.
+    connect(&m_View, &ZoomedView::VisiblePartChanged, m_LinePlot,
+            &CuttableLinePlotWidget::SetVisibleRange);
     resize(fontMetrics().averageCharWidth() * 120, fontMetrics().height() * 30);
 }
 
@@ -45,7 +47,6 @@ void GroundTruithComparisionWidget::makeToolBar()
     m_ZoomWidget->setMaximum(200);
     m_ZoomWidget->setSingleStep(1);
     m_Attributes->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    m_Attributes->setToolTip(tr("The attribute that both graphs show"));
     auto* caption = new QLabel(tr("Data Attributes: "));
     caption->setBuddy(m_Attributes);
     QToolBar* toolBar = addToolBar(tr("Graph Options"));
@@ -79,18 +80,20 @@ void GroundTruithComparisionWidget::SetBehaviorCollection(GroundTruithBehaviorCo
     m_GroundTruith->SetBehaviorCollection(behaviors);
 }
 
+void GroundTruithComparisionWidget::SetRecording(LiveRecording* recording)
+{
+    m_LinePlot->SetRecording(recording);
+    SetLabelCollection(LabelsOf(recording));
+    SetCutCollection(CutsOf(recording));
+    m_GroundTruith->SetDataSet(DataOf(recording));
+    m_Attributes->SetRecording(recording);
+}
+
 void GroundTruithComparisionWidget::SetDataSet(DataSet* dataSet)
 {
-    const QSignalBlocker blocker(m_Attributes);
-    m_DataSet = dataSet;
-    m_Attributes->clear();
     m_GroundTruith->SetDataSet(dataSet);
     m_LinePlot->SetDataSet(dataSet);
-    const int count = dataSet ? dataSet->GetAttributeCount() : 0;
-    for (int i = 0; i < count; ++i)
-        m_Attributes->addItem(dataSet->GetAttributeName(i), i);
-    if (count > 0)
-        attributeChanged(0);
+    m_Attributes->SetDataSet(dataSet);
 }
 
 void GroundTruithComparisionWidget::SetLabelCollection(LabelCollection* labels)
@@ -107,34 +110,18 @@ void GroundTruithComparisionWidget::SetCutCollection(CutCollection* cuts)
 
 void GroundTruithComparisionWidget::attributeChanged(int index)
 {
-    const int attribute = m_Attributes->itemData(index).toInt();
-    m_GroundTruith->SetAttribute(attribute);
-    m_LinePlot->ClearAndAddPlot(attribute);
+    if (index < 0)
+        return;
+    m_GroundTruith->SetAttribute(index);
+    m_LinePlot->ClearAndAddPlot(index);
 }
 
-void GroundTruithComparisionWidget::resizeLinePlotWidget()
+void GroundTruithComparisionWidget::resizeViews(const QSize& size)
 {
-    const int width = std::max(m_ZoomWidget->value() * (m_ScrollArea->width() - 5), 1);
-    const int height = m_ScrollArea->height();
-    const QSize view(width, std::max(int(height * 0.5 - 20), 1));
-    m_GroundTruith->setFixedSize(view);
-    m_LinePlot->setFixedSize(view);
-    m_Views->resize(width, std::max(height - 20, 1));
-    updateVisiblePart();
-}
-
-// The graph paints what is in sight, and has to be told.
-void GroundTruithComparisionWidget::updateVisiblePart()
-{
-    const int from = m_ScrollArea->horizontalScrollBar()->value();
-    m_LinePlot->SetVisibleRange(from, from + m_ScrollArea->viewport()->width());
-}
-
-bool GroundTruithComparisionWidget::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == m_ScrollArea && event->type() == QEvent::Resize)
-        resizeLinePlotWidget();
-    return QMainWindow::eventFilter(watched, event);
+    const QSize half(size.width(), std::max(int(m_ScrollArea->height() * 0.5 - 20), 1));
+    m_GroundTruith->setFixedSize(half);
+    m_LinePlot->setFixedSize(half);
+    m_Views->resize(size);
 }
 
 void ShowGroundTruith(const SharedRecording& recording, QWidget* parent)
@@ -144,10 +131,8 @@ void ShowGroundTruith(const SharedRecording& recording, QWidget* parent)
     if (!reference)
         return;
     auto* window = new GroundTruithComparisionWidget;
-    window->SetLabelCollection(recording->GetLabelCollection());
     window->SetBehaviorCollection(reference.get());
-    window->SetCutCollection(recording->GetCutCollection());
-    window->SetDataSet(recording->GetDataSet());
+    window->SetRecording(recording.get());
     using Shown = std::pair<SharedRecording, decltype(reference)>;
     OpenWindow(window, parent, std::make_shared<Shown>(recording, std::move(reference)));
 }

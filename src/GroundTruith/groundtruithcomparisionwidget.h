@@ -1,14 +1,13 @@
 #pragma once
 
 #include "liverecording.h"
+#include "zoomedview.h"
 #include <QMainWindow>
 
 class CuttableLinePlotWidget;
 class GroundTruithBehaviorCollection;
 class GroundTruithWidget;
-class QComboBox;
-class QScrollArea;
-class ZoomWidget;
+class AttributeBox;
 
 /// The labels of a reference above the program's own, over the same data and at one zoom, to be
 /// compared by eye. Owns nothing that it shows.
@@ -18,6 +17,8 @@ class GroundTruithComparisionWidget : public QMainWindow
 public:
     explicit GroundTruithComparisionWidget(QWidget* parent = nullptr);
 
+    /// Shows a recording and follows its changes.
+    void SetRecording(LiveRecording* recording);
     void SetBehaviorCollection(GroundTruithBehaviorCollection* behaviors);
     /// Shows the first attribute of the data set and offers the others.
     void SetDataSet(DataSet* dataSet);
@@ -26,19 +27,15 @@ public:
 
 public slots:
     /// Gives both views the width that the zoom asks for.
-    void resizeLinePlotWidget();
+    void resizeLinePlotWidget() { m_View.Resize(); }
     /// Shows an attribute, by its place in the list, in both views.
     void attributeChanged(int index);
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void makeToolBar();
     void makeViews();
-    void updateVisiblePart();
+    void resizeViews(const QSize& size);
 
-    DataSet* m_DataSet = nullptr;
     CutCollection* m_CutCollection = nullptr;
     LabelCollection* m_LabelCollection = nullptr;
     GroundTruithBehaviorCollection* m_BehaviorCollection = nullptr;
@@ -46,9 +43,10 @@ private:
     QScrollArea* m_ScrollArea;
     QWidget* m_Views;
     ZoomWidget* m_ZoomWidget;
-    QComboBox* m_Attributes;
+    AttributeBox* m_Attributes;
     GroundTruithWidget* m_GroundTruith;
     CuttableLinePlotWidget* m_LinePlot;
+    ZoomedView m_View;
 };
 
 /// Shows a reference labelling, from a file that the user picks, beside the recording's own.

@@ -3,6 +3,7 @@
 #include "groundtruithbehaviorcollection.h"
 #include "grouppalette.h"
 #include "pixelmath.h"
+#include "plotlook.h"
 #include "timeaxis.h"
 #include <QPaintEvent>
 #include <QPainter>
@@ -50,7 +51,7 @@ void GroundTruithWidget::resizeEvent(QResizeEvent* event)
 
 void GroundTruithWidget::rebuildTiles()
 {
-    m_Tiles.assign(size_t(std::ceil(width() / double(tileWidth))), QPixmap());
+    m_Tiles = std::vector<CachedPicture>(size_t(std::ceil(width() / double(tileWidth))));
     update();
 }
 
@@ -61,52 +62,42 @@ qreal GroundTruithWidget::tileRatio() const
     return std::min(devicePixelRatioF(), highest);
 }
 
-const QPixmap& GroundTruithWidget::tile(int index)
+void GroundTruithWidget::showTile(QPainter& painter, int index)
 {
-    QPixmap& pixmap = m_Tiles[size_t(index)];
-    // The window may have moved to a screen of another pixel density.
-    if (pixmap.isNull() || pixmap.devicePixelRatioF() != tileRatio()) {
-        dropTilesFarFrom(index);
-        pixmap = paintTile(index);
-    }
-    return pixmap;
+    const int left = index * tileWidth;
+    // Only the last tile can be less than full, and only its part on the widget is ever seen.
+    const QSize seen(std::min(tileWidth, width() - left), height());
+    dropTilesFarFrom(index);
+    m_Tiles[size_t(index)].Paint(painter, {left, 0}, seen, tileRatio(),
+                                 [&](QPainter& tile) { paintTile(tile, left); });
 }
 
 void GroundTruithWidget::dropTilesFarFrom(int index)
 {
     for (int i = 0; i < GetTileCount(); ++i) {
         if (std::abs(i - index) > 1)
-            m_Tiles[size_t(i)] = QPixmap();
+            m_Tiles[size_t(i)].Invalidate();
     }
 }
 
-QPixmap GroundTruithWidget::paintTile(int index)
+void GroundTruithWidget::paintTile(QPainter& painter, int left)
 {
-    const qreal ratio = tileRatio();
-    // Only the last tile can be less than full, and only its part on the widget is ever seen.
-    const int seen = std::min(tileWidth, width() - index * tileWidth);
-    QPixmap pixmap(QSize(seen, height()) * ratio);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::white);
     if (!m_DataSet)
-        return pixmap;
-    QPainter painter(&pixmap);
+        return;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setClipRect(QRect(0, 0, seen, height()));
-    painter.translate(-index * tileWidth, 0);
+    painter.setClipRect(QRect(0, 0, tileWidth, height()));
+    painter.translate(-left, 0);
     painter.save();
     m_LinePlot.Paint(painter, true);
     painter.restore();
     paintBehaviors(painter);
-    return pixmap;
 }
 
 void GroundTruithWidget::paintBehaviors(QPainter& painter) const
 {
-    constexpr double opacity = 0.4;
     if (!m_BehaviorCollection)
         return;
-    painter.setOpacity(opacity);
+    painter.setOpacity(MarkOpacity);
     const TimeAxis& axis = *m_LinePlot.GetTimeAxis();
     const auto toPixel = [&](int row) {
         return TruncateToInt(double(axis.ToPixel(row)) + axis.GetStart().x());
@@ -131,5 +122,5 @@ void GroundTruithWidget::paintEvent(QPaintEvent* event)
     const int first = event->rect().left() / tileWidth;
     const int last = std::min(event->rect().right() / tileWidth, GetTileCount() - 1);
     for (int i = first; i <= last; ++i)
-        painter.drawPixmap(i * tileWidth, 0, tile(i));
+        showTile(painter, i);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "cachedpicture.h"
 #include "lineplot.h"
-#include <QPixmap>
 #include <QWidget>
 #include <vector>
 
@@ -32,14 +32,13 @@ protected:
 private:
     void rebuildTiles();
     qreal tileRatio() const;
-    const QPixmap& tile(int index);
+    void showTile(QPainter& painter, int index);
     void dropTilesFarFrom(int index);
-    QPixmap paintTile(int index);
+    void paintTile(QPainter& painter, int left);
     void paintBehaviors(QPainter& painter) const;
 
     DataSet* m_DataSet = nullptr;
     GroundTruithBehaviorCollection* m_BehaviorCollection = nullptr;
     LinePlot m_LinePlot{0};
-    // Null until they come in sight.
-    std::vector<QPixmap> m_Tiles;
+    std::vector<CachedPicture> m_Tiles;
 };

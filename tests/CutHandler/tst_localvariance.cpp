@@ -1,6 +1,7 @@
 #include "localvariance.h"
 
 #include "localvarianceextractor.h"
+#include "scriptedprogress.h"
 #include "testdata.h"
 #include <QtTest>
 #include <cmath>
@@ -67,6 +68,7 @@ private slots:
     void sumsInSinglePrecision_data();
     void sumsInSinglePrecision();
     void findsTransitions();
+    void stops();
 };
 
 void TestLocalVariance::sumsInSinglePrecision_data()
@@ -133,6 +135,29 @@ void TestLocalVariance::findsTransitions()
     QCOMPARE(cuts(10.0, {0, 1, 99, 10, 5, 100, 0.0}), none);
     // Between two steps 80 rows apart the variance falls to 16 only, which does not count.
     QCOMPARE(int(cuts(10.0, {0, 1, 1, 10, 5, 100, 20.0}, 80).size()), 2);
+}
+
+void TestLocalVariance::stops()
+{
+    std::vector<double> values(20'000, 0.0);
+    for (size_t row = 0; row < values.size(); row += 1000)
+        values[row] = 50.0;
+    const auto data = MakeColumn(values);
+    LocalVarianceExtractor extractor;
+    extractor.setDataSet(data.get());
+    int last = 0;
+    ScriptedProgress watch([&](int value) {
+        last = std::max(last, value);
+        return false;
+    });
+    const LocalVarianceParameters parameters{0, 0, 0, 10, 5, 100, 0.1};
+    extractor.extract(parameters, watch);
+    QVERIFY(!extractor.getIndices().empty());
+    for (const int stop : {0, last / 2, last}) {
+        ScriptedProgress progress([=](int value) { return value >= stop; });
+        extractor.extract(parameters, progress);
+        QVERIFY(extractor.getIndices().empty());
+    }
 }
 
 QTEST_MAIN(TestLocalVariance)

@@ -1,7 +1,9 @@
 #include "persistenceextractor.h"
 
+#include "scriptedprogress.h"
 #include <QtTest>
 #include <limits>
+#include <numeric>
 #include <random>
 
 namespace
@@ -64,6 +66,7 @@ private slots:
     void pairs_data();
     void pairs();
     void randomCurves();
+    void longCurveUnlessStopped();
 };
 
 void TestPersistenceExtractor::pairs_data()
@@ -114,6 +117,33 @@ void TestPersistenceExtractor::randomCurves()
             data.push_back(walk);
         }
         QCOMPARE(pairsText(data, 0.0F), pairsText(pairsByWalking(data)));
+    }
+}
+
+// So long that it is sorted piece by piece.
+void TestPersistenceExtractor::longCurveUnlessStopped()
+{
+    std::vector<float> data(500'000);
+    std::iota(data.begin(), data.end(), 0.0F);
+    std::shuffle(data.begin(), data.end(), std::mt19937(4));
+    const auto byMinimum = [](std::vector<PairedExtrema> pairs) {
+        std::sort(pairs.begin(), pairs.end(),
+                  [](auto& a, auto& b) { return a.m_MinIndex < b.m_MinIndex; });
+        return pairsText(pairs);
+    };
+    PersistenceExtractor extractor;
+    int last = 0;
+    ScriptedProgress watch([&](int value) {
+        last = value;
+        return false;
+    });
+    QVERIFY(extractor.extract(data, watch));
+    QVERIFY(byMinimum(extractor.getPairs(0.0F)) == byMinimum(pairsByWalking(data)));
+    // While it sorts, while it joins what is sorted, and while it floods.
+    for (const int stop : {0, last / 2, last}) {
+        ScriptedProgress progress([=](int value) { return value >= stop; });
+        QVERIFY(!extractor.extract(data, progress));
+        QVERIFY(extractor.getPairs(0.0F).empty());
     }
 }
 

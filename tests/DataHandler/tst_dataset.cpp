@@ -29,6 +29,8 @@ class TestDataSet : public QObject
 private slots:
     void rangesHaveOddStarts_data();
     void rangesHaveOddStarts();
+    void rangesFollowChanges();
+    void rangesAsAWalkFindsThem();
     void axisRangesOverride();
     void looksUp();
     void removesAttributes();
@@ -61,6 +63,56 @@ void TestDataSet::rangesHaveOddStarts()
     QTEST(data->GetRawMax(0), "high");
     QCOMPARE(data->GetMinValue(0), double(data->GetRawMin(0)));
     QCOMPARE(data->GetMaxValue(0), double(data->GetRawMax(0)));
+}
+
+void TestDataSet::rangesFollowChanges()
+{
+    const auto data = MakeDataSet("1 2\n3 4");
+    data->GetRow(0)->SetValue(1, 8.0);
+    QCOMPARE(data->GetRawMax(1), 4.0F);
+    data->ComputeRanges();
+    QCOMPARE(data->GetRawMax(1), 8.0F);
+    data->ReplaceColumn(1, DataColumn(2, 5.0));
+    data->GetRow(1)->AddValue(6.0);
+    data->AddAttribute(QStringLiteral("new"), ATTRIBUTE_OTHER);
+    QCOMPARE(data->GetRawMax(2), DataSet::GetInitialMax());
+    data->ComputeRanges();
+    QCOMPARE(QPointF(data->GetRawMin(1), data->GetRawMax(1)), QPointF(5, 5));
+    QCOMPARE(data->GetRawMax(2), 6.0F);
+    // Out of step after a removal, until they are taken anew.
+    data->RemoveAttribute(0);
+    QCOMPARE(data->GetRawMax(0), 3.0F);
+    data->ComputeRanges();
+    QCOMPARE(QPointF(data->GetRawMax(0), data->GetRawMax(1)), QPointF(5, 6));
+    auto* row = new DataRow;
+    row->AddValue(-7.0);
+    data->AddRow(row);
+    data->ComputeRanges();
+    QCOMPARE(data->GetRawMin(0), -7.0F);
+}
+
+// Step by step as the ranges are defined; to the sign of a zero, which shows in a label.
+void TestDataSet::rangesAsAWalkFindsThem()
+{
+    const double values[] = {0.0, -0.0, 1e-60, -1e-60, 1e-46, 1.0, -1.0, 1e39, -1e39, 0.1, NAN};
+    std::mt19937 random(9);
+    for (int run = 0; run < 20000; ++run) {
+        Values column(random() % 80);
+        const size_t kinds = 1 + random() % std::size(values);
+        for (double& value : column)
+            value = values[random() % kinds];
+        ValueRange walked;
+        for (const double value : column) {
+            if (double(walked.m_Minimum) > value)
+                walked.m_Minimum = float(value);
+            if (value > double(walked.m_Maximum))
+                walked.m_Maximum = float(value);
+        }
+        const ValueRange range = ComputeValueRange(column);
+        QCOMPARE(range.m_Minimum, walked.m_Minimum);
+        QCOMPARE(std::signbit(range.m_Minimum), std::signbit(walked.m_Minimum));
+        QCOMPARE(range.m_Maximum, walked.m_Maximum);
+    }
 }
 
 void TestDataSet::axisRangesOverride()

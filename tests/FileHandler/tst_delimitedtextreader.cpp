@@ -1,5 +1,6 @@
 #include "delimitedtextreader.h"
 #include "failingdevice.h"
+#include "scriptedprogress.h"
 
 #include <QBuffer>
 #include <QTest>
@@ -113,6 +114,7 @@ private slots:
     void readsLinesLongerThanABlock();
     void refusesAnEndlessLine();
     void survivesFailingDevices();
+    void stops();
     void readsOneColumn();
 };
 
@@ -251,6 +253,18 @@ void TestDelimitedTextReader::survivesFailingDevices()
     }
     FailingDevice device(text, text.size());
     QCOMPARE(read(device, settings(QStringLiteral(","))).rows, QStringLiteral("1 2|1 2|1 2"));
+}
+
+void TestDelimitedTextReader::stops()
+{
+    QByteArray text = QByteArray("1,2\n").repeated(1000);
+    QBuffer buffer(&text);
+    buffer.open(QIODevice::ReadOnly);
+    ScriptedProgress progress([](int line) { return line >= 300; });
+    DelimitedTextReader reader(settings(QStringLiteral(",")));
+    QVERIFY(!reader.Read(buffer, progress));
+    QCOMPARE(reader.GetError(), QStringLiteral("Reading the file was stopped"));
+    QVERIFY(!reader.TakeDataSet());
 }
 
 void TestDelimitedTextReader::readsOneColumn()

@@ -3,6 +3,8 @@
 #include "groundtruithreader.h"
 #include "instancecolumnswriter.h"
 #include "labelwriter.h"
+#include "ordinaryuser.h"
+#include "scriptedprogress.h"
 #include "segmenttext.h"
 #include "testdata.h"
 
@@ -51,51 +53,76 @@ struct Study {
     }
 };
 
-using Write = std::function<bool(const Study&, const QString& path)>;
+const QString written = QStringLiteral("written");
+const QString stopped = QStringLiteral("Writing was stopped");
+const QString failed = QStringLiteral("Unable to open file");
+
+// Returns the error, or "written".
+using Write = std::function<QString(const Study&, const QString& path, Progress&)>;
+
+Write labelWriter(const std::function<bool(LabelWriter&, const Study&)>& write)
+{
+    return [=](const Study& study, const QString& path, Progress& progress) {
+        LabelWriter writer(path);
+        writer.SetDataSet(study.m_Data.get());
+        writer.SetProgress(&progress);
+        return write(writer, study) ? written : writer.GetError();
+    };
+}
 
 Write labelWriter(bool (LabelWriter::*write)(const LabelCollection*))
 {
-    return [=](const Study& study, const QString& path) {
-        LabelWriter writer(path);
-        writer.SetDataSet(study.m_Data.get());
-        return (writer.*write)(&study.m_Labels);
-    };
+    return labelWriter(
+        [=](LabelWriter& writer, const Study& study) { return (writer.*write)(&study.m_Labels); });
 }
 
 Write dataWriter(int from, int to)
 {
-    return [=](const Study& study, const QString& path) {
+    return [=](const Study& study, const QString& path, Progress& progress) {
         FileWriter writer(path);
         writer.SetDataSet(study.m_Data.get());
         writer.SetRange(from, to);
-        return writer.Write();
+        writer.SetProgress(&progress);
+        return writer.Write() ? written : writer.GetError();
     };
 }
 
-bool writeSummary(const Study& study, const QString& path)
+bool writeSummary(LabelWriter& writer, const Study& study)
 {
-    LabelWriter writer(path);
-    writer.SetDataSet(study.m_Data.get());
     return writer.WriteSummary(&study.m_Labels, 0);
 }
 
-bool writeFirstLabel(const Study& study, const QString& path)
+bool writeFirstLabel(LabelWriter& writer, const Study& study)
 {
-    LabelWriter writer(path);
-    writer.SetDataSet(study.m_Data.get());
     return writer.WriteLabel(study.m_Labels.GetLabel(0));
 }
 
-bool writeColumns(const Study& study, const QString& path)
+QString writeColumns(const Study& study, const QString& path, Progress& progress)
 {
-    return WriteInstanceColumns(path, *study.m_Data, *study.m_Labels.GetLabel(0), 0);
+    if (WriteInstanceColumns(path, *study.m_Data, *study.m_Labels.GetLabel(0), 0, &progress))
+        return written;
+    return progress.IsStopRequested() ? stopped : failed;
 }
 
-bool writeCuts(const Study& study, const QString& path)
+// Nobody waits for it: it reports no progress, so that is asked here.
+QString writeCuts(const Study& study, const QString& path, Progress& progress)
 {
+    progress.SetValue(0);
     CutCollectionWriter writer(path);
     writer.SetDataSet(study.m_Data.get());
-    return writer.WriteSegments(&study.m_Cuts);
+    if (progress.IsStopRequested())
+        return stopped;
+    return writer.WriteSegments(&study.m_Cuts) ? written : writer.GetError();
+}
+
+// What stands in and below a folder can be read only, or written again.
+void setWritable(const QString& folder, bool isWritable)
+{
+    const QFile::Permissions permissions(isWritable ? 0x7777 : 0x5555);
+    QFile::setPermissions(folder, permissions);
+    QDirIterator it(folder, QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    while (it.hasNext())
+        QFile::setPermissions(it.next(), permissions);
 }
 
 } // namespace
@@ -108,6 +135,8 @@ class TestLabelFiles : public QObject
 private slots:
     void writes_data();
     void writes();
+    void keepsOldFiles_data() { writes_data(); }
+    void keepsOldFiles();
     void refusesNames();
     void refusesWithoutData();
     void projectComesBack();
@@ -126,7 +155,7 @@ void TestLabelFiles::writes_data()
     const QByteArray columns = "Time From, Time To, Data Row From, Data Row To, Data Length, "
                                "Max A, Min A, Mean A, Standard Deviation A\n";
     QTest::newRow("summary")
-        << Write(writeSummary)
+        << labelWriter(writeSummary)
         << inFile("Name:,Walk\nNumber instances:,2\nTotal Duration (Data Rows):,3\n"
                   "Data length:,1, Number Instances:, 1\nData length:,2, Number Instances:, 1\n" +
                   columns + "6,6,5,6,1,6,6,6,0\n1,3,0,2,2,2,1,1.5,0.5\n\n \n \n" +
@@ -150,7 +179,7 @@ void TestLabelFiles::writes_data()
                              << inFile("Time,A,B,Behavior\n1,1,0.1,0\n2,2,123457,0\n"
                                        "3,3,-1e-20,2\n4,4,0.333333,1\n5,5,0,1\n6,6,nan,0\n");
     QTest::newRow("label up to the last row")
-        << Write(writeFirstLabel) << inFile("6\t6\t1\tWalk\n1\t3\t2\tWalk\n");
+        << labelWriter(writeFirstLabel) << inFile("6\t6\t1\tWalk\n1\t3\t2\tWalk\n");
     QTest::newRow("side by side") << Write(writeColumns)
                                   << inFile("Behavior 1 (A ), Behavior 2 (A )\n6, 1\n0, 2\n");
     QTest::newRow("data") << dataWriter(-1, -1)
@@ -172,7 +201,7 @@ void TestLabelFiles::writes()
         QVERIFY(QDir().mkpath(path));
     // The second time everything is there already.
     for (int i = 0; i < 2; ++i) {
-        QVERIFY(write(study, path));
+        QCOMPARE(write(study, path, NoProgress::Shared()), written);
         const Files files = filesIn(directory.path());
         QCOMPARE(files.keys(), expected.keys());
         for (auto it = files.begin(); it != files.end(); ++it)
@@ -180,7 +209,38 @@ void TestLabelFiles::writes()
     }
     QTemporaryFile inTheWay;
     QVERIFY(inTheWay.open());
-    QVERIFY(!write(study, inTheWay.fileName() + QStringLiteral("/out")));
+    const QString nowhere = inTheWay.fileName() + QStringLiteral("/out");
+    QCOMPARE(write(study, nowhere, NoProgress::Shared()), failed);
+}
+
+// Neither a stop nor a file that cannot take its place at the end touches what was there.
+void TestLabelFiles::keepsOldFiles()
+{
+    QFETCH(Write, write);
+    QFETCH(Files, expected);
+    const OrdinaryUser user;
+    const Study study(
+        {QStringLiteral("Walk"), QStringLiteral("r\u00e9st"), QStringLiteral("Walk")});
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("out"));
+    Files old = expected;
+    for (auto it = old.begin(); it != old.end(); ++it) {
+        it.value() = "old";
+        const QFileInfo info(directory.filePath(it.key()));
+        QVERIFY(QDir().mkpath(info.path()));
+        QFile file(info.filePath());
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("old") == 3);
+    }
+    ScriptedProgress stop([](int) { return true; });
+    QCOMPARE(write(study, path, stop), stopped);
+    QCOMPARE(filesIn(directory.path()), old);
+    ScriptedProgress lock([&](int) {
+        setWritable(directory.path(), false);
+        return false;
+    });
+    QCOMPARE(write(study, path, lock), failed);
+    setWritable(directory.path(), true);
+    QCOMPARE(filesIn(directory.path()), old);
 }
 
 void TestLabelFiles::refusesNames()
@@ -192,11 +252,11 @@ void TestLabelFiles::refusesNames()
         const QString path = directory.filePath(QStringLiteral("out"));
         QVERIFY(QDir().mkpath(path));
         for (const auto write : {&LabelWriter::WriteCombined, &LabelWriter::WriteSeparateFiles})
-            QVERIFY(!labelWriter(write)(study, path));
-        const QStringList written{QStringLiteral("out/first.txt"),
-                                  QStringLiteral("out/first/cut0.txt"),
-                                  QStringLiteral("out/first/cut1.txt")};
-        QCOMPARE(filesIn(directory.path()).keys(), written);
+            QCOMPARE(labelWriter(write)(study, path, NoProgress::Shared()), failed);
+        const QStringList names{QStringLiteral("out/first.txt"),
+                                QStringLiteral("out/first/cut0.txt"),
+                                QStringLiteral("out/first/cut1.txt")};
+        QCOMPARE(filesIn(directory.path()).keys(), names);
     }
 }
 
@@ -225,7 +285,7 @@ void TestLabelFiles::projectComesBack()
     const Study study({QStringLiteral("Walk"), QStringLiteral("r\u00c9st"), QStringLiteral("a,b")});
     const QTemporaryDir directory;
     const QString path = directory.filePath(QStringLiteral("out"));
-    QVERIFY(labelWriter(&LabelWriter::WriteProject)(study, path));
+    QCOMPARE(labelWriter(&LabelWriter::WriteProject)(study, path, NoProgress::Shared()), written);
     GroundTruithReader reader(path);
     reader.SetDataSet(study.m_Data.get());
     QVERIFY(reader.ReadFile());

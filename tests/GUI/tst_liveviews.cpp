@@ -1,4 +1,5 @@
 #include "attributebox.h"
+#include "attributesmenu.h"
 #include "cuttablelineplotwidget.h"
 #include "dataset.h"
 #include "groundtruithcomparisionwidget.h"
@@ -81,6 +82,19 @@ Window* findWindow()
     return nullptr;
 }
 
+NamedColumn column(const char* name, double value)
+{
+    return {QLatin1String(name), DataColumn(100, value)};
+}
+
+void addColumn(LiveRecording& recording, const char* name)
+{
+    std::vector<NamedColumn> columns;
+    columns.push_back(column(name, 7));
+    recording.GetColumns().Add(std::move(columns));
+    recording.Tell(LiveRecording::ATTRIBUTES);
+}
+
 } // namespace
 
 /// Every window that shows a recording, and what each kind of change makes of it.
@@ -109,7 +123,7 @@ private:
 void TestLiveViews::init()
 {
     m_Recording =
-        std::make_shared<LiveRecording>(MakeDataSet(QByteArray("1 3\n2 1\n").repeated(50)));
+        std::make_shared<LiveRecording>(MakeDataSet(QByteArray("-1 3\n2 1\n").repeated(50)));
     m_Recording->GetLabelling().Import({{QStringLiteral("walk"), {{20, 40}}}});
     m_Recording->GetCutCollection()->InsertCut(50, 60, CutSegment::SEGMENT_RESULT);
     m_Window = std::make_unique<MainWindow>();
@@ -150,6 +164,9 @@ Shown TestLiveViews::readViews() const
     QStringList names;
     for (int i = 0; i < tabs->count(); ++i)
         names.append(tabs->tabText(i));
+    QStringList menu;
+    for (const QAction* entry : m_Window->findChild<AttributesMenu*>()->actions())
+        menu.append(entry->text() + QString::number(entry->isChecked()));
     Shown shown{
         {QStringLiteral("graph"), picture(m_Window->findChild<CuttableLinePlotWidget*>())},
         {QStringLiteral("overview"), picture(m_Window->findChild<OverviewTimelineWidget*>())},
@@ -157,11 +174,15 @@ Shown TestLiveViews::readViews() const
         {QStringLiteral("result boxes"), choices(results)},
         {QStringLiteral("tabs"), names.join(QLatin1Char(' '))},
         {QStringLiteral("reference"), picture(reference->findChild<CuttableLinePlotWidget*>())},
+        {QStringLiteral("reference boxes"), choices(reference)},
         {QStringLiteral("segment window"), picture(findWindow<LinePlotWidget>())},
+        {QStringLiteral("menu"), menu.join(QLatin1Char(' '))},
     };
     if (tabs->count() > 0) {
         shown.insert(QStringLiteral("labels"), rows(tabs->widget(0)));
         shown.insert(QStringLiteral("label boxes"), choices(tabs->widget(0)));
+        shown.insert(QStringLiteral("label pictures"),
+                     picture(tabs->widget(0)->findChild<QTableView*>()->viewport()));
     }
     return shown;
 }
@@ -177,7 +198,9 @@ void TestLiveViews::everyViewFollows_data()
     QTest::addColumn<Change>("change");
     QTest::addColumn<QStringList>("changed");
     const auto add = [](const char* name, Change change, const char* changed) {
-        QTest::newRow(name) << change << QString::fromLatin1(changed).split(QStringLiteral(", "));
+        QTest::newRow(name) << change
+                            << QString::fromLatin1(changed).split(QStringLiteral(", "),
+                                                                  Qt::SkipEmptyParts);
     };
     add(
         "cut",
@@ -207,7 +230,7 @@ void TestLiveViews::everyViewFollows_data()
                                            *recording.GetLabelCollection()->GetLabel(0));
             recording.TellLabels();
         },
-        "graph, labels, overview, reference, results");
+        "graph, label pictures, labels, overview, reference, results");
     add(
         "label without a signal",
         [](LiveRecording& recording) {
@@ -216,14 +239,14 @@ void TestLiveViews::everyViewFollows_data()
                                            Labelling::TELL_NOBODY);
             recording.TellLabels();
         },
-        "graph, labels, overview, reference");
+        "graph, label pictures, labels, overview, reference");
     add(
         "unlabelled",
         [](LiveRecording& recording) {
             recording.GetLabelling().Unlabel({segmentAt(recording, 30)}, Labelling::TELL_NOBODY);
             recording.TellLabels();
         },
-        "graph, labels, overview, reference");
+        "graph, label pictures, labels, overview, reference");
     add(
         "moved ends",
         [](LiveRecording& recording) {
@@ -231,7 +254,7 @@ void TestLiveViews::everyViewFollows_data()
                                                       segmentAt(recording, 30), 25, 38);
             recording.TellLabels();
         },
-        "graph, labels, overview, reference");
+        "graph, label pictures, labels, overview, reference");
     add(
         "new behaviour",
         [](LiveRecording& recording) {
@@ -253,7 +276,61 @@ void TestLiveViews::everyViewFollows_data()
             recording.GetLabelling().RemoveBehavior(*recording.GetLabelCollection()->GetLabel(0));
             recording.TellLabels();
         },
-        "graph, label boxes, labels, overview, reference, tabs");
+        "graph, label boxes, label pictures, labels, overview, reference, tabs");
+    const char* all = "graph, label boxes, label pictures, menu, reference, reference boxes, "
+                      "result boxes, segment window";
+    add(
+        "new attribute", [](LiveRecording& recording) { addColumn(recording, "C"); },
+        "label boxes, menu, reference boxes, result boxes");
+    add(
+        "removed attribute",
+        [](LiveRecording& recording) {
+            recording.GetColumns().Remove({QStringLiteral("A")});
+            recording.Tell(LiveRecording::ATTRIBUTES);
+        },
+        all);
+    add(
+        "removed and back elsewhere",
+        [](LiveRecording& recording) {
+            // The lines stay as they were.
+            std::vector<NamedColumn> columns;
+            columns.push_back(column("A", -1));
+            for (int row = 1; row < 100; row += 2)
+                columns.front().m_Values[row] = 2;
+            recording.GetColumns().Replace(std::move(columns));
+            recording.Tell(LiveRecording::ATTRIBUTES);
+        },
+        "label boxes, menu, reference boxes, result boxes");
+    add(
+        "computed anew",
+        [](LiveRecording& recording) {
+            std::vector<NamedColumn> columns;
+            columns.push_back(column("A", 3));
+            recording.GetColumns().Replace(std::move(columns));
+            recording.Tell(LiveRecording::ATTRIBUTES);
+        },
+        all);
+    add(
+        "limits",
+        [](LiveRecording& recording) {
+            recording.GetDataSet()->SetAxisRanges({{0, {-5, 5}}});
+            recording.Tell(LiveRecording::ATTRIBUTES);
+        },
+        "graph, label pictures, reference, segment window");
+    add(
+        "zero line",
+        [](LiveRecording& recording) {
+            recording.GetDataSet()->SetZeroLines({{0, true}});
+            recording.Tell(LiveRecording::ATTRIBUTES);
+        },
+        "graph, reference");
+    add(
+        "limits of another",
+        [](LiveRecording& recording) {
+            recording.GetDataSet()->SetAxisRanges({{1, {-5, 5}}});
+            recording.Tell(LiveRecording::ATTRIBUTES);
+        },
+        "");
 }
 
 void TestLiveViews::everyViewFollows()
@@ -267,8 +344,8 @@ void TestLiveViews::everyViewFollows()
     change(*m_Recording);
     QCoreApplication::processEvents();
     // A picture taken of a widget is always new; what the user sees has to be painted for it.
-    QCOMPARE(graph.m_Count > 0, changed.contains(QStringLiteral("graph")));
-    QCOMPARE(overview.m_Count > 0, changed.contains(QStringLiteral("graph")));
+    QVERIFY(graph.m_Count > 0 || !changed.contains(QStringLiteral("graph")));
+    QVERIFY(overview.m_Count > 0 || !changed.contains(QStringLiteral("overview")));
     const Shown after = readViews();
     QStringList different;
     for (auto view = before.begin(); view != before.end(); ++view) {

@@ -19,6 +19,7 @@ private slots:
     void savesData();
     void exportsLabels_data();
     void exportsLabels();
+    void stopsWithoutAWord();
     void cancelsEveryQuestion();
     void importsProject();
     void passesOverBadProjects();
@@ -144,6 +145,23 @@ void TestRecordingFiles::exportsLabels()
                                     : QStringList(QStringLiteral("Error writing label collection: "
                                                                  "Error: Unable to open file")));
     }
+}
+
+// Exports that take long have a Cancel button, after which there is neither a file nor a box.
+void TestRecordingFiles::stopsWithoutAWord()
+{
+    auto data = std::make_unique<DataSet>();
+    data->AddColumn(QStringLiteral("x"), ATTRIBUTE_OTHER, DataColumn(20'000'000, 0.123456789));
+    LiveRecording recording(std::move(data));
+    ModalScript user;
+    user.PickFile(path("data.csv"));
+    user.StopWork();
+    m_Files.SaveDataFile(&recording);
+    choose(user, 3);
+    user.PickFile(path("aligned.csv"));
+    user.StopWork();
+    m_Files.ExportSummaryLabels(&recording);
+    QCOMPARE(QDir(m_Folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList());
 }
 
 void TestRecordingFiles::cancelsEveryQuestion()

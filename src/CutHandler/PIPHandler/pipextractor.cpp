@@ -41,12 +41,13 @@ QString PIPExtractor::GetParameterName(int option)
     return names.value(option, QStringLiteral("Error"));
 }
 
-void PIPExtractor::extract(int attribute, int partitions, double minimumDistance, int stopping)
+bool PIPExtractor::extract(int attribute, int partitions, double minimumDistance, int stopping,
+                           Progress& progress)
 {
     m_Segments.clear();
     if (!m_DataSet || m_DataSet->GetRowCount() == 0 || attribute < 0 ||
         attribute >= m_DataSet->GetAttributeCount())
-        return;
+        return true;
     PIPEvaluator evaluator(m_DataSet->GetColumn(attribute), m_Measure);
     PIPSegment whole;
     whole.m_End = evaluator.GetRowCount() - 1;
@@ -54,6 +55,8 @@ void PIPExtractor::extract(int attribute, int partitions, double minimumDistance
     m_Segments.push_back(whole);
 
     const auto option = ParameterOptions(stopping);
+    // Nobody knows how many splits a distance takes.
+    progress.SetRange(0, option == MINIMUM_DISTANCE ? 0 : partitions + 1);
     int iterations = 0;
     double distance = PIPSegment::NoDistance;
     do {
@@ -62,9 +65,14 @@ void PIPExtractor::extract(int attribute, int partitions, double minimumDistance
             (distance < minimumDistance && option == NUMBER_PARTITIONS))
             break;
         splitBest(evaluator);
-        ++iterations;
+        progress.SetValue(++iterations);
+        if (progress.IsStopRequested()) {
+            m_Segments.clear();
+            return false;
+        }
     } while (parameterConditionMeet(option, distance, iterations, partitions, minimumDistance));
     std::sort(m_Segments.begin(), m_Segments.end(), isInFront);
+    return true;
 }
 
 void PIPExtractor::splitBest(PIPEvaluator& evaluator)

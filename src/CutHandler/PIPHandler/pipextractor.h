@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pipsegment.h"
-#include <QString>
+#include "progress.h"
 #include <vector>
 
 class DataSet;
@@ -35,7 +35,13 @@ public:
     /// Splits an attribute of the data set; stopping is one of ParameterOptions. The first split
     /// is always made, except that NUMBER_PARTITIONS also obeys minimumDistance. Ends early when
     /// no segment has a row left to be split at. No segments without rows or such an attribute.
-    void extract(int attribute, int partitions, double minimumDistance, int stopping);
+    void extract(int attribute, int partitions, double minimumDistance, int stopping)
+    {
+        extract(attribute, partitions, minimumDistance, stopping, NoProgress::Shared());
+    }
+    /// The same, but false and no segments when the progress asked to stop.
+    bool extract(int attribute, int partitions, double minimumDistance, int stopping,
+                 Progress& progress);
     /// In row order; neighbours share a row. A split at a segment's first row leaves a segment
     /// of that one row.
     const std::vector<PIPSegment>& getSegments() const { return m_Segments; }

@@ -2,15 +2,16 @@
 
 #include "cutcollection.h"
 #include "dataset.h"
+#include "dialogprogress.h"
 #include "localvariancedialog.h"
 #include "localvarianceextractor.h"
 #include "minimamaximadialog.h"
 #include "periodiccutdialog.h"
 #include "pipcutdialog.h"
 #include "pipextractor.h"
+#include "rowprogress.h"
 #include "simplecuts.h"
 #include "usererror.h"
-#include "waitcursor.h"
 #include <QStringList>
 
 namespace
@@ -22,6 +23,17 @@ enum Method {
     PERIODIC = 2,
     SHARP_TRANSITIONS = 3,
     MINIMA_MAXIMA = 4
+};
+
+// Finding the rows and cutting there; nothing is cut when the user stops it.
+class CutProgress : public DialogProgress
+{
+public:
+    explicit CutProgress(QWidget* parent)
+        : DialogProgress(parent, CutAutomation::tr("Automatic Cutting"), CAN_STOP, SHOW_WHEN_LONG)
+    {
+        SetLabelText(CutAutomation::tr("Cutting the recording"));
+    }
 };
 
 } // namespace
@@ -69,15 +81,19 @@ void CutAutomation::cutAtImportantPoints()
     PipCutDialog dialog({}, *m_DataSet, m_Parent);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const WaitCursor wait;
     const PipCutParameters chosen = dialog.GetParameters();
+    CutProgress progress(m_Parent);
     PIPExtractor extractor;
     extractor.setDataSet(m_DataSet);
     extractor.setMeasure(chosen.m_Measure);
-    extractor.extract(chosen.m_Attribute, chosen.m_Partitions, chosen.m_MinimumDistance,
-                      chosen.m_Stopping);
-    for (const PIPSegment& segment : extractor.getSegments())
+    if (!extractor.extract(chosen.m_Attribute, chosen.m_Partitions, chosen.m_MinimumDistance,
+                           chosen.m_Stopping, progress))
+        return;
+    const std::vector<PIPSegment>& segments = extractor.getSegments();
+    insertCuts(int(segments.size()), progress, [&](int i) {
+        const PIPSegment& segment = segments[size_t(i)];
         m_CutCollection->InsertCut(segment.m_Start, segment.m_End, CutSegment::SEGMENT_CUT);
+    });
 }
 
 void CutAutomation::cutPeriodically()
@@ -85,8 +101,8 @@ void CutAutomation::cutPeriodically()
     PeriodicCutDialog dialog({}, m_Parent);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const WaitCursor wait;
-    insertCuts(PeriodicCuts(*m_DataSet, dialog.GetParameters()));
+    CutProgress progress(m_Parent);
+    insertCuts(PeriodicCuts(*m_DataSet, dialog.GetParameters()), progress);
 }
 
 void CutAutomation::cutAtSharpTransitions()
@@ -94,11 +110,11 @@ void CutAutomation::cutAtSharpTransitions()
     LocalVarianceDialog dialog({}, *m_DataSet, m_Parent);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const WaitCursor wait;
+    CutProgress progress(m_Parent);
     LocalVarianceExtractor extractor;
     extractor.setDataSet(m_DataSet);
-    extractor.extract(dialog.GetParameters());
-    insertCuts(extractor.getIndices());
+    extractor.extract(dialog.GetParameters(), progress);
+    insertCuts(extractor.getIndices(), progress);
 }
 
 void CutAutomation::cutAtExtrema()
@@ -106,14 +122,29 @@ void CutAutomation::cutAtExtrema()
     MinimaMaximaDialog dialog({}, *m_DataSet, m_Parent);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const WaitCursor wait;
-    insertCuts(MinimaMaximaCuts(*m_DataSet, dialog.GetParameters()));
+    CutProgress progress(m_Parent);
+    insertCuts(MinimaMaximaCuts(*m_DataSet, dialog.GetParameters(), progress), progress);
 }
 
-void CutAutomation::insertCuts(const std::vector<int>& rows)
+void CutAutomation::insertCuts(const std::vector<int>& rows, Progress& progress)
 {
-    for (const int row : rows)
-        m_CutCollection->InsertCut(row, CutSegment::SEGMENT_CUT);
+    insertCuts(int(rows.size()), progress, [&](int i) {
+        m_CutCollection->InsertCut(rows[size_t(i)], CutSegment::SEGMENT_CUT);
+    });
+}
+
+void CutAutomation::insertCuts(int count, Progress& progress,
+                               const std::function<void(int)>& insert)
+{
+    const SegmentPlaces before = m_CutCollection->GetPlaces();
+    RowProgress steps(progress, count);
+    for (int i = 0; i < count; ++i) {
+        if (!steps.Advance()) {
+            m_CutCollection->ReturnTo(before);
+            return;
+        }
+        insert(i);
+    }
 }
 
 void CutByItself(const SharedRecording& recording, QWidget* parent, int method)

@@ -3,8 +3,10 @@
 #include "liverecording.h"
 #include <QCoreApplication>
 #include <QString>
+#include <functional>
 #include <vector>
 
+class Progress;
 class QWidget;
 
 /// Cuts a recording by itself, from the shape of its attributes: asks the user in a dialog, finds
@@ -34,7 +36,9 @@ private:
     void cutPeriodically();
     void cutAtSharpTransitions();
     void cutAtExtrema();
-    void insertCuts(const std::vector<int>& rows);
+    void insertCuts(const std::vector<int>& rows, Progress& progress);
+    // All cuts, insert(0) to insert(count - 1), or none when the user stops.
+    void insertCuts(int count, Progress& progress, const std::function<void(int)>& insert);
 
     QWidget* m_Parent;
     const DataSet* m_DataSet = nullptr;

@@ -1,10 +1,10 @@
 #include "stepscale.h"
 
+#include "plotmargin.h"
 #include <algorithm>
 
 namespace
 {
-constexpr int gutter = 40;
 constexpr int rightMargin = 49;
 } // namespace
 
@@ -12,12 +12,12 @@ StepScale StepScale::OverAll(int steps, int width)
 {
     StepScale scale;
     scale.m_To = std::max(steps, 0);
-    scale.m_Start = gutter;
+    scale.m_Start = PlotLeftMargin;
     const int count = std::max(steps, 1);
-    scale.m_PixelsPerStep = float(std::max(width - gutter, 0)) / float(count);
+    scale.m_PixelsPerStep = float(std::max(width - PlotLeftMargin, 0)) / float(count);
     // The way back takes one pixel more than the way there: a band does not reach the steps of the
     // last pixel.
-    scale.m_PixelsBack = double(std::max(width - gutter + 1, 1)) / count;
+    scale.m_PixelsBack = double(std::max(width - PlotLeftMargin + 1, 1)) / count;
     return scale;
 }
 

@@ -7,6 +7,7 @@
 #include "labelwriter.h"
 #include "modaldialog.h"
 #include "panelbutton.h"
+#include "runexport.h"
 #include "usererror.h"
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -283,7 +284,11 @@ void LabeledDataTabWidget::exportGroup()
         return;
     LabelWriter writer(path);
     writer.SetDataSet(m_DataSet);
-    if (!writer.WriteLabel(exported->GetLabel()))
+    const ExportResult result = RunExport(this, [&](Progress* progress) {
+        writer.SetProgress(progress);
+        return writer.WriteLabel(exported->GetLabel());
+    });
+    if (result == EXPORT_FAILED)
         ShowUserError(this, tr("Error writing label collection"),
                       tr("Error: ") + writer.GetError());
 }

@@ -3,7 +3,7 @@
 #include "amplitudeline.h"
 #include "cutsegment.h"
 #include "dataset.h"
-#include "plotfont.h"
+#include "plotlook.h"
 #include "segmenttablemodel.h"
 #include "timeaxis.h"
 #include "verticalaxis.h"

@@ -22,9 +22,9 @@ AttributeBox::AttributeBox(const DataSet* dataSet, const QString& toolTip) : Att
 void AttributeBox::SetDataSet(const DataSet* dataSet)
 {
     m_DataSet = dataSet;
-    m_WantedName =
-        dataSet && dataSet->GetAttributeCount() > 0 ? dataSet->GetAttributeName(0) : QString();
-    UpdateAttributes();
+    offer(dataSet && dataSet->GetAttributeCount() > 0 ? 0 : -1);
+    m_WantedName = currentText();
+    emit AttributeChanged(GetAttribute());
 }
 
 void AttributeBox::SetRecording(LiveRecording* recording)
@@ -40,25 +40,22 @@ void AttributeBox::SetRecording(LiveRecording* recording)
 
 void AttributeBox::UpdateAttributes()
 {
-    const QStringList names = m_DataSet ? m_DataSet->GetAttributeNames() : QStringList();
-    const int wanted = findWanted(names);
-    {
-        const QSignalBlocker blocker(this);
-        clear();
-        for (const QString& name : names)
-            addItem(name, count());
-        setCurrentIndex(wanted);
-    }
-    emit AttributeChanged(GetAttribute());
+    const int before = GetAttribute();
+    const AttributeLook lookBefore = m_Look;
+    const bool hasAttributes = m_DataSet && m_DataSet->GetAttributeCount() > 0;
+    offer(hasAttributes ? std::max(m_DataSet->FindAttribute(m_WantedName, before), 0) : -1);
+    if (GetAttribute() != before || m_Look != lookBefore)
+        emit AttributeChanged(GetAttribute());
 }
 
-// Two attributes may have one name: then the one in the same place.
-int AttributeBox::findWanted(const QStringList& names) const
+void AttributeBox::offer(int attribute)
 {
-    const int current = currentIndex();
-    if (current >= 0 && current < names.size() && names[current] == m_WantedName)
-        return current;
-    return names.isEmpty() ? -1 : std::max(names.indexOf(m_WantedName), 0);
+    const QSignalBlocker blocker(this);
+    clear();
+    for (int i = 0; m_DataSet && i < m_DataSet->GetAttributeCount(); ++i)
+        addItem(m_DataSet->GetAttributeName(i), i);
+    setCurrentIndex(attribute);
+    m_Look = m_DataSet ? AttributeLook(*m_DataSet, attribute) : AttributeLook();
 }
 
 void AttributeBox::SetAttribute(int attribute)
@@ -72,5 +69,6 @@ void AttributeBox::SetAttribute(int attribute)
 void AttributeBox::choose(int attribute)
 {
     m_WantedName = itemText(attribute);
+    m_Look = m_DataSet ? AttributeLook(*m_DataSet, attribute) : AttributeLook();
     emit AttributeChanged(attribute);
 }

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "attributelook.h"
 #include "liverecording.h"
 #include <QComboBox>
 #include <QPointer>
-
-class DataSet;
 
 /// Lets the user choose an attribute of a data set. The index of an entry is that of its
 /// attribute, and so is its data.
@@ -31,15 +30,18 @@ public:
     void SetAttribute(int attribute);
 
 signals:
-    /// Another attribute is chosen, or the chosen one has another index or was computed anew.
+    /// Another attribute is chosen, or the chosen one has another index, other values or another
+    /// axis.
     void AttributeChanged(int attribute);
 
 private:
     void choose(int attribute);
-    int findWanted(const QStringList& names) const;
+    void offer(int attribute);
 
     const DataSet* m_DataSet = nullptr;
     QPointer<LiveRecording> m_Recording;
     // What was chosen last, by the user or from outside.
     QString m_WantedName;
+    // Of the chosen attribute, when it was last told.
+    AttributeLook m_Look;
 };

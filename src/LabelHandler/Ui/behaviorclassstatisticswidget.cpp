@@ -4,6 +4,7 @@
 #include "dataset.h"
 #include "instancecolumnswriter.h"
 #include "rangestatistics.h"
+#include "runexport.h"
 #include "statisticsform.h"
 #include "usererror.h"
 #include <QFormLayout>
@@ -74,7 +75,10 @@ void BehaviorClassStatisticsWidget::exportSideBySide()
     // The behaviour may have gone while the user was choosing.
     if (path.isEmpty() || !m_Behavior)
         return;
-    if (!WriteInstanceColumns(path, *m_DataSet, *m_Behavior, m_Attribute))
+    const ExportResult result = RunExport(this, [&](Progress* progress) {
+        return WriteInstanceColumns(path, *m_DataSet, *m_Behavior, m_Attribute, progress);
+    });
+    if (result == EXPORT_FAILED)
         ShowUserError(this, tr("Error writing label collection"),
                       tr("Error: ") + tr("Unable to open file"));
 }

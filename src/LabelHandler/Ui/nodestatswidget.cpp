@@ -4,6 +4,7 @@
 #include "dataset.h"
 #include "filewriter.h"
 #include "rangestatistics.h"
+#include "runexport.h"
 #include "statisticsform.h"
 #include "usererror.h"
 #include <QComboBox>
@@ -71,7 +72,11 @@ void NodeStatsWidget::exportData()
     FileWriter writer(path);
     writer.SetDataSet(m_DataSet);
     writer.SetRange(m_From, m_To);
-    if (!writer.Write())
+    const ExportResult result = RunExport(this, [&](Progress* progress) {
+        writer.SetProgress(progress);
+        return writer.Write();
+    });
+    if (result == EXPORT_FAILED)
         ShowUserError(this, tr("Error writing file"),
                       tr("Error writing file: ") + writer.GetError());
 }

@@ -3,6 +3,7 @@
 #include "colormaps.h"
 #include "dataset.h"
 #include "lineplotwidget.h"
+#include "plotlook.h"
 #include <QDialog>
 #include <QMouseEvent>
 #include <QPainter>
@@ -67,13 +68,13 @@ void ResultMapWidget::addRemovedSteps(std::vector<int> steps)
 void ResultMapWidget::SetThreshold(float threshold)
 {
     m_Threshold = threshold;
-    update();
+    invalidatePicture();
 }
 
 void ResultMapWidget::SetColorMap(int scheme)
 {
     m_ColorMap = scheme;
-    update();
+    invalidatePicture();
 }
 
 StepScale ResultMapWidget::makeScale() const
@@ -104,6 +105,12 @@ QRect ResultMapWidget::rowOf(int factor) const
     return {0, top, width(), height() * (factor + 1) / rows - top};
 }
 
+void ResultMapWidget::invalidatePicture()
+{
+    m_Picture.Invalidate();
+    update();
+}
+
 void ResultMapWidget::markStale()
 {
     m_AreResultsStale = true;
@@ -113,7 +120,7 @@ void ResultMapWidget::markStale()
 void ResultMapWidget::markMatchesStale()
 {
     m_AreMatchesStale = true;
-    update();
+    invalidatePicture();
 }
 
 void ResultMapWidget::resizeEvent(QResizeEvent* event)
@@ -140,49 +147,38 @@ void ResultMapWidget::reduce(const StepScale& scale)
 
 void ResultMapWidget::paintEvent(QPaintEvent*)
 {
-    const StepScale scale = makeScale();
-    reduce(scale);
     QPainter painter(this);
-    const int left = int(scale.GetStart());
-    painter.fillRect(left, 0, width() - left, height(), Qt::white);
-    paintMap(painter);
-    paintBand(painter);
-}
-
-void ResultMapWidget::paintBand(QPainter& painter) const
-{
-    constexpr double opacity = 0.4;
-    SelectionRange band = m_Band;
-    band.SetStart(m_Band.GetSelectionStart());
-    band.m_End = m_Band.GetSelectionEnd();
-    painter.setOpacity(opacity);
-    band.Paint(painter, height());
+    m_Picture.Paint(painter, {}, size(), devicePixelRatioF(), [this](QPainter& map) {
+        const StepScale scale = makeScale();
+        reduce(scale);
+        const int left = int(scale.GetStart());
+        map.fillRect(left, 0, width() - left, height(), Qt::white);
+        paintMap(map);
+    });
+    painter.setOpacity(MarkOpacity);
+    m_Band.PaintBand(painter, height());
 }
 
 void ResultMapWidget::mousePressEvent(QMouseEvent* event)
 {
-    const bool isBandButton =
-        event->button() == Qt::LeftButton || event->button() == Qt::RightButton;
-    const bool isAlone = event->buttons() == event->button();
-    if (!isBandButton || !isAlone || m_Results.IsEmpty())
-        return;
-    m_BandButton = event->button();
-    m_Band.Begin(event->pos().x(), double(makeScale().GetStart()));
-    update();
+    const double left = double(makeScale().GetStart());
+    if (!m_Results.IsEmpty() &&
+        m_Band.Press(*event, left, RubberBand::Unlimited, Qt::LeftButton | Qt::RightButton))
+        update();
 }
 
 void ResultMapWidget::mouseMoveEvent(QMouseEvent* event)
 {
     const double left = double(makeScale().GetStart());
-    m_Band.SetEnd(qBound(left, double(event->pos().x()), std::max(left, double(width()))));
-    update();
+    if (m_Band.Move(*event, left, std::max(left, double(width()))))
+        update();
 }
 
 void ResultMapWidget::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (!m_Band.m_Active || event->button() != m_BandButton)
+    if (!m_Band.Release(*event))
         return;
-    const SelectionRange band = m_Band;
+    const RubberBand band = m_Band;
     m_Band.Clear();
     update();
     if (!band.IsValid())
@@ -190,7 +186,7 @@ void ResultMapWidget::mouseReleaseEvent(QMouseEvent* event)
     const StepScale scale = makeScale();
     const double first = scale.ToStep(band.GetSelectionStart());
     const double last = scale.ToStep(band.GetSelectionEnd());
-    if (m_BandButton == Qt::LeftButton)
+    if (band.GetButton() == Qt::LeftButton)
         removeMatches(first, last);
     else
         showSpan(first, last);

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "cachedpicture.h"
 #include "matchextraction.h"
-#include "selectionrange.h"
+#include "plotmargin.h"
+#include "rubberband.h"
 #include "stepscale.h"
 #include <QList>
 #include <QWidget>
@@ -10,7 +12,7 @@
 class DataSet;
 
 /// The right margin that lets a plot area above a map of the same width end where the map does.
-constexpr int MapAlignedMargin = 35;
+constexpr int MapAlignedMargin = PlotLeftMargin - 5;
 
 /// What all maps of search results share: where the steps stand, and a band of pixels that the
 /// user drags. Dragged with the left button it removes the matches on it, with the right one it
@@ -69,6 +71,8 @@ protected:
     int stepWidth() const;
     /// Where the row of a frequency factor stands, of as many rows as there are factors.
     QRect rowOf(int factor) const;
+    /// What is shown without being reduced to pixels has become other.
+    void invalidatePicture();
     /// The scale or the results have become others.
     void markStale();
     void markMatchesStale();
@@ -76,7 +80,6 @@ protected:
 private:
     CenterPoints visibleMatches() const;
     void reduce(const StepScale& scale);
-    void paintBand(QPainter& painter) const;
     void removeMatches(double first, double last);
     void showSpan(double first, double last);
     void addRemovedSteps(std::vector<int> steps);
@@ -88,8 +91,9 @@ private:
     int m_Attribute = 0;
     float m_Threshold = 0;
     int m_ColorMap;
-    SelectionRange m_Band;
-    Qt::MouseButton m_BandButton = Qt::NoButton;
+    RubberBand m_Band;
+    // The ground of the widget stays to be seen in the gutter.
+    CachedPicture m_Picture{Qt::transparent};
     bool m_AreResultsStale = true;
     bool m_AreMatchesStale = true;
 };

@@ -1,13 +1,13 @@
 #include "cuttablelineplotwidget.h"
 
-#include "collapsedwidth.h"
 #include "cutcollection.h"
+#include "cuttableamplitudeline.h"
 #include "cuttablelineplot.h"
 #include "dataset.h"
 #include "lineplotwidget.h"
 #include "openwindow.h"
 #include "pixelmath.h"
-#include "plotfont.h"
+#include "plotlook.h"
 #include "segmentpainter.h"
 #include "timeaxis.h"
 #include "verticalaxis.h"
@@ -46,7 +46,7 @@ void CuttableLinePlotWidget::SetRecording(LiveRecording* recording)
     connect(recording, &LiveRecording::SegmentsChanged, this,
             &CuttableLinePlotWidget::UpdateCutViz);
     connect(recording, &LiveRecording::AttributesChanged, this,
-            &CuttableLinePlotWidget::ResetVerticalAxes);
+            &CuttableLinePlotWidget::UpdateAttributes);
 }
 
 void CuttableLinePlotWidget::SetDataSet(DataSet* dataSet)
@@ -105,10 +105,8 @@ void CuttableLinePlotWidget::ClearSelection()
 void CuttableLinePlotWidget::ShowLabeledData(bool show)
 {
     m_ShowLabeled = show;
-    for (const auto& plot : m_Plots) {
-        if (auto* cuttable = dynamic_cast<CuttableLinePlot*>(plot.get()))
-            cuttable->SetShowLabeled(show);
-    }
+    for (const auto& plot : m_Plots)
+        plot->SetShowLabeled(show);
     RepaintCache();
 }
 
@@ -153,10 +151,9 @@ void CuttableLinePlotWidget::mousePressEvent(QMouseEvent* event)
     const TimeAxis* axis = GetTimeAxis();
     if (event->button() == Qt::RightButton)
         m_SelectedIndex = -1;
-    if (event->button() != Qt::LeftButton || !axis)
+    if (!axis || !m_Selection.Press(*event, axis->GetStart().x()))
         return;
     m_SelectedIndex = -1;
-    m_Selection.Begin(event->pos().x(), axis->GetStart().x());
     update();
 }
 
@@ -165,7 +162,7 @@ void CuttableLinePlotWidget::mouseMoveEvent(QMouseEvent* event)
     m_MouseX = event->pos().x();
     if (event->buttons() & Qt::LeftButton) {
         m_DragX = m_MouseX;
-        m_Selection.SetEnd(m_MouseX);
+        m_Selection.Move(*event);
     }
     update();
 }
@@ -315,7 +312,10 @@ void CuttableLinePlotWidget::zoomOnSelection(const CutSegment&)
 void CuttableLinePlotWidget::openPlot(const CutSegment& segment)
 {
     auto* window = new LinePlotWidget(0);
-    window->SetDataSet(m_DataSet);
+    if (m_Recording)
+        window->SetRecording(m_Recording);
+    else
+        window->SetDataSet(m_DataSet);
     window->SetRange(segment.GetFrom(), segment.GetTo());
     window->resize(600, 300);
     OpenWindow(window, this, m_Recording ? m_Recording->shared_from_this() : nullptr);
@@ -323,7 +323,6 @@ void CuttableLinePlotWidget::openPlot(const CutSegment& segment)
 
 void CuttableLinePlotWidget::paintEvent(QPaintEvent* event)
 {
-    constexpr double marksOpacity = 0.4;
     PlotAreaWidget::paintEvent(event);
     const TimeAxis* axis = GetTimeAxis();
     if (!axis)
@@ -331,7 +330,7 @@ void CuttableLinePlotWidget::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     painter.setFont(PlotFont());
     paintTimeAxis(painter);
-    painter.setOpacity(marksOpacity);
+    painter.setOpacity(MarkOpacity);
     paintSelection(painter);
     if (m_MouseX > 0 && m_Overlay)
         paintOverlay(painter);
@@ -360,7 +359,7 @@ void CuttableLinePlotWidget::paintTimeAxis(QPainter& painter) const
         const int row = axis->ToIndex(float(x));
         if (!m_DataSet || row < 0 || row >= m_DataSet->GetRowCount())
             continue;
-        const QString label = m_DataSet->GetRow(row)->GetLabel();
+        const QString label = m_DataSet->GetRowLabel(row);
         const int labelWidth = painter.fontMetrics().horizontalAdvance(label);
         painter.drawText(QPointF(x - labelWidth / 2.0, height() - 5), label);
     }

@@ -2,7 +2,7 @@
 
 #include "liverecording.h"
 #include "plotareawidget.h"
-#include "selectionrange.h"
+#include "rubberband.h"
 #include <QPointer>
 
 class CutSegment;
@@ -90,10 +90,10 @@ private:
 
     QPointer<LiveRecording> m_Recording;
     LabelCollection* m_LabelCollection = nullptr;
-    // A pixel after a click, a row after the context menu: kept, the keys move it by 5 of either.
+    // The row of the last context menu, which the keys move by 5; -1 without one.
     int m_SelectedIndex = -1;
     int m_MouseX = 0;
-    SelectionRange m_Selection;
+    RubberBand m_Selection;
     int m_DragX = -1;
     // Outlives its closing: an entry may open a dialog, which the menu has to survive.
     QMenu* m_ContextMenu;

@@ -7,6 +7,16 @@ LinePlotWidget::LinePlotWidget(int attribute, QWidget* parent)
 {
 }
 
+void LinePlotWidget::SetRecording(LiveRecording* recording)
+{
+    SetDataSet(DataOf(recording));
+    if (recording)
+        connect(recording, &LiveRecording::AttributesChanged, this, [this] {
+            if (FollowAttribute())
+                update();
+        });
+}
+
 void LinePlotWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);

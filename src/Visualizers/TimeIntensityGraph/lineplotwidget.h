@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lineplot.h"
+#include "liverecording.h"
 #include <QWidget>
 
 /// A widget that is one plot.
@@ -9,6 +10,9 @@ class LinePlotWidget : public QWidget, public LinePlot
     Q_OBJECT
 public:
     explicit LinePlotWidget(int attribute, QWidget* parent = nullptr);
+
+    /// Shows a recording whose attributes may come and go.
+    void SetRecording(LiveRecording* recording);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

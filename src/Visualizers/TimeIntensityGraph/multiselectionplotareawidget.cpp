@@ -1,10 +1,9 @@
 #include "multiselectionplotareawidget.h"
 
-#include "pixelmath.h"
+#include "plotlook.h"
 #include "timeaxis.h"
 #include <QMouseEvent>
 #include <QPainter>
-#include <algorithm>
 
 void MultiSelectionPlotAreaWidget::AddRange(int from, int to)
 {
@@ -20,23 +19,17 @@ void MultiSelectionPlotAreaWidget::ClearRanges()
 
 bool MultiSelectionPlotAreaWidget::GetSelection(int& from, int& to) const
 {
-    const TimeAxis* axis = GetTimeAxis();
-    if (!axis || m_DragStart == -1 || m_DragEnd == -1)
-        return false;
-    const int origin = std::max(m_From, 0);
-    from = origin + axis->ToIndex(float(std::min(m_DragStart, m_DragEnd)));
-    to = origin + axis->ToIndex(float(std::max(m_DragStart, m_DragEnd)));
-    return true;
+    return toRows(m_Drag, from, to);
 }
 
 void MultiSelectionPlotAreaWidget::ClearSelection()
 {
-    m_DragStart = -1;
-    m_DragEnd = -1;
+    m_Drag.Clear();
     update();
 }
 
-void MultiSelectionPlotAreaWidget::SetHeadCalibration(const RowRange& first, const RowRange& second)
+void MultiSelectionPlotAreaWidget::SetHeadCalibration(const std::optional<RowSpan>& first,
+                                                      const std::optional<RowSpan>& second)
 {
     m_FirstCalibration = first;
     m_SecondCalibration = second;
@@ -49,33 +42,28 @@ void MultiSelectionPlotAreaWidget::mousePressEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton || !axis)
         return;
     ClearSelection();
-    if (event->pos().x() > axis->GetStart().x())
-        m_DragStart = std::min(event->pos().x(), TruncateToInt(axis->GetEnd().x()));
+    if (event->x() > axis->GetStart().x())
+        m_Drag.Press(*event, axis->GetStart().x(), axis->GetEnd().x());
 }
 
 void MultiSelectionPlotAreaWidget::mouseMoveEvent(QMouseEvent* event)
 {
     const TimeAxis* axis = GetTimeAxis();
-    if (!(event->buttons() & Qt::LeftButton) || !axis || m_DragStart == -1)
-        return;
-    const int left = TruncateToInt(axis->GetStart().x());
-    const int right = TruncateToInt(axis->GetEnd().x());
-    m_DragEnd = std::max(left, std::min(event->pos().x(), right));
-    update();
+    if ((event->buttons() & Qt::LeftButton) && axis &&
+        m_Drag.Move(*event, axis->GetStart().x(), axis->GetEnd().x()))
+        update();
 }
 
 void MultiSelectionPlotAreaWidget::paintEvent(QPaintEvent* event)
 {
-    constexpr double opacity = 0.4;
     PlotAreaWidget::paintEvent(event);
     QPainter painter(this);
-    painter.setOpacity(opacity);
-    for (const RowRange& range : m_Ranges)
-        paintRowRange(painter, range, Qt::blue, true);
-    paintRowRange(painter, m_FirstCalibration, Qt::blue, false);
-    paintRowRange(painter, m_SecondCalibration, Qt::green, false);
-    if (m_DragStart == -1 || m_DragEnd == -1)
-        return;
-    const int left = std::min(m_DragStart, m_DragEnd);
-    painter.fillRect(left, 0, std::abs(m_DragEnd - m_DragStart), height() - 1, Qt::yellow);
+    painter.setOpacity(MarkOpacity);
+    for (const RowSpan& range : m_Ranges)
+        paintRows(painter, range, Qt::blue, true);
+    if (m_FirstCalibration)
+        paintRows(painter, *m_FirstCalibration, Qt::blue, false);
+    if (m_SecondCalibration)
+        paintRows(painter, *m_SecondCalibration, Qt::green, false);
+    m_Drag.PaintBand(painter, height());
 }

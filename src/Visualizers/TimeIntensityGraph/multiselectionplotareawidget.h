@@ -1,7 +1,9 @@
 #pragma once
 
 #include "plotareawidget.h"
+#include "rubberband.h"
 #include <QList>
+#include <optional>
 
 /// A plot area with a list of marked ranges of rows and a rubber band for the next one. Two more
 /// ranges can be set for the calibration of head angles.
@@ -13,14 +15,15 @@ public:
 
     void AddRange(int from, int to);
     void ClearRanges();
-    const QList<RowRange>& GetRanges() const { return m_Ranges; }
+    const QList<RowSpan>& GetRanges() const { return m_Ranges; }
 
     /// The rows under the rubber band, the lower one first; false without a band.
     bool GetSelection(int& from, int& to) const;
     void ClearSelection();
 
-    /// Ranges drawn in blue and in green; an unset one is not drawn.
-    void SetHeadCalibration(const RowRange& first, const RowRange& second);
+    /// Rows drawn in blue and in green, where there are any.
+    void SetHeadCalibration(const std::optional<RowSpan>& first,
+                            const std::optional<RowSpan>& second);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -28,10 +31,8 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
-    QList<RowRange> m_Ranges;
-    RowRange m_FirstCalibration;
-    RowRange m_SecondCalibration;
-    // Pixels, -1 when unset.
-    int m_DragStart = -1;
-    int m_DragEnd = -1;
+    QList<RowSpan> m_Ranges;
+    std::optional<RowSpan> m_FirstCalibration;
+    std::optional<RowSpan> m_SecondCalibration;
+    RubberBand m_Drag;
 };

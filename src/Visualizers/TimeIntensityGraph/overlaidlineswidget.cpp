@@ -1,6 +1,7 @@
 #include "overlaidlineswidget.h"
 
 #include "overlaidlines.h"
+#include "plotlook.h"
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPainter>
@@ -44,7 +45,7 @@ void OverlaidLinesWidget::RepaintLines()
 
 void OverlaidLinesWidget::markStale()
 {
-    m_Cache = QPixmap();
+    m_Picture.Invalidate();
     update();
 }
 
@@ -57,50 +58,36 @@ void OverlaidLinesWidget::resizeEvent(QResizeEvent* event)
 
 void OverlaidLinesWidget::paintEvent(QPaintEvent*)
 {
-    constexpr double bandOpacity = 0.4;
-    if (m_Cache.isNull() || m_Cache.devicePixelRatioF() != devicePixelRatioF()) {
-        m_Cache = QPixmap(size() * devicePixelRatioF());
-        m_Cache.setDevicePixelRatio(devicePixelRatioF());
-        m_Cache.fill(Qt::white);
-        QPainter cachePainter(&m_Cache);
-        cachePainter.setRenderHint(QPainter::Antialiasing);
-        m_Lines->Paint(cachePainter);
-    }
     QPainter painter(this);
-    painter.drawPixmap(0, 0, m_Cache);
-    if (!m_Dragging || m_Band.isEmpty())
+    m_Picture.Paint(painter, {}, size(), devicePixelRatioF(), [this](QPainter& lines) {
+        lines.setRenderHint(QPainter::Antialiasing);
+        m_Lines->Paint(lines);
+    });
+    if (!m_Band.m_Active || !m_Band.IsValid())
         return;
-    painter.setOpacity(bandOpacity);
-    painter.fillRect(m_Band, Qt::yellow);
-    painter.setPen(Qt::black);
-    painter.drawRect(m_Band);
+    painter.setOpacity(MarkOpacity);
+    PaintSelected(painter, m_Band.GetBox());
 }
 
 void OverlaidLinesWidget::mousePressEvent(QMouseEvent* event)
 {
-    if (!m_Rejecting || event->button() != Qt::LeftButton)
-        return;
-    m_Dragging = true;
-    m_BandOrigin = event->pos();
-    m_Band = QRect();
+    if (m_Rejecting)
+        m_Band.Press(*event, 0, width());
 }
 
 void OverlaidLinesWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    if (!m_Dragging)
-        return;
-    m_Band = QRect(m_BandOrigin, event->pos()).normalized();
-    update();
+    if (m_Band.Move(*event, 0, width()))
+        update();
 }
 
 void OverlaidLinesWidget::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (!m_Dragging || event->button() != Qt::LeftButton)
+    if (!m_Band.Release(*event))
         return;
-    m_Dragging = false;
     update();
-    if (!m_Band.isEmpty())
-        askToReject(m_Band);
+    if (m_Band.IsValid())
+        askToReject(m_Band.GetBox());
 }
 
 void OverlaidLinesWidget::askToReject(const QRect& box)

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QPixmap>
+#include "cachedpicture.h"
+#include "rubberband.h"
 #include <QWidget>
 #include <memory>
 #include <vector>
@@ -45,8 +46,6 @@ private:
 
     std::unique_ptr<OverlaidLines> m_Lines;
     const bool m_Rejecting;
-    QPixmap m_Cache;
-    QRect m_Band;
-    QPoint m_BandOrigin;
-    bool m_Dragging = false;
+    CachedPicture m_Picture;
+    RubberBand m_Band;
 };

@@ -1,6 +1,7 @@
 #include "plotarealabelwidget.h"
 
 #include "lineplotlabel.h"
+#include "plotlook.h"
 #include "timeaxis.h"
 #include <QContextMenuEvent>
 #include <QMenu>
@@ -27,13 +28,7 @@ void PlotAreaLabelWidget::SetLabelCollection(const QList<StudyLabelInstance*>* l
 
 bool PlotAreaLabelWidget::GetSelection(int& from, int& to) const
 {
-    const TimeAxis* axis = GetTimeAxis();
-    if (!axis || !m_Selection.IsValid())
-        return false;
-    const int origin = std::max(m_From, 0);
-    from = origin + axis->ToIndex(float(m_Selection.GetSelectionStart()));
-    to = origin + axis->ToIndex(float(m_Selection.GetSelectionEnd()));
-    return true;
+    return toRows(m_Selection, from, to);
 }
 
 void PlotAreaLabelWidget::ClearSelection()
@@ -78,25 +73,20 @@ void PlotAreaLabelWidget::resizeEvent(QResizeEvent* event)
 void PlotAreaLabelWidget::mousePressEvent(QMouseEvent* event)
 {
     const TimeAxis* axis = GetTimeAxis();
-    if (event->button() != Qt::LeftButton || !axis)
-        return;
-    m_Selection.Begin(event->pos().x(), axis->GetStart().x());
-    update();
+    if (axis && m_Selection.Press(*event, axis->GetStart().x()))
+        update();
 }
 
 void PlotAreaLabelWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    if (!(event->buttons() & Qt::LeftButton))
-        return;
-    m_Selection.SetEnd(event->pos().x());
-    update();
+    if ((event->buttons() & Qt::LeftButton) && m_Selection.Move(*event))
+        update();
 }
 
 void PlotAreaLabelWidget::paintEvent(QPaintEvent* event)
 {
-    constexpr double opacity = 0.4;
     PlotAreaWidget::paintEvent(event);
     QPainter painter(this);
-    painter.setOpacity(opacity);
+    painter.setOpacity(MarkOpacity);
     m_Selection.Paint(painter, height());
 }

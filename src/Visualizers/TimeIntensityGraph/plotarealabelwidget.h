@@ -1,7 +1,7 @@
 #pragma once
 
 #include "plotareawidget.h"
-#include "selectionrange.h"
+#include "rubberband.h"
 #include <QList>
 
 class StudyLabelInstance;
@@ -33,5 +33,5 @@ protected:
 
 private:
     const QList<StudyLabelInstance*>* m_LabelCollection = nullptr;
-    SelectionRange m_Selection;
+    RubberBand m_Selection;
 };

@@ -4,8 +4,10 @@
 #include "dataset.h"
 #include "pixelmath.h"
 #include "pixmapcache.h"
-#include "plotgrid.h"
+#include "plotlook.h"
+#include "selectionrange.h"
 #include "timeaxis.h"
+#include "verticalaxis.h"
 #include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
@@ -25,6 +27,7 @@ PlotAreaWidget::~PlotAreaWidget() = default;
 void PlotAreaWidget::SetDataSet(DataSet* dataSet)
 {
     m_DataSet = dataSet;
+    m_LostPlots.clear();
     m_Plots.clear();
     repaintAll();
 }
@@ -32,10 +35,8 @@ void PlotAreaWidget::SetDataSet(DataSet* dataSet)
 void PlotAreaWidget::SetCutCollection(CutCollection* cuts)
 {
     m_CutCollection = cuts;
-    for (const auto& plot : m_Plots) {
-        if (auto* cuttable = dynamic_cast<CuttableLinePlot*>(plot.get()))
-            cuttable->SetCutCollection(cuts);
-    }
+    for (const auto& plot : m_Plots)
+        plot->SetCutCollection(cuts);
     update();
 }
 
@@ -124,6 +125,44 @@ void PlotAreaWidget::TogglePlot(int attribute)
         AddPlot(attribute);
 }
 
+void PlotAreaWidget::UpdateAttributes()
+{
+    bool hasChanged = false;
+    for (const auto& plot : m_Plots)
+        hasChanged = plot->FollowAttribute() || hasChanged;
+    const bool hasLost = takeLostPlots();
+    // Plots that come back paint all of them anew by themselves.
+    if (!returnLostPlots() && (hasChanged || hasLost))
+        repaintAll();
+}
+
+bool PlotAreaWidget::takeLostPlots()
+{
+    const auto isLost = [](const auto& plot) { return plot->HasLostAttribute(); };
+    for (const auto& plot : m_Plots) {
+        if (isLost(plot))
+            m_LostPlots.append(plot->GetVerticalAxis()->GetTitle());
+    }
+    const auto end = std::remove_if(m_Plots.begin(), m_Plots.end(), isLost);
+    const bool hasLost = end != m_Plots.end();
+    m_Plots.erase(end, m_Plots.end());
+    return hasLost;
+}
+
+bool PlotAreaWidget::returnLostPlots()
+{
+    bool isBack = false;
+    for (const QString& name : QStringList(m_LostPlots)) {
+        const int attribute = m_DataSet ? m_DataSet->GetAttributeIndex(name) : -1;
+        if (attribute == -1)
+            continue;
+        m_LostPlots.removeOne(name);
+        AddPlot(attribute);
+        isBack = true;
+    }
+    return isBack;
+}
+
 void PlotAreaWidget::PlotDataRange(int from, int to)
 {
     m_From = from;
@@ -135,7 +174,7 @@ void PlotAreaWidget::PlotDataRange(int from, int to)
 
 void PlotAreaWidget::ClearAndAddPlot(int attribute)
 {
-    m_Plots.clear();
+    ClearPlot();
     AddPlot(attribute);
 }
 
@@ -156,6 +195,7 @@ TimeAxis* PlotAreaWidget::GetTimeAxis() const
 
 void PlotAreaWidget::ClearPlot()
 {
+    m_LostPlots.clear();
     m_Plots.clear();
 }
 
@@ -228,18 +268,16 @@ void PlotAreaWidget::makeTile(int index)
         painter.fillRect(QRect(0, 0, m_LeftMargin, contentsRect().height()), Qt::white);
 }
 
-void PlotAreaWidget::tileRange(int& from, int& to) const
+RowSpan PlotAreaWidget::tileRange() const
 {
-    from = 0;
-    to = GetTileCount();
     if (!m_ViewportOnly)
-        return;
+        return {0, GetTileCount()};
     constexpr float width = tileWidth;
     constexpr float surroundings = 10;
     const float first = (float(m_VisibleFrom) - surroundings + width) / width - 1;
     const float last = (float(m_VisibleTo) + surroundings + width) / width + 1;
-    from = TruncateToInt(double(std::floor(std::max(0.0F, first))));
-    to = TruncateToInt(double(std::ceil(std::min(float(to), last))));
+    return {TruncateToInt(double(std::floor(std::max(0.0F, first)))),
+            TruncateToInt(double(std::ceil(std::min(float(GetTileCount()), last))))};
 }
 
 bool PlotAreaWidget::isFarFromView(int tile) const
@@ -264,10 +302,8 @@ void PlotAreaWidget::paintCache()
         rebuildTiles();
     if (m_Plots.empty())
         return;
-    int from = 0;
-    int to = 0;
-    tileRange(from, to);
-    for (int i = from; i < to; ++i) {
+    const RowSpan tiles = tileRange();
+    for (int i = tiles.m_From; i < tiles.m_To; ++i) {
         if (!m_Tiles[size_t(i)])
             makeTile(i);
         if (!m_Tiles[size_t(i)]->m_Painted && !isFarFromView(i))
@@ -307,10 +343,8 @@ void PlotAreaWidget::paintEvent(QPaintEvent* event)
     if (m_Tiles.empty())
         return;
     QPainter painter(this);
-    int from = 0;
-    int to = 0;
-    tileRange(from, to);
-    for (int i = from; i < to; ++i) {
+    const RowSpan tiles = tileRange();
+    for (int i = tiles.m_From; i < tiles.m_To; ++i) {
         const QRect area(i * tileWidth, 0, tileWidth, contentsRect().height());
         if (!event->rect().intersects(area))
             continue;
@@ -334,19 +368,15 @@ void PlotAreaWidget::PaintWidget(QPainter& painter)
     painter.restore();
 }
 
-double PlotAreaWidget::rowToPixel(int row) const
+void PlotAreaWidget::paintRows(QPainter& painter, const RowSpan& rows, const QColor& color,
+                               bool outline) const
 {
-    return GetTimeAxis()->ToX(row);
-}
-
-void PlotAreaWidget::paintRowRange(QPainter& painter, const RowRange& range, const QColor& color,
-                                   bool outline) const
-{
-    if (!GetTimeAxis() || !range.IsSet() || range.m_From > range.m_To)
+    const TimeAxis* axis = GetTimeAxis();
+    if (!axis || rows.GetLength() < 0)
         return;
     const int origin = std::max(m_From, 0);
-    const double left = rowToPixel(range.m_From - origin);
-    const double right = rowToPixel(range.m_To - origin);
+    const double left = axis->ToX(rows.m_From - origin);
+    const double right = axis->ToX(rows.m_To - origin);
     const QRectF area(left, 0, right - left, height() - 1);
     painter.fillRect(area, color);
     if (!outline)
@@ -354,4 +384,15 @@ void PlotAreaWidget::paintRowRange(QPainter& painter, const RowRange& range, con
     painter.setPen(Qt::black);
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(area);
+}
+
+bool PlotAreaWidget::toRows(const SelectionRange& selection, int& from, int& to) const
+{
+    const TimeAxis* axis = GetTimeAxis();
+    if (!axis || !selection.IsValid())
+        return false;
+    const int origin = std::max(m_From, 0);
+    from = origin + axis->ToIndex(float(selection.GetSelectionStart()));
+    to = origin + axis->ToIndex(float(selection.GetSelectionEnd()));
+    return true;
 }

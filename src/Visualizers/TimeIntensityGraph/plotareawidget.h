@@ -1,6 +1,7 @@
 #pragma once
 
-#include "rowrange.h"
+#include "plotmargin.h"
+#include "rowspan.h"
 #include <QPixmap>
 #include <QWidget>
 #include <memory>
@@ -10,6 +11,7 @@ class CutCollection;
 class DataSet;
 class LinePlot;
 class PixmapCache;
+struct SelectionRange;
 class TimeAxis;
 
 /// Plots above each other, painted once into tiles of a fixed width; paintEvent copies tiles.
@@ -63,6 +65,9 @@ public slots:
     /// there is no plot.
     TimeAxis* GetTimeAxis() const;
     void ClearPlot();
+    /// Plots follow their attributes by name. One whose attribute is gone goes, too, and comes back
+    /// with it, below the others. Nothing is painted anew that looks as before.
+    void UpdateAttributes();
     /// Paints everything without tiles, for an export.
     void PaintWidget(QPainter& painter);
 
@@ -71,11 +76,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
-    /// The pixel of a row, absolute.
-    double rowToPixel(int row) const;
-    /// Fills the pixels of a range of rows, from the widget's top to its bottom.
-    void paintRowRange(QPainter& painter, const RowRange& range, const QColor& color,
-                       bool outline) const;
+    /// Fills the pixels of rows of the data set, from the widget's top to its bottom.
+    void paintRows(QPainter& painter, const RowSpan& rows, const QColor& color, bool outline) const;
+    /// The rows of the data set at both ends of a selection, the lower one first. False without a
+    /// selection.
+    bool toRows(const SelectionRange& selection, int& from, int& to) const;
     /// Every plot anew, after a change in what they show.
     void repaintAll();
 
@@ -85,7 +90,7 @@ protected:
     CutCollection* m_CutCollection = nullptr;
     int m_From = -1;
     int m_To = -1;
-    int m_LeftMargin = 40;
+    int m_LeftMargin = PlotLeftMargin;
     int m_RightMargin = 0;
     int m_VisibleFrom = -1;
     int m_VisibleTo = -1;
@@ -94,16 +99,20 @@ protected:
     std::vector<std::unique_ptr<PixmapCache>> m_Tiles;
 
 private:
+    bool takeLostPlots();
+    bool returnLostPlots();
     void appendPlot(std::unique_ptr<LinePlot> plot);
     void layoutPlots();
     void rebuildTiles();
     void makeBackground();
     void makeTile(int index);
-    void tileRange(int& from, int& to) const;
+    RowSpan tileRange() const;
     bool isFarFromView(int tile) const;
     void paintCache();
     void paintTile(int index);
 
+    // Of plots that went with their attributes.
+    QStringList m_LostPlots;
     // The size that the tiles were made for.
     QSize m_TileSize;
 };

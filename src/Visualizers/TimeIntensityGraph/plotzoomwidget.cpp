@@ -8,7 +8,7 @@
 
 PlotZoomWidget::PlotZoomWidget(QWidget* parent)
     : QWidget(parent), m_ZoomWidget(new ZoomWidget), m_ScrollArea(new QScrollArea),
-      m_PlotArea(new PlotAreaLabelWidget)
+      m_PlotArea(new PlotAreaLabelWidget), m_View(m_ScrollArea, m_ZoomWidget)
 {
     m_ZoomWidget->setMinimum(1);
     m_ZoomWidget->setMaximum(500);
@@ -24,35 +24,12 @@ PlotZoomWidget::PlotZoomWidget(QWidget* parent)
     layout->addWidget(m_ScrollArea);
 
     const QScrollBar* bar = m_ScrollArea->horizontalScrollBar();
+    connect(&m_View, &ZoomedView::SizeAsked, m_PlotArea,
+            [this](const QSize& size) { m_PlotArea->ResizePlots(size.width(), size.height()); });
+    connect(&m_View, &ZoomedView::VisiblePartChanged, m_PlotArea,
+            &PlotAreaLabelWidget::SetVisibleRange);
     connect(m_ZoomWidget, &ZoomWidget::ValueChanged, this, &PlotZoomWidget::resizeLinePlotWidget);
     connect(bar, &QScrollBar::sliderMoved, this, &PlotZoomWidget::updateSelection);
     connect(bar, &QScrollBar::valueChanged, this, &PlotZoomWidget::updateSelection);
     connect(bar, &QScrollBar::rangeChanged, this, &PlotZoomWidget::sliderRange);
-}
-
-void PlotZoomWidget::resizeLinePlotWidget()
-{
-    m_PlotArea->ResizePlots(m_ZoomWidget->value() * (m_ScrollArea->width() - 5),
-                            m_ScrollArea->height() - 20);
-    updateSelection();
-}
-
-void PlotZoomWidget::sliderRange(int minimum, int maximum)
-{
-    if (minimum == 0 && maximum == 0)
-        m_PlotArea->SetVisibleRange(-1, -1);
-    else
-        updateSelection();
-}
-
-void PlotZoomWidget::updateSelection()
-{
-    const QScrollBar* bar = m_ScrollArea->horizontalScrollBar();
-    m_PlotArea->SetVisibleRange(bar->value(), bar->value() + bar->width());
-}
-
-void PlotZoomWidget::resizeEvent(QResizeEvent* event)
-{
-    QWidget::resizeEvent(event);
-    resizeLinePlotWidget();
 }

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "zoomedview.h"
 #include <QWidget>
 
 class PlotAreaLabelWidget;
-class QScrollArea;
-class ZoomWidget;
 
 /// A plot area with labels that can be zoomed and scrolled.
 class PlotZoomWidget : public QWidget
@@ -17,16 +16,14 @@ public:
 
 public slots:
     /// Gives the plots the size that the zoom asks for.
-    void resizeLinePlotWidget();
-    void sliderRange(int minimum, int maximum);
+    void resizeLinePlotWidget() { m_View.Resize(); }
+    void sliderRange(int minimum, int maximum) { m_View.UpdateScrollRange(minimum, maximum); }
     /// Tells the plots what part of them shows.
-    void updateSelection();
-
-protected:
-    void resizeEvent(QResizeEvent* event) override;
+    void updateSelection() { m_View.UpdateVisiblePart(); }
 
 private:
     ZoomWidget* m_ZoomWidget;
     QScrollArea* m_ScrollArea;
     PlotAreaLabelWidget* m_PlotArea;
+    ZoomedView m_View;
 };

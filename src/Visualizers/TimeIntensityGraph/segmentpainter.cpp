@@ -1,7 +1,7 @@
 #include "segmentpainter.h"
 
-#include "collapsedwidth.h"
 #include "cutcollection.h"
+#include "cuttableamplitudeline.h"
 #include "pixelmath.h"
 #include "timeaxis.h"
 #include <QPainter>

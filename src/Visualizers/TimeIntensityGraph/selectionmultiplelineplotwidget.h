@@ -1,7 +1,7 @@
 #pragma once
 
+#include "oldmultiplelineplot.h"
 #include "oldmultiplelineplotwidget.h"
-#include "rowrange.h"
 #include <QList>
 
 /// Overlaid spans of which the user can reject those inside a rubber band.
@@ -9,17 +9,28 @@ class SelectionMultipleLinePlotWidget : public OldMultipleLinePlotWidget
 {
     Q_OBJECT
 public:
-    explicit SelectionMultipleLinePlotWidget(QWidget* parent = nullptr);
+    explicit SelectionMultipleLinePlotWidget(QWidget* parent = nullptr)
+        : OldMultipleLinePlotWidget(true, parent)
+    {
+    }
 
     /// The spans of all lines that were rejected so far.
-    const QList<RowRange>& GetRemovedRanges() const { return m_Removed; }
+    const QList<RowSpan>& GetRemovedRanges() const { return m_Removed; }
 
 signals:
     void ItemsRemoved();
 
 protected:
-    void rejectLines(const std::vector<int>& lines) override;
+    void rejectLines(const std::vector<int>& lines) override
+    {
+        for (const int line : lines) {
+            if (const auto rows = plot().GetRows(line))
+                m_Removed.append(*rows);
+        }
+        OldMultipleLinePlotWidget::rejectLines(lines);
+        emit ItemsRemoved();
+    }
 
 private:
-    QList<RowRange> m_Removed;
+    QList<RowSpan> m_Removed;
 };

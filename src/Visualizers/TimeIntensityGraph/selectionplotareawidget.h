@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plotareawidget.h"
+#include <optional>
 
 /// A plot area with a highlighted range of rows.
 class SelectionPlotAreaWidget : public PlotAreaWidget
@@ -18,5 +19,5 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    RowRange m_Selection;
+    std::optional<RowSpan> m_Selection;
 };

@@ -1,6 +1,7 @@
 #include "selectionplotwidget.h"
 
 #include "dataset.h"
+#include "plotlook.h"
 #include "timeaxis.h"
 #include <QMouseEvent>
 #include <QPainter>
@@ -23,20 +24,19 @@ bool SelectionPlotWidget::GetSelection(int& from, int& to) const
     return true;
 }
 
-SelectionRange SelectionPlotWidget::toPixels(int from, int to) const
+void SelectionPlotWidget::select(SelectionRange& range, int from, int to)
 {
     const int first = std::max(m_From, 0);
     const double start = m_TimeAxis->GetStart().x();
-    SelectionRange range;
+    range.Clear();
     range.m_Start = start + double(m_TimeAxis->ToPixel(from - first));
     range.m_End = start + double(m_TimeAxis->ToPixel(to - first));
-    return range;
+    update();
 }
 
 void SelectionPlotWidget::SetSelection(int from, int to)
 {
-    m_Selection = toPixels(from, to);
-    update();
+    select(m_Selection, from, to);
 }
 
 void SelectionPlotWidget::ClearSelection()
@@ -47,8 +47,7 @@ void SelectionPlotWidget::ClearSelection()
 
 void SelectionPlotWidget::SetSecondSelection(int from, int to)
 {
-    m_SecondSelection = toPixels(from, to);
-    update();
+    select(m_SecondSelection, from, to);
 }
 
 void SelectionPlotWidget::ClearSecondSelection()
@@ -65,10 +64,9 @@ void SelectionPlotWidget::paintEvent(QPaintEvent*)
 
 void SelectionPlotWidget::paintWithSelections(QPainter& painter)
 {
-    constexpr double opacity = 0.4;
-    paintPlot(painter, opacity);
+    paintPlot(painter, MarkOpacity);
     painter.save();
-    painter.setOpacity(opacity);
+    painter.setOpacity(MarkOpacity);
     m_Selection.Paint(painter, height());
     m_SecondSelection.Paint(painter, height());
     painter.restore();
@@ -76,16 +74,12 @@ void SelectionPlotWidget::paintWithSelections(QPainter& painter)
 
 void SelectionPlotWidget::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton)
-        return;
-    m_Selection.Begin(event->pos().x(), m_TimeAxis->GetStart().x());
-    update();
+    if (m_Selection.Press(*event, m_TimeAxis->GetStart().x()))
+        update();
 }
 
 void SelectionPlotWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    if (!(event->buttons() & Qt::LeftButton))
-        return;
-    m_Selection.SetEnd(event->pos().x());
-    update();
+    if ((event->buttons() & Qt::LeftButton) && m_Selection.Move(*event))
+        update();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "lineplotwidget.h"
-#include "selectionrange.h"
+#include "rubberband.h"
 
 /// A plot in which the user drags a selection; a second range can be set from outside.
 class SelectionPlotWidget : public LinePlotWidget
@@ -30,9 +30,9 @@ protected:
     /// The plot with both selections, for widgets that paint more on top.
     void paintWithSelections(QPainter& painter);
 
-    SelectionRange m_Selection;
+    RubberBand m_Selection;
     SelectionRange m_SecondSelection;
 
 private:
-    SelectionRange toPixels(int from, int to) const;
+    void select(SelectionRange& range, int from, int to);
 };

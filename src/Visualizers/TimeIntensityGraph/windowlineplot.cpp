@@ -1,5 +1,6 @@
 #include "windowlineplot.h"
 
+#include "plotlook.h"
 #include "timeaxis.h"
 #include <QMouseEvent>
 #include <QPainter>
@@ -44,22 +45,20 @@ void WindowLinePlot::mouseMoveEvent(QMouseEvent* event)
 
 void WindowLinePlot::paintEvent(QPaintEvent* event)
 {
-    constexpr double opacity = 0.4;
     LinePlotWidget::paintEvent(event);
     QPainter painter(this);
-    painter.setOpacity(opacity);
-    for (const RowRange& sample : m_Samples)
-        paintRows(painter, sample.m_From, sample.m_To, Qt::blue);
-    int from = 0;
-    int to = 0;
-    if (GetSelection(from, to))
-        paintRows(painter, from, to, Qt::yellow);
+    painter.setOpacity(MarkOpacity);
+    for (const RowSpan& sample : m_Samples)
+        paintRows(painter, sample, Qt::blue);
+    RowSpan window;
+    if (GetSelection(window.m_From, window.m_To))
+        paintRows(painter, window, Qt::yellow);
 }
 
-void WindowLinePlot::paintRows(QPainter& painter, int from, int to, const QColor& color) const
+void WindowLinePlot::paintRows(QPainter& painter, const RowSpan& rows, const QColor& color) const
 {
     const double start = m_TimeAxis->GetStart().x();
-    const double left = start + double(m_TimeAxis->ToPixel(from));
-    const double right = start + double(m_TimeAxis->ToPixel(to));
+    const double left = start + double(m_TimeAxis->ToPixel(rows.m_From));
+    const double right = start + double(m_TimeAxis->ToPixel(rows.m_To));
     painter.fillRect(QRectF(left, 0, right - left, height() - 1), color);
 }

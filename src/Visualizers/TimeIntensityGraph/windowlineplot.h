@@ -1,7 +1,7 @@
 #pragma once
 
 #include "lineplotwidget.h"
-#include "rowrange.h"
+#include "rowspan.h"
 #include <QList>
 
 /// A plot with a window of a fixed number of rows that follows the mouse.
@@ -25,9 +25,9 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
-    void paintRows(QPainter& painter, int from, int to, const QColor& color) const;
+    void paintRows(QPainter& painter, const RowSpan& rows, const QColor& color) const;
 
     int m_WindowSize = 10;
     int m_MouseX = -1;
-    QList<RowRange> m_Samples;
+    QList<RowSpan> m_Samples;
 };

@@ -1,4 +1,5 @@
 #include "pipextractor.h"
+#include "scriptedprogress.h"
 
 #include "testdata.h"
 #include <QtTest>
@@ -181,6 +182,9 @@ void TestPipExtractor::nothingToSplit()
         extractor.extract(attribute, 9, 0.0, 0);
         QVERIFY(extractor.getSegments().empty());
     }
+    ScriptedProgress stop([](int) { return true; });
+    QVERIFY(!extractor.extract(0, 9, 0.0, 0, stop));
+    QVERIFY(extractor.getSegments().empty());
 }
 
 QTEST_MAIN(TestPipExtractor)

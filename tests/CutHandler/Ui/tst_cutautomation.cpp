@@ -78,6 +78,7 @@ private slots:
     void dialogs();
     void generates_data();
     void generates();
+    void cutsNothingWhenStopped();
     void sizeFollowsSlider();
     void startValues();
 };
@@ -197,6 +198,30 @@ void TestCutAutomation::generates()
     QFETCH(QString, cuts);
     const auto data = MakeDataSet(values.constData());
     QCOMPARE(generate(method, *data, answers, ends), cuts);
+}
+
+void TestCutAutomation::cutsNothingWhenStopped()
+{
+    // So many cuts that there is time to press Cancel while they are made.
+    DataSet data;
+    data.AddColumn(QStringLiteral("A"), ATTRIBUTE_OTHER, DataColumn(2'000'000, 1.0));
+    CutCollection cuts;
+    MakeCuts(cuts, "900 100000L 2000000");
+    const QString before = ToText(cuts);
+    ModalScript script;
+    script.Then([](QDialog* dialog) {
+        fill(dialog, QStringLiteral("Cut Size"), QStringLiteral("1"));
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+    });
+    script.StopWork();
+    CutAutomation automation;
+    automation.setDataSet(&data);
+    automation.setCutCollection(&cuts);
+    QVERIFY(automation.generateCuts(PERIODIC));
+    QCOMPARE(ToText(cuts), before);
+    // The search by rows knows it, too.
+    int index = 0;
+    QCOMPARE(cuts.FindSegment(50000, index), cuts.GetSegment(1));
 }
 
 void TestCutAutomation::sizeFollowsSlider()

@@ -1,13 +1,12 @@
 #include "cutcollection.h"
 #include "cuttablelineplotwidget.h"
-#include "lineplot.h"
+#include "lineplotlabel.h"
 #include "mousedrag.h"
 #include "multiselectionplotareawidget.h"
 #include "pixmapcache.h"
 #include "plotarealabelwidget.h"
 #include "plotzoomwidget.h"
 #include "selectionplotareawidget.h"
-#include "studylabelinstance.h"
 #include "testdata.h"
 #include "timeaxis.h"
 #include <QMenu>
@@ -322,7 +321,7 @@ void TestPlotArea::multiSelectionBand()
     QVERIFY(!widget.GetSelection(from, to));
 
     widget.AddRange(10, 20);
-    widget.SetHeadCalibration({30, 40}, {50, 60});
+    widget.SetHeadCalibration(RowSpan{30, 40}, RowSpan{50, 60});
     const QImage image = widget.grab().toImage();
     QCOMPARE(image.pixelColor(185, 3), QColor(153, 153, 255));
     QCOMPARE(image.pixelColor(385, 3), QColor(153, 153, 255));
@@ -354,7 +353,7 @@ void TestPlotArea::labelsStudies()
     QCOMPARE(sections->actions().value(0)->text(), QStringLiteral("dive"));
     sections->actions().value(0)->trigger();
     menu->close();
-    QCOMPARE(dive.GetSpans(), (QList<RowRange>{{10, 30}}));
+    QCOMPARE(dive.GetSpans(), (QList<RowSpan>{{10, 30}}));
     QCOMPARE(widget.grab().toImage().pixelColor(245, 4), QColor(255, 204, 204));
 }
 

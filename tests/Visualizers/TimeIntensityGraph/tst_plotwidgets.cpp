@@ -109,7 +109,7 @@ void TestPlotWidgets::selectionOverOlderPair()
     QCOMPARE(shown, oneResult);
     QCOMPARE(removed.count(), 1);
     QCOMPARE(widget.GetLineCount(), 2);
-    QCOMPARE(widget.GetRemovedRanges(), (QList<RowRange>{{10, 15}}));
+    QCOMPARE(widget.GetRemovedRanges(), (QList<RowSpan>{{10, 15}}));
 
     OldMultipleLinePlotWidget plain;
     plain.resize(440, 200);

@@ -18,10 +18,10 @@ ModalScript::ModalScript()
 
 ModalScript::~ModalScript()
 {
-    if (!m_Steps.isEmpty())
-        QTest::qFail(
-            qPrintable(QStringLiteral("%1 expected windows never came").arg(m_Steps.size())),
-            __FILE__, __LINE__);
+    const int missing = m_Steps.size() + m_Stops;
+    if (missing > 0)
+        QTest::qFail(qPrintable(QStringLiteral("%1 expected windows never came").arg(missing)),
+                     __FILE__, __LINE__);
 }
 
 void ModalScript::look()
@@ -29,9 +29,15 @@ void ModalScript::look()
     // Armed before the step runs: the step may bring up a window of its own.
     QTimer::singleShot(10, this, &ModalScript::look);
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (!dialog || !dialog->isVisible() || m_Seen.contains(dialog) ||
-        qobject_cast<QProgressDialog*>(dialog))
+    if (!dialog || !dialog->isVisible() || m_Seen.contains(dialog))
         return;
+    if (qobject_cast<QProgressDialog*>(dialog)) {
+        if (m_Stops > 0) {
+            --m_Stops;
+            ClickButton(dialog, QStringLiteral("Cancel"));
+        }
+        return;
+    }
     m_Seen.append(dialog);
     if (m_Steps.isEmpty())
         refuse(dialog);

@@ -30,12 +30,15 @@ public:
     }
     /// Picks a file in a file dialog; an empty path cancels it.
     void PickFile(const QString& path);
+    /// Presses Cancel when the next progress comes up; progress is nothing to wait for otherwise.
+    void StopWork() { ++m_Stops; }
 
 private:
     void look();
     void refuse(QDialog* dialog);
 
     QList<Step> m_Steps;
+    int m_Stops = 0;
     QList<QPointer<QWidget>> m_Seen;
 };
 

@@ -65,7 +65,7 @@ void MatchPlot::addLines()
 void MatchPlot::dropRejected()
 {
     QSet<QPair<int, int>> rejected;
-    for (const RowRange& rows : m_Plot->GetRemovedRanges().mid(m_KnownRejections))
+    for (const RowSpan& rows : m_Plot->GetRemovedRanges().mid(m_KnownRejections))
         rejected.insert({rows.m_From, rows.m_To - 1});
     const auto isRejected = [&](const SearchMatch& match) {
         return rejected.contains({match.m_Rows.m_From, match.m_Rows.m_To});

@@ -2,7 +2,7 @@
 
 #include "cutcollection.h"
 #include "dataset.h"
-#include "heatrows.h"
+#include "heatcolor.h"
 #include "timeaxis.h"
 #include "verticalaxis.h"
 #include <QLoggingCategory>
@@ -52,7 +52,7 @@ void CollectionAmplitudeLine::rebuildAxes()
     m_TimeAxis.reset();
     if (!m_DataSet || !m_CutCollection)
         return;
-    // The y of a value is measured from the axis bottom downwards: kept, high values stand low.
+    // The y of a value is measured from the axis bottom downwards, so that high values stand low.
     m_VerticalAxis = std::make_unique<VerticalAxis>();
     m_VerticalAxis->SetBottom({0, 0});
     m_VerticalAxis->SetTop({0, double(-m_Height)});

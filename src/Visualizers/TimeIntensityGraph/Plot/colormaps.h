@@ -3,8 +3,7 @@
 #include <QString>
 
 /// The colour schemes of all value-coloured views: 0 "Rainbow", 1 "Interval RGB",
-/// 2 "Blue To Yellow", 3 "Yellow To Black". The last one runs from yellow to blue, whatever its
-/// name says: kept.
+/// 2 "Blue To Yellow", 3 "Yellow To Black". The last one runs from yellow to blue, not to black.
 namespace ColorMaps
 {
 

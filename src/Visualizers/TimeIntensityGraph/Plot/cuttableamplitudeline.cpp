@@ -1,9 +1,8 @@
 #include "cuttableamplitudeline.h"
 
-#include "collapsedwidth.h"
 #include "cutcollection.h"
 #include "dataset.h"
-#include "heatrows.h"
+#include "heatcolor.h"
 #include "pixelmath.h"
 #include "timeaxis.h"
 #include "verticalaxis.h"

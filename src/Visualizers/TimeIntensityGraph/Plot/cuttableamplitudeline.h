@@ -1,8 +1,16 @@
 #pragma once
 
 #include "amplitudeline.h"
+#include "cutsegment.h"
+#include <algorithm>
 
 class CutCollection;
+
+/// The points of the time axis that a labelled segment takes when it is collapsed to a block.
+inline int CollapsedWidth(const CutSegment& segment)
+{
+    return std::max(segment.GetLength() / 10, 20);
+}
 
 /// The line of the main graph: rows stand at their absolute place in the recording.
 class CuttableAmplitudeLine : public AmplitudeLine
@@ -13,12 +21,12 @@ public:
     {
     }
 
-    /// The last row of the recording is never drawn: kept, the row is only the end mark of the
-    /// last segment.
+    /// The last row of the recording is never drawn: it is only the end mark of the last segment.
     void PaintDataSet(QPainter& painter) override;
     /// Labelled segments as blocks in their colours, the others in heat colours.
     ///
-    /// Nothing calls this: kept for the collapsed display that the selection already reckons with.
+    /// The display of collapsed segments, which no window shows yet, though the selection already
+    /// reckons with it.
     void PaintCollapsed(QPainter& painter);
 
     void SetCutCollection(CutCollection* cuts) { m_CutCollection = cuts; }

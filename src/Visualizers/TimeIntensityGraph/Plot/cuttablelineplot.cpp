@@ -1,6 +1,5 @@
 #include "cuttablelineplot.h"
 
-#include "cuttableamplitudeline.h"
 #include "dataset.h"
 #include "pixelmath.h"
 #include "timeaxis.h"
@@ -10,17 +9,9 @@
 
 CuttableLinePlot::CuttableLinePlot(int attribute, CutCollection* cuts) : LinePlot(attribute)
 {
-    setAmplitudeLine(std::make_unique<CuttableAmplitudeLine>(attribute, cuts));
-}
-
-void CuttableLinePlot::SetShowLabeled(bool show)
-{
-    static_cast<CuttableAmplitudeLine*>(GetAmplitudeLine())->SetShowLabeled(show);
-}
-
-void CuttableLinePlot::SetCutCollection(CutCollection* cuts)
-{
-    static_cast<CuttableAmplitudeLine*>(GetAmplitudeLine())->SetCutCollection(cuts);
+    auto line = std::make_unique<CuttableAmplitudeLine>(attribute, cuts);
+    m_CuttableLine = line.get();
+    setAmplitudeLine(std::move(line));
 }
 
 void CuttableLinePlot::Paint(QPainter& painter, int from, int to, bool grid)

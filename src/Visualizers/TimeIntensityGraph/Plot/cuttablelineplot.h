@@ -1,8 +1,7 @@
 #pragma once
 
+#include "cuttableamplitudeline.h"
 #include "lineplot.h"
-
-class CutCollection;
 
 /// A plot of the main graph: rows at their absolute place, and a line at 0 where it is wished.
 class CuttableLinePlot : public LinePlot
@@ -14,9 +13,12 @@ public:
     void Paint(QPainter& painter, bool grid) override;
     bool HasAbsoluteRows() const override { return true; }
 
-    void SetShowLabeled(bool show);
-    void SetCutCollection(CutCollection* cuts);
+    void SetShowLabeled(bool show) override { m_CuttableLine->SetShowLabeled(show); }
+    void SetCutCollection(CutCollection* cuts) override { m_CuttableLine->SetCutCollection(cuts); }
 
 private:
     void paintZeroLine(QPainter& painter) const;
+
+    // The base's line.
+    CuttableAmplitudeLine* m_CuttableLine;
 };

@@ -3,7 +3,7 @@
 #include "amplitudeline.h"
 #include "dataset.h"
 #include "pixelmath.h"
-#include "plotgrid.h"
+#include "plotlook.h"
 #include "slittedaxis.h"
 #include "verticalaxis.h"
 #include <QPainter>
@@ -29,12 +29,14 @@ void LinePlot::setAmplitudeLine(std::unique_ptr<AmplitudeLine> line)
 
 bool LinePlot::hasAttribute() const
 {
-    return m_DataSet && m_AttributeId >= 0 && m_AttributeId < m_DataSet->GetAttributeCount();
+    return m_DataSet && m_AttributeId >= 0 && m_AttributeId < m_DataSet->GetAttributeCount() &&
+           !m_HasLostAttribute;
 }
 
 void LinePlot::SetDataSet(DataSet* data)
 {
     m_DataSet = data;
+    m_HasLostAttribute = false;
     m_AmplitudeLine->SetDataSet(data);
     SetRange(0, data ? data->GetRowCount() : 0);
     ResetAxis();
@@ -53,9 +55,25 @@ void LinePlot::SetData(double* values, int size, const QString& name)
 void LinePlot::SetAttribute(int attribute)
 {
     m_AttributeId = attribute;
+    m_HasLostAttribute = false;
     m_VerticalAxis->SetAttribute(attribute);
     m_AmplitudeLine->SetAttribute(attribute);
     ResetAxis();
+}
+
+bool LinePlot::FollowAttribute()
+{
+    if (!m_DataSet || m_AttributeId < 0 || m_Look.m_Name.isNull())
+        return false;
+    const bool wasLost = m_HasLostAttribute;
+    const int attribute = m_DataSet->FindAttribute(m_Look.m_Name, m_AttributeId);
+    if (attribute == -1) {
+        m_HasLostAttribute = true;
+        return !wasLost;
+    }
+    const AttributeLook before = m_Look;
+    SetAttribute(attribute);
+    return wasLost || m_Look != before;
 }
 
 void LinePlot::ResetAxis()
@@ -64,6 +82,7 @@ void LinePlot::ResetAxis()
         m_VerticalAxis->SetTitle(m_DataSet->GetAttributeName(m_AttributeId));
         m_VerticalAxis->SetMaximum(m_DataSet->GetMaxValue(m_AttributeId));
         m_VerticalAxis->SetMinimum(m_DataSet->GetMinValue(m_AttributeId));
+        m_Look = AttributeLook(*m_DataSet, m_AttributeId);
     } else if (m_Data) {
         setArrayLimits();
     }

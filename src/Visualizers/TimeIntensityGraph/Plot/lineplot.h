@@ -1,10 +1,12 @@
 #pragma once
 
+#include "attributelook.h"
+#include "plotmargin.h"
 #include <QString>
 #include <memory>
 
 class AmplitudeLine;
-class DataSet;
+class CutCollection;
 class QPainter;
 class TimeAxis;
 class VerticalAxis;
@@ -29,6 +31,11 @@ public:
     void SetData(double* values, int size, const QString& name);
     void SetAttribute(int attribute);
     int GetAttribute() const { return m_AttributeId; }
+    /// Finds the attribute again by its name, after attributes have come or gone, and takes what
+    /// has changed about it. False when it looks as before.
+    bool FollowAttribute();
+    /// The attribute that is shown was removed; nothing is painted until it comes back.
+    bool HasLostAttribute() const { return m_HasLostAttribute; }
     /// Reads the limits of the vertical axis anew.
     void ResetAxis();
     void SetRange(int from, int to);
@@ -47,7 +54,7 @@ public:
     /// A SlittedAxis, or a linear one for 0, with the point count of the present axis.
     void SetSlitted(int slitted);
     /// The same by the number of an axis type. The new axis is given what GetLastIndex returns
-    /// as its number of points: kept, the axis loses one point at each change.
+    /// as its number of points, so that the axis loses one point at each change.
     void ChangeAxisType(int axisType);
     void ShowVerticalAxis(bool show) { m_ShowVerticalAxis = show; }
 
@@ -57,6 +64,9 @@ public:
 
     /// Rows stand at their absolute place on the time axis, whatever range is painted.
     virtual bool HasAbsoluteRows() const { return false; }
+    /// The segments, and whether labelled ones stand in their place: for plots that know segments.
+    virtual void SetCutCollection(CutCollection*) {}
+    virtual void SetShowLabeled(bool) {}
 
 protected:
     void setAmplitudeLine(std::unique_ptr<AmplitudeLine> line);
@@ -75,7 +85,7 @@ protected:
     std::unique_ptr<AmplitudeLine> m_AmplitudeLine;
     int m_From = -1;
     int m_To = -1;
-    int m_LeftMargin = 40;
+    int m_LeftMargin = PlotLeftMargin;
     int m_TopMargin = 9;
     int m_RightMargin = -5;
 
@@ -84,4 +94,7 @@ private:
     void setArrayLimits();
 
     int m_DataSize = 0;
+    // As of the last reset of the axis.
+    AttributeLook m_Look;
+    bool m_HasLostAttribute = false;
 };

@@ -26,7 +26,7 @@ void LinePlotLabel::PaintRange(QPainter& painter, int from, int to)
     painter.save();
     painter.setOpacity(labelOpacity);
     for (const StudyLabelInstance* label : *m_LabelCollection) {
-        for (const RowRange& span : label->GetSpans()) {
+        for (const RowSpan& span : label->GetSpans()) {
             if (span.m_To < from || span.m_From > to)
                 continue;
             const double left = start + double(m_TimeAxis->ToPixel(span.m_From - from));

@@ -54,7 +54,7 @@ std::vector<LinePoint> LineReduction::Reduce(const RowSpan& rows) const
 
 double LineReduction::value(int row) const
 {
-    return m_Data.GetRow(row)->GetValue(m_Attribute);
+    return m_Data.GetValue(row, m_Attribute);
 }
 
 void LineReduction::appendRows(std::vector<LinePoint>& points, const RowSpan& rows) const

@@ -23,10 +23,10 @@ void OldMultipleLinePlot::AddLine(double* values, int size, const QColor& color)
     line.m_Line->SetPenWidth(bold);
 }
 
-RowRange OldMultipleLinePlot::GetRows(int index) const
+std::optional<RowSpan> OldMultipleLinePlot::GetRows(int index) const
 {
     const Entry& line = entry(index);
     if (!line.m_Line->GetDataSet())
         return {};
-    return {line.m_From, line.m_From + line.m_Count};
+    return RowSpan{line.m_From, line.m_From + line.m_Count};
 }

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "overlaidlines.h"
-#include "rowrange.h"
+#include "rowspan.h"
+#include <optional>
 
 /// Lines without segments: spans of rows, and arrays such as the signals of a template.
 class OldMultipleLinePlot : public OverlaidLines
@@ -11,6 +12,6 @@ public:
     void AddLine(DataSet* data, int attribute, int from, int to, const QColor& color);
     /// An array, which stays the caller's. The value axis is left as it is.
     void AddLine(double* values, int size, const QColor& color);
-    /// The rows of a line; unset for an array.
-    RowRange GetRows(int index) const;
+    /// The rows of a line; none for an array.
+    std::optional<RowSpan> GetRows(int index) const;
 };

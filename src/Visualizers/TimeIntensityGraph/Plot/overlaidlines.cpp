@@ -3,7 +3,8 @@
 #include "amplitudeline.h"
 #include "dataset.h"
 #include "pixelmath.h"
-#include "plotgrid.h"
+#include "plotlook.h"
+#include "plotmargin.h"
 #include "timeaxis.h"
 #include "verticalaxis.h"
 #include <QPainter>
@@ -11,7 +12,6 @@
 
 namespace
 {
-constexpr int leftMargin = 40;
 constexpr int topMargin = 9;
 } // namespace
 
@@ -42,7 +42,7 @@ void OverlaidLines::setLimits(double minimum, double maximum)
 void OverlaidLines::layOut(const Entry& entry) const
 {
     const double bottom = double(m_Height) - topMargin;
-    entry.m_TimeAxis->SetStart(QPointF(leftMargin, bottom));
+    entry.m_TimeAxis->SetStart(QPointF(PlotLeftMargin, bottom));
     entry.m_TimeAxis->SetEnd(QPointF(double(m_Width), bottom));
 }
 
@@ -50,8 +50,8 @@ void OverlaidLines::SetSize(float height, float width)
 {
     m_Height = height;
     m_Width = width;
-    m_VerticalAxis->SetTop(QPointF(leftMargin, topMargin));
-    m_VerticalAxis->SetBottom(QPointF(leftMargin, double(height) - topMargin));
+    m_VerticalAxis->SetTop(QPointF(PlotLeftMargin, topMargin));
+    m_VerticalAxis->SetBottom(QPointF(PlotLeftMargin, double(height) - topMargin));
     for (const Entry& entry : m_Entries)
         layOut(entry);
 }
@@ -78,7 +78,7 @@ void OverlaidLines::ChangeAttributeID(int attribute)
 void OverlaidLines::Paint(QPainter& painter) const
 {
     constexpr double gridOpacity = 0.2;
-    PaintGrid(painter, leftMargin, topMargin, double(m_Width), double(m_Height) - topMargin,
+    PaintGrid(painter, PlotLeftMargin, topMargin, double(m_Width), double(m_Height) - topMargin,
               gridOpacity);
     if (m_Entries.empty())
         return;
@@ -118,7 +118,7 @@ bool OverlaidLines::hasValueInside(const Entry& entry, const QRectF& box, float 
         const int row = entry.m_From + i;
         if (data && (row < 0 || row >= data->GetRowCount()))
             continue;
-        const double value = data ? data->GetRow(row)->GetValue(attribute) : array[i];
+        const double value = data ? data->GetValue(row, attribute) : array[i];
         if (double(low) <= value && value <= double(high))
             return true;
     }

@@ -4,6 +4,14 @@
 #include <QPainter>
 #include <algorithm>
 
+void PaintSelected(QPainter& painter, const QRect& area)
+{
+    painter.fillRect(area, Qt::yellow);
+    painter.setPen(Qt::black);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(area);
+}
+
 void SelectionRange::Begin(double x, double leftLimit)
 {
     Clear();
@@ -26,9 +34,5 @@ void SelectionRange::Paint(QPainter& painter, int height) const
 {
     if (!IsValid() || m_Start > m_End)
         return;
-    const QRect area(TruncateToInt(m_Start), 0, TruncateToInt(m_End - m_Start), height - 1);
-    painter.fillRect(area, Qt::yellow);
-    painter.setPen(Qt::black);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(area);
+    PaintSelected(painter, {TruncateToInt(m_Start), 0, TruncateToInt(m_End - m_Start), height - 1});
 }

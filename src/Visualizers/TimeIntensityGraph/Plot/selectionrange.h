@@ -1,8 +1,12 @@
 #pragma once
 
 class QPainter;
+class QRect;
 
-/// A span of pixels that the user drags with the mouse; -1 marks an end that is not set.
+/// A yellow area with a black outline. The caller sets the opacity.
+void PaintSelected(QPainter& painter, const QRect& area);
+
+/// A span of logical pixels that the user drags with the mouse; -1 marks an end that is not set.
 struct SelectionRange {
     bool m_Active = false;
     double m_Start = -1;

@@ -1,7 +1,7 @@
 #include "timeaxis.h"
 
 #include "pixelmath.h"
-#include "plotfont.h"
+#include "plotlook.h"
 #include "rowsearch.h"
 #include <QPainter>
 #include <algorithm>

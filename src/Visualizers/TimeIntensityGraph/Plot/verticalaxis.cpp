@@ -1,7 +1,7 @@
 #include "verticalaxis.h"
 
 #include "pixelmath.h"
-#include "plotfont.h"
+#include "plotlook.h"
 #include <QPainter>
 #include <algorithm>
 #include <cmath>

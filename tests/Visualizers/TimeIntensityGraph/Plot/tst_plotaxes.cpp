@@ -1,3 +1,4 @@
+#include "cachedpicture.h"
 #include "cuttablelineplot.h"
 #include "lineplotlabel.h"
 #include "selectionrange.h"
@@ -28,6 +29,7 @@ private slots:
     void axisTypeKeepsOrLosesPoints();
     void zeroLineAndLabels();
     void selectionRange();
+    void cachedPicture();
 };
 
 void TestPlotAxes::timeAxisMapsBothWays_data()
@@ -264,6 +266,40 @@ void TestPlotAxes::selectionRange()
     QCOMPARE(range.GetSelectionEnd(), 40.0);
     range.Clear();
     QVERIFY(!range.IsValid());
+}
+
+void TestPlotAxes::cachedPicture()
+{
+    CachedPicture picture(Qt::green);
+    int painted = 0;
+    const auto show = [&](const QSize& size, qreal ratio) {
+        QImage image(200, 20, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        picture.Paint(painter, {3, 0}, size, ratio, [&](QPainter& content) {
+            content.fillRect(0, 0, 50, 10, Qt::red);
+            ++painted;
+        });
+        return image;
+    };
+    QVERIFY(picture.GetValidPart().isEmpty());
+    const QImage once = show({100, 10}, 1.5);
+    QCOMPARE(once.pixelColor(52, 9), QColor(Qt::red));
+    QCOMPARE(once.pixelColor(53, 9), QColor(Qt::green));
+    QCOMPARE(once.pixelColor(2, 9), QColor(Qt::white));
+    QCOMPARE(picture.GetValidPart(), QRect(0, 0, 100, 10));
+    QCOMPARE(show({100, 10}, 1.5), once);
+    QCOMPARE(painted, 1);
+    show({100, 12}, 1.5);
+    show({100, 12}, 2);
+    QCOMPARE(painted, 3);
+    picture.Invalidate();
+    QVERIFY(picture.GetValidPart().isEmpty());
+    show({100, 12}, 2);
+    QCOMPARE(painted, 4);
+    // A widget without a size has no picture.
+    show({0, 12}, 2);
+    QCOMPARE(painted, 4);
 }
 
 QTEST_MAIN(TestPlotAxes)

@@ -8,6 +8,6 @@ OldLinePlotWidget::OldLinePlotWidget(const std::vector<double>& values, const QS
     setMinimumSize(200, 120);
     resize(600, 300);
     // Ends the time axis inside the window.
-    SetRightMargin(40);
+    SetRightMargin(PlotLeftMargin);
     SetData(m_Values.data(), int(m_Values.size()), name);
 }

@@ -94,7 +94,7 @@ QWidget* TemplateDialog::makePlots()
         auto* plot = new LinePlotWidget(i);
         plot->setMinimumSize(250, 300);
         // Ends the time axis inside the plot, so that the whole segment shows.
-        plot->SetRightMargin(40);
+        plot->SetRightMargin(PlotLeftMargin);
         plot->SetDataSet(m_DataSet);
         plot->SetRange(m_From, m_To);
         column->addWidget(plot);

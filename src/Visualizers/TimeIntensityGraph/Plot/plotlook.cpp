@@ -1,4 +1,4 @@
-#include "plotgrid.h"
+#include "plotlook.h"
 
 #include "pixelmath.h"
 #include <QPainter>
