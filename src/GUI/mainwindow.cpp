@@ -242,8 +242,7 @@ void MainWindow::openFile()
     SetRecording(nullptr);
     ModalDialog<FileImportWizard> wizard(this);
     if (wizard.IsAccepted() && wizard->GetDataSet())
-        SetRecording(
-            std::make_shared<LiveRecording>(std::unique_ptr<DataSet>(wizard->GetDataSet())));
+        SetRecording(std::make_shared<LiveRecording>(wizard->TakeDataSet()));
 }
 
 void MainWindow::SetRecording(SharedRecording recording)

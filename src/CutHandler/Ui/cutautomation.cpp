@@ -6,6 +6,7 @@
 #include "localvariancedialog.h"
 #include "localvarianceextractor.h"
 #include "minimamaximadialog.h"
+#include "modaldialog.h"
 #include "periodiccutdialog.h"
 #include "pipcutdialog.h"
 #include "pipextractor.h"
@@ -13,6 +14,7 @@
 #include "simplecuts.h"
 #include "usererror.h"
 #include <QStringList>
+#include <optional>
 
 namespace
 {
@@ -35,6 +37,17 @@ public:
         SetLabelText(CutAutomation::tr("Cutting the recording"));
     }
 };
+
+// What the user chose, nothing on Cancel.
+template <class Dialog, class... Arguments>
+auto ask(Arguments&&... arguments)
+    -> std::optional<decltype(std::declval<Dialog>().GetParameters())>
+{
+    ModalDialog<Dialog> dialog(std::forward<Arguments>(arguments)...);
+    if (!dialog.IsAccepted())
+        return std::nullopt;
+    return dialog->GetParameters();
+}
 
 } // namespace
 
@@ -78,16 +91,15 @@ bool CutAutomation::generateCuts(int method)
 
 void CutAutomation::cutAtImportantPoints()
 {
-    PipCutDialog dialog({}, *m_DataSet, m_Parent);
-    if (dialog.exec() != QDialog::Accepted)
+    const auto chosen = ask<PipCutDialog>(PipCutParameters(), *m_DataSet, m_Parent);
+    if (!chosen)
         return;
-    const PipCutParameters chosen = dialog.GetParameters();
     CutProgress progress(m_Parent);
     PIPExtractor extractor;
     extractor.setDataSet(m_DataSet);
-    extractor.setMeasure(chosen.m_Measure);
-    if (!extractor.extract(chosen.m_Attribute, chosen.m_Partitions, chosen.m_MinimumDistance,
-                           chosen.m_Stopping, progress))
+    extractor.setMeasure(chosen->m_Measure);
+    if (!extractor.extract(chosen->m_Attribute, chosen->m_Partitions, chosen->m_MinimumDistance,
+                           chosen->m_Stopping, progress))
         return;
     const std::vector<PIPSegment>& segments = extractor.getSegments();
     insertCuts(int(segments.size()), progress, [&](int i) {
@@ -98,32 +110,32 @@ void CutAutomation::cutAtImportantPoints()
 
 void CutAutomation::cutPeriodically()
 {
-    PeriodicCutDialog dialog({}, m_Parent);
-    if (dialog.exec() != QDialog::Accepted)
+    const auto chosen = ask<PeriodicCutDialog>(PeriodicCutParameters(), m_Parent);
+    if (!chosen)
         return;
     CutProgress progress(m_Parent);
-    insertCuts(PeriodicCuts(*m_DataSet, dialog.GetParameters()), progress);
+    insertCuts(PeriodicCuts(*m_DataSet, *chosen), progress);
 }
 
 void CutAutomation::cutAtSharpTransitions()
 {
-    LocalVarianceDialog dialog({}, *m_DataSet, m_Parent);
-    if (dialog.exec() != QDialog::Accepted)
+    const auto chosen = ask<LocalVarianceDialog>(LocalVarianceParameters(), *m_DataSet, m_Parent);
+    if (!chosen)
         return;
     CutProgress progress(m_Parent);
     LocalVarianceExtractor extractor;
     extractor.setDataSet(m_DataSet);
-    extractor.extract(dialog.GetParameters(), progress);
+    extractor.extract(*chosen, progress);
     insertCuts(extractor.getIndices(), progress);
 }
 
 void CutAutomation::cutAtExtrema()
 {
-    MinimaMaximaDialog dialog({}, *m_DataSet, m_Parent);
-    if (dialog.exec() != QDialog::Accepted)
+    const auto chosen = ask<MinimaMaximaDialog>(MinimaMaximaParameters(), *m_DataSet, m_Parent);
+    if (!chosen)
         return;
     CutProgress progress(m_Parent);
-    insertCuts(MinimaMaximaCuts(*m_DataSet, dialog.GetParameters(), progress), progress);
+    insertCuts(MinimaMaximaCuts(*m_DataSet, *chosen, progress), progress);
 }
 
 void CutAutomation::insertCuts(const std::vector<int>& rows, Progress& progress)

@@ -1,7 +1,7 @@
 #include "blockcorrelation.h"
 
-#include "processorclones.h"
 #include "rowwindow.h"
+#include "vectorclones.h"
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -28,7 +28,7 @@ int chooseBlockLength(int dataLength, int filterLength)
 
 /// The compiler's own product of complex values looks for infinities and takes longer than the
 /// transforms.
-SKERRYMOOR_PROCESSOR_CLONES
+SKERRYMOOR_VECTOR_CLONES
 void multiply(double* parts, const double* factors, size_t count)
 {
     for (size_t i = 0; i < 2 * count; i += 2) {

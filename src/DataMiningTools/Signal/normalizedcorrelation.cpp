@@ -1,15 +1,15 @@
 #include "normalizedcorrelation.h"
 
 #include "blockcorrelation.h"
-#include "processorclones.h"
 #include "rowwindow.h"
 #include "runningnormalization.h"
+#include "vectorclones.h"
 #include <algorithm>
 
 namespace
 {
 
-SKERRYMOOR_PROCESSOR_CLONES
+SKERRYMOOR_VECTOR_CLONES
 void normalize(const double* sums, const float* roots, int count, float deviation, float length,
                float* confidences)
 {

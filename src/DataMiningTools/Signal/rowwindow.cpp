@@ -1,6 +1,6 @@
 #include "rowwindow.h"
 
-#include "processorclones.h"
+#include "vectorclones.h"
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -8,7 +8,7 @@
 namespace
 {
 
-SKERRYMOOR_PROCESSOR_CLONES
+SKERRYMOOR_VECTOR_CLONES
 bool holdsGap(const double* values, int count)
 {
     std::int64_t gaps = 0;

@@ -1,8 +1,8 @@
 #include "runningnormalization.h"
 
 #include "blockfft.h"
-#include "processorclones.h"
 #include "rowwindow.h"
+#include "vectorclones.h"
 #include <algorithm>
 #include <cmath>
 
@@ -10,7 +10,7 @@ namespace
 {
 
 /// Takes the mean off values, by the sums of the windows around them, and squares what is left.
-SKERRYMOOR_PROCESSOR_CLONES
+SKERRYMOOR_VECTOR_CLONES
 void takeMeansOff(const double* values, const float* sums, int count, float width, double* centred,
                   double* squares)
 {
@@ -20,7 +20,7 @@ void takeMeansOff(const double* values, const float* sums, int count, float widt
         squares[i] = centred[i] * centred[i];
 }
 
-SKERRYMOOR_PROCESSOR_CLONES
+SKERRYMOOR_VECTOR_CLONES
 void makeRoots(float* sums, int count, float width)
 {
     for (int i = 0; i < count; ++i)

@@ -1,6 +1,6 @@
 #include "runningsumpair.h"
 
-#include "processorclones.h"
+#include "vectorclones.h"
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
@@ -88,14 +88,14 @@ inline bool slideByGuess(RunningSum& first, const Steps& firstSteps, RunningSum&
     return true;
 }
 
-SKERRYMOOR_PROCESSOR_CLONES
+SKERRYMOOR_VECTOR_CLONES
 bool slideManyByGuess(RunningSum& first, const Steps& firstSteps, RunningSum& second,
                       const Steps& secondSteps)
 {
     return slideByGuess<RunningSumPair::MaximumSteps>(first, firstSteps, second, secondSteps);
 }
 
-SKERRYMOOR_PROCESSOR_CLONES
+SKERRYMOOR_VECTOR_CLONES
 bool slideFewByGuess(RunningSum& first, const Steps& firstSteps, RunningSum& second,
                      const Steps& secondSteps)
 {

@@ -1,9 +1,9 @@
 #include "attributematchdialog.h"
 
+#include "attributebox.h"
 #include "dataset.h"
 #include "dialogbuttons.h"
 #include "patternsdataobject.h"
-#include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -25,13 +25,8 @@ QStringList templateAttributes(const QList<PatternsDataObject*>& patterns)
 
 QComboBox* makeChoice(const QString& name, const DataSet* dataSet)
 {
-    auto* choice = new QComboBox;
-    for (int i = 0; i < dataSet->GetAttributeCount(); ++i)
-        choice->addItem(dataSet->GetAttributeName(i), i);
-    const int same = choice->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (same != -1)
-        choice->setCurrentIndex(same);
-    choice->setToolTip(QDialog::tr("The column to search for %1").arg(name));
+    auto* choice = new AttributeBox(dataSet, QDialog::tr("The column to search for %1").arg(name));
+    choice->SetAttribute(dataSet->GetAttributeIndex(name));
     return choice;
 }
 

@@ -3,7 +3,9 @@
 #include "attributenamedialog.h"
 #include "headernamedialog.h"
 #include "importfinish.h"
+#include "modaldialog.h"
 #include <QComboBox>
+#include <QPointer>
 #include <QSignalBlocker>
 
 namespace
@@ -45,11 +47,14 @@ void FileSpecificationPage::setPresetNames(int preset)
 
 void FileSpecificationPage::askForNames()
 {
-    AttributeNameDialog dialog(getColumnCount(), this);
-    if (dialog.exec() == QDialog::Accepted) {
-        m_Headers = dialog.GetHeaders();
+    const QPointer<FileSpecificationPage> self(this);
+    ModalDialog<AttributeNameDialog> dialog(getColumnCount(), this);
+    if (dialog.IsAccepted()) {
+        m_Headers = dialog->GetHeaders();
         return;
     }
+    if (!self)
+        return;
     {
         const QSignalBlocker blocker(m_Preset);
         m_Preset->setCurrentIndex(0);
@@ -61,11 +66,12 @@ void FileSpecificationPage::headerClicked(int column)
 {
     if (column < 0 || column >= m_Headers.m_Names.size())
         return;
-    HeaderNameDialog dialog(m_Headers.m_Names.at(column), m_Headers.m_Types.at(column), this);
-    if (dialog.exec() != QDialog::Accepted)
+    ModalDialog<HeaderNameDialog> dialog(m_Headers.m_Names.at(column), m_Headers.m_Types.at(column),
+                                         this);
+    if (!dialog.IsAccepted())
         return;
-    m_Headers.m_Names[column] = dialog.GetName();
-    m_Headers.m_Types[column] = dialog.GetType();
+    m_Headers.m_Names[column] = dialog->GetName();
+    m_Headers.m_Types[column] = dialog->GetType();
     showHeaders(m_Headers.m_Names);
 }
 

@@ -1,9 +1,10 @@
 #include "dataexport.h"
 
+#include "askuser.h"
 #include "filewriter.h"
 #include "runexport.h"
 #include "usererror.h"
-#include <QMessageBox>
+#include <QObject>
 
 bool ExportDataFile(QWidget* parent, const DataSet* dataSet, const QString& path)
 {
@@ -14,8 +15,7 @@ bool ExportDataFile(QWidget* parent, const DataSet* dataSet, const QString& path
         return writer.Write();
     });
     if (result == EXPORT_WRITTEN)
-        QMessageBox::information(parent, QObject::tr("Success"),
-                                 QObject::tr("File exported successfully"));
+        TellUser(parent, QObject::tr("Success"), QObject::tr("File exported successfully"));
     else if (result == EXPORT_FAILED)
         ShowUserError(parent, QObject::tr("Error writing file"),
                       QObject::tr("Error writing file: ") + writer.GetError());

@@ -15,11 +15,11 @@ BasicFunctionDialog::BasicFunctionDialog(const DataSet& dataSet, const BasicFunc
 
 void BasicFunctionDialog::addOperation(const BasicFunctionParams& start)
 {
-    m_First = makeAttributeBox(start.m_First);
+    m_First = makeAttributeBox(m_DataSet, start.m_First);
     m_Operator = new QComboBox;
     m_Operator->addItems({tr("Subtract"), tr("Add"), tr("Multiply"), tr("Division")});
     m_Operator->setCurrentIndex(start.m_Operator);
-    m_Second = makeAttributeBox(start.m_Second);
+    m_Second = makeAttributeBox(m_DataSet, start.m_Second);
     m_First->setToolTip(tr("The first attribute"));
     m_Operator->setToolTip(tr("What is done with the two attributes"));
     m_Second->setToolTip(tr("The second attribute"));

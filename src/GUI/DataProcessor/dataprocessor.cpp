@@ -8,6 +8,7 @@
 #include "derivativedialog.h"
 #include "energy.h"
 #include "energydialog.h"
+#include "modaldialog.h"
 #include "movingaverage.h"
 #include "movingaveragedialog.h"
 #include "normalize.h"
@@ -57,24 +58,28 @@ bool isOperation(int index)
     return 0 <= index && index < DataProcessor::OperationCount;
 }
 
-// What the user chose, nothing on Cancel.
 template <class Dialog>
-auto ask(const DataSet& dataSet, QWidget* parent)
-    -> std::optional<decltype(std::declval<Dialog>().GetParams())>
+using Params = decltype(std::declval<Dialog>().GetParams());
+
+// What the user chose, nothing on Cancel.
+template <class Dialog, class Start = Params<Dialog>>
+std::optional<Params<Dialog>> ask(const DataSet& dataSet, QWidget* parent)
 {
-    Dialog dialog(dataSet, {}, parent);
-    if (dialog.exec() != QDialog::Accepted)
+    ModalDialog<Dialog> dialog(dataSet, Start(), parent);
+    if (!dialog.IsAccepted())
         return std::nullopt;
-    return dialog.GetParams();
+    return dialog->GetParams();
 }
 
-// What the dialog showed when it was closed, by Cancel too.
+// What the dialog showed when it was closed, by Cancel too; nothing when it went with its window.
 template <class Dialog>
-auto askWithoutCancel(const DataSet& dataSet, QWidget* parent)
+std::optional<Params<Dialog>> askWithoutCancel(const DataSet& dataSet, QWidget* parent)
 {
-    Dialog dialog(dataSet, {}, parent);
-    dialog.exec();
-    return dialog.GetParams();
+    ModalDialog<Dialog> dialog(dataSet, Params<Dialog>(), parent);
+    dialog.Run();
+    if (!dialog.Get())
+        return std::nullopt;
+    return dialog->GetParams();
 }
 
 } // namespace
@@ -185,7 +190,7 @@ bool DataProcessor::pitchRoll()
 {
     if (!hasData())
         return false;
-    const auto params = ask<PitchRollDialog>(*m_DataSet, m_Parent);
+    const auto params = ask<PitchRollDialog, bool>(*m_DataSet, m_Parent);
     if (!params)
         return true;
     if (!hasVector(params->m_Acceleration))
@@ -214,8 +219,8 @@ bool DataProcessor::vedba()
     if (!hasData())
         return false;
     const auto params = askWithoutCancel<VedbaDialog>(*m_DataSet, m_Parent);
-    return hasVector(params.m_Dynamic) &&
-           finishWith(params.m_Name, [&] { return Vedba(*m_DataSet, params.m_Dynamic); });
+    return params && hasVector(params->m_Dynamic) &&
+           finishWith(params->m_Name, [&] { return Vedba(*m_DataSet, params->m_Dynamic); });
 }
 
 bool DataProcessor::staticDynAcc()
@@ -223,10 +228,10 @@ bool DataProcessor::staticDynAcc()
     if (!hasData())
         return false;
     const auto params = askWithoutCancel<StaticDynamicAccDialog>(*m_DataSet, m_Parent);
-    const VectorAttributes& acceleration = params.m_Acceleration;
-    if (!hasVector(acceleration))
+    if (!params || !hasVector(params->m_Acceleration))
         return false;
-    const int window = params.m_Window;
+    const VectorAttributes& acceleration = params->m_Acceleration;
+    const int window = params->m_Window;
     const WaitCursor wait;
     const int x = computeMovingAverage(QStringLiteral("Static X Acc"), acceleration.m_X, window);
     const int y = computeMovingAverage(QStringLiteral("Static Y Acc"), acceleration.m_Y, window);
@@ -243,8 +248,10 @@ bool DataProcessor::constantValue()
     if (!hasData())
         return false;
     const auto params = askWithoutCancel<ConstantValueDialog>(*m_DataSet, m_Parent);
-    return finishWith(params.m_Name,
-                      [&] { return ConstantValue(m_DataSet->GetRowCount(), params.m_Value); });
+    if (!params)
+        return false;
+    return finishWith(params->m_Name,
+                      [&] { return ConstantValue(m_DataSet->GetRowCount(), params->m_Value); });
 }
 
 int DataProcessor::computeMovingAverage(const QString& name, int attribute, int window)

@@ -17,14 +17,6 @@ VectorAttributes DerivationDialog::VectorBoxes::Get() const
     return {m_X->currentIndex(), m_Y->currentIndex(), m_Z->currentIndex()};
 }
 
-QComboBox* DerivationDialog::makeAttributeBox(int start) const
-{
-    auto* box = new QComboBox;
-    box->addItems(m_DataSet.GetAttributeNames());
-    box->setCurrentIndex(start);
-    return box;
-}
-
 QComboBox* DerivationDialog::addAttribute(const QString& label, int start)
 {
     return FormDialog::addAttribute(label, m_DataSet, start, tr("The attribute that is read"));

@@ -24,8 +24,6 @@ protected:
         VectorAttributes Get() const;
     };
 
-    /// A box with all attributes in column order, for a row of the form.
-    QComboBox* makeAttributeBox(int start) const;
     QComboBox* addAttribute(const QString& label, int start);
     /// Three rows; labels: one with "%1" in the place of the axis.
     VectorBoxes addVector(const QString& labels, const VectorAttributes& start);

@@ -1,5 +1,6 @@
 #include "formdialog.h"
 
+#include "attributebox.h"
 #include "dataset.h"
 #include "dialogbuttons.h"
 #include <QComboBox>
@@ -34,10 +35,23 @@ QComboBox* FormDialog::addChoice(const QString& label, const QStringList& choice
     return box;
 }
 
+QComboBox* FormDialog::makeAttributeBox(const DataSet& dataSet, int current)
+{
+    auto* box = new AttributeBox;
+    // A dialog is as wide as the longest name.
+    box->setSizeAdjustPolicy(QComboBox::AdjustToContentsOnFirstShow);
+    box->setMinimumContentsLength(0);
+    box->SetDataSet(&dataSet);
+    box->SetAttribute(current);
+    return box;
+}
+
 QComboBox* FormDialog::addAttribute(const QString& label, const DataSet& dataSet, int current,
                                     const QString& toolTip)
 {
-    return addChoice(label, dataSet.GetAttributeNames(), current, toolTip);
+    QComboBox* box = makeAttributeBox(dataSet, current);
+    addRow(label, box, toolTip);
+    return box;
 }
 
 QSpinBox* FormDialog::addNumber(const QString& label, int value, int maximum,

@@ -20,7 +20,9 @@ protected:
     void addRow(const QString& label, QWidget* field, const QString& toolTip);
     QComboBox* addChoice(const QString& label, const QStringList& choices, int current,
                          const QString& toolTip);
-    /// A choice of all attributes in column order.
+    /// A choice of all attributes in column order, for a row of the form.
+    static QComboBox* makeAttributeBox(const DataSet& dataSet, int current);
+    /// The same in a row of its own.
     QComboBox* addAttribute(const QString& label, const DataSet& dataSet, int current,
                             const QString& toolTip);
     /// A whole number from 0 to maximum.

@@ -1,19 +1,20 @@
 #include "nodestatswidget.h"
 
 #include "askuser.h"
+#include "attributebox.h"
 #include "dataset.h"
 #include "filewriter.h"
 #include "rangestatistics.h"
 #include "runexport.h"
 #include "statisticsform.h"
 #include "usererror.h"
-#include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
 
 NodeStatsWidget::NodeStatsWidget(DataSet* dataSet, QWidget* parent)
-    : QDialog(parent), m_DataSet(dataSet), m_Attributes(new QComboBox)
+    : QDialog(parent), m_DataSet(dataSet),
+      m_Attributes(new AttributeBox(dataSet, tr("The attribute to look at")))
 {
     setWindowTitle(tr("Data Statistics"));
     auto* exportButton = new QPushButton(tr("Export Data"));
@@ -30,8 +31,6 @@ NodeStatsWidget::NodeStatsWidget(DataSet* dataSet, QWidget* parent)
 
 QLayout* NodeStatsWidget::makeFields()
 {
-    m_Attributes->addItems(m_DataSet->GetAttributeNames());
-    m_Attributes->setToolTip(tr("The attribute to look at"));
     connect(m_Attributes, QOverload<int>::of(&QComboBox::activated), this,
             &NodeStatsWidget::computeStats);
 
@@ -55,7 +54,7 @@ void NodeStatsWidget::computeStats(int attribute)
     if (attribute < 0 || attribute >= m_Attributes->count())
         return;
     m_Attribute = attribute;
-    m_Attributes->setCurrentIndex(attribute);
+    m_Attributes->SetAttribute(attribute);
     const bool isAll = m_From < 0 || m_To < 0;
     const auto statistics = ComputeRangeStatistics(*m_DataSet, attribute, isAll ? 0 : m_From,
                                                    isAll ? m_DataSet->GetRowCount() : m_To);

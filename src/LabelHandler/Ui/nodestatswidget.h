@@ -2,8 +2,8 @@
 
 #include <QDialog>
 
+class AttributeBox;
 class DataSet;
-class QComboBox;
 class QLineEdit;
 
 /// Minimum, maximum and mean of an attribute over a range of rows.
@@ -29,7 +29,7 @@ private:
     int m_From = -1;
     int m_To = -1;
     int m_Attribute = 0;
-    QComboBox* m_Attributes;
+    AttributeBox* m_Attributes;
     QLineEdit* m_Minimum = nullptr;
     QLineEdit* m_Maximum = nullptr;
     QLineEdit* m_Mean = nullptr;

@@ -1,8 +1,8 @@
 #include "overlaidlineswidget.h"
 
+#include "askuser.h"
 #include "overlaidlines.h"
 #include "plotlook.h"
-#include <QMessageBox>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
@@ -100,7 +100,7 @@ void OverlaidLinesWidget::askToReject(const QRect& box)
         return;
     const QString question =
         tr("Are you sure you want to reject %1 results?").arg(int(marked.size()));
-    if (QMessageBox::question(this, tr("Reject Results"), question) != QMessageBox::Yes)
+    if (!AskYesNo(this, tr("Reject Results"), question))
         return;
     rejectLines(marked);
     markStale();

@@ -1,12 +1,12 @@
 #include "matchpositionsbox.h"
 
+#include "attributebox.h"
 #include "dataset.h"
 #include "linearcolormapwidget.h"
 #include "plotareawidget.h"
 #include "thresholdmap.h"
 #include "thresholdmapdistribution.h"
 #include "twodimensionalheatmapviz.h"
-#include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -35,8 +35,7 @@ MatchPositionsBox::MatchPositionsBox(DataSet* dataSet, QWidget* parent)
 
 QLayout* MatchPositionsBox::makeAttributeRow()
 {
-    auto* attributes = new QComboBox;
-    attributes->addItems(m_DataSet->GetAttributeNames());
+    auto* attributes = new AttributeBox(m_DataSet, tr("The attribute that plot and maps show"));
     attributes->setMaximumWidth(200);
     connect(attributes, QOverload<int>::of(&QComboBox::activated), this,
             &MatchPositionsBox::showAttribute);

@@ -1,5 +1,6 @@
 #include "templatematcherpage.h"
 
+#include "attributebox.h"
 #include "colormaps.h"
 #include "dataset.h"
 #include "oldlineplotwidget.h"
@@ -87,8 +88,7 @@ QLayout* TemplateMatcherPage::makeResultFields()
     for (int scheme = 0; !ColorMaps::GetColorMapName(scheme).isEmpty(); ++scheme)
         colorMaps->addItem(ColorMaps::GetColorMapName(scheme));
     colorMaps->setCurrentIndex(colorMaps->count() - 1);
-    auto* attributes = new QComboBox;
-    attributes->addItems(dataSet()->GetAttributeNames());
+    auto* attributes = new AttributeBox(dataSet(), tr("The attribute that plot and maps show"));
     connect(colorMaps, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &TemplateMatcherPage::colorMapChanged);
     connect(attributes, QOverload<int>::of(&QComboBox::activated), m_Plot,

@@ -1,14 +1,16 @@
 #include "templatesearchpage.h"
 
+#include "askuser.h"
 #include "attributematchdialog.h"
 #include "cutcollection.h"
 #include "databasemessages.h"
 #include "dataset.h"
 #include "dialogprogress.h"
+#include "modaldialog.h"
 #include "patternsdataobject.h"
 #include "templatematcher.h"
 #include "usererror.h"
-#include <QInputDialog>
+#include <QPointer>
 #include <QWizard>
 
 TemplateSearchPage::TemplateSearchPage(DataSet* dataSet, CutCollection* cuts,
@@ -26,9 +28,11 @@ void TemplateSearchPage::initializePage()
     clearResults();
     if (m_PatternIds->isEmpty())
         return;
+    const QPointer<TemplateSearchPage> self(this);
     if (loadPattern() && askMeasure() && askAttributes())
         search();
-    wizard()->resize(900, 600);
+    if (self)
+        wizard()->resize(900, 600);
 }
 
 bool TemplateSearchPage::loadPattern()
@@ -56,19 +60,20 @@ bool TemplateSearchPage::askMeasure()
     const QStringList names{
         TemplateMatcher::getMeasureName(TemplateMatcher::MEASURE_CORRELATION),
         TemplateMatcher::getMeasureName(TemplateMatcher::MEASURE_NORMALIZED_CORRELATION)};
-    bool isAccepted = false;
-    const QString name = QInputDialog::getItem(this, tr("Matching Algorithm"), tr("Algorithm: "),
-                                               names, 0, false, &isAccepted);
-    m_Measure = names.indexOf(name);
-    return isAccepted;
+    const int measure = AskChoice(this, tr("Matching Algorithm"), tr("Algorithm: "), names);
+    if (measure == -1)
+        return false;
+    m_Measure = measure;
+    return true;
 }
 
 bool TemplateSearchPage::askAttributes()
 {
-    AttributeMatchDialog dialog({m_Pattern.get()}, m_DataSet, this);
-    if (dialog.exec() != QDialog::Accepted)
+    const QList<PatternsDataObject*> patterns{m_Pattern.get()};
+    ModalDialog<AttributeMatchDialog> dialog(patterns, m_DataSet, this);
+    if (!dialog.IsAccepted())
         return false;
-    m_AttributeMap = dialog.GetAttributeMap();
+    m_AttributeMap = dialog->GetAttributeMap();
     return true;
 }
 

@@ -17,7 +17,7 @@ QColor HeatRgb::ToColor() const
 
 HeatRgb HeatColor(const DataSet& data, int row, int attribute)
 {
-    const double value = std::abs(data.GetRow(row)->GetValue(attribute));
+    const double value = std::abs(data.GetValue(row, attribute));
     const double low = std::max(0.0F, data.GetRawMin(attribute));
     const double high = std::abs(data.GetRawMax(attribute));
     const double span = high == low ? 1 : high - low;
@@ -33,7 +33,7 @@ void HeatRows::Paint(QPainter& painter, const CutSegment& segment, int shift) co
 {
     if (m_AttributeId < 0 || m_AttributeId >= m_Data.GetAttributeCount())
         return;
-    const auto value = [this](int row) { return m_Data.GetRow(row)->GetValue(m_AttributeId); };
+    const auto value = [this](int row) { return m_Data.GetValue(row, m_AttributeId); };
     const auto point = [&](int row) {
         const double x = m_TimeAxis.GetStart().x() + double(m_TimeAxis.ToPixel(row + shift));
         const double y = m_BaseY + m_Direction * double(m_VerticalAxis.ToPixel(float(value(row))));
