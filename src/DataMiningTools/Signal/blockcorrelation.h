@@ -37,7 +37,6 @@ public:
     const BlockFft& GetFft() const { return *m_Fft; }
     /// How many windows of the longest filter there are in one block.
     int GetStep() const { return m_Step; }
-    int GetLongestFilter() const { return m_Fft->GetLength() - m_Step + 1; }
 
     /// The sums of block[s + j] * filter[j] over j, for s from 0 to GetStep - 1 at least, good
     /// until the next call. block: as many values as the transform has, aligned for it.
