@@ -37,12 +37,11 @@ public:
     const BlockFft& GetFft() const { return *m_Fft; }
     /// How many windows of the longest filter there are in one block.
     int GetStep() const { return m_Step; }
-    int GetLongestFilter() const { return m_Fft->GetLength() - m_Step + 1; }
 
     /// The sums of block[s + j] * filter[j] over j, for s from 0 to GetStep - 1 at least, good
     /// until the next call. block: as many values as the transform has, aligned for it.
     const double* Correlate(double* block, const FilterSpectrum& filter);
-    /// The same for the spectrum of a block, which is kept.
+    /// The same for the spectrum of a block, which stays as it is.
     const double* CorrelateSpectrum(const std::complex<double>* block,
                                     const FilterSpectrum& filter);
 

@@ -7,7 +7,7 @@
 namespace
 {
 
-// Whatever scheme the plots around it use.
+// The scale looks the same whatever scheme the plots around it use.
 constexpr int colorMap = 3;
 
 QColor colorAt(double value)

@@ -1,4 +1,3 @@
-#include "insertmatches.h"
 #include "labelsegment.h"
 #include "ruleextractor.h"
 #include "segmenttext.h"
@@ -7,7 +6,6 @@
 #include "thresholdextractor.h"
 #include <QtTest>
 #include <limits>
-#include <random>
 
 namespace
 {
@@ -34,45 +32,6 @@ QString findRuns(const DataSet& data, const CutCollection& cuts,
     NoProgress progress;
     extractor.Extract(progress);
     return toText(extractor.GetMatches());
-}
-
-// Every row's answer on its own, then pairs that grow row by row, then a pass that drops the short.
-QString scanForRuns(const DataSet& data, const CutCollection& cuts,
-                    CutSegment::SEGMENT_STATE searchMode,
-                    const std::vector<ThresholdParameter>& parameters, int minimumLength)
-{
-    QList<QPair<int, int>> pairs;
-    for (int i = 0; i < cuts.GetSegmentCount(); ++i) {
-        bool isOpen = false;
-        const CutSegment* segment = cuts.GetSegment(i);
-        for (int row = segment->GetFrom();
-             row < segment->GetTo() && segment->GetState() == searchMode; ++row) {
-            bool isMet = true;
-            for (const auto& [op, attribute, v] : parameters) {
-                const double x = data.GetRow(row)->GetValue(attribute);
-                isMet = isMet && (op == 0 ? v > x : op == 1 ? v >= x : op == 2 ? x > v : x >= v);
-            }
-            if (isMet && !isOpen)
-                pairs.append({row, row});
-            else if (isMet)
-                pairs.last().second = row;
-            isOpen = isMet;
-        }
-    }
-    SearchMatches matches;
-    for (const auto& pair : pairs) {
-        if (pair.second - pair.first >= minimumLength)
-            matches.append(SearchMatch{{pair.first, pair.second}});
-    }
-    return toText(matches);
-}
-
-// Leaves a segment without rows; the next one has them.
-void giveRowsAway(CutCollection& cuts, int index)
-{
-    CutSegment* segment = cuts.GetSegment(index);
-    cuts.GetSegment(index + 1)->MoveFrom(segment->GetFrom());
-    segment->MoveTo(segment->GetFrom());
 }
 
 /// Segments of behaviours "A", "B", ... as the text of MakeCuts tells: each labelled segment takes
@@ -108,34 +67,6 @@ SearchMatches findRule(const LabelledCuts& cuts, const QString& rule, int length
     return extractor.GetMatches();
 }
 
-// The list as it grows by the rule's labels, each pair compared.
-SearchMatches scanForRule(const LabelledCuts& cuts, const QString& rule, int length)
-{
-    QList<CutSegment*> current;
-    for (int k = 0; k < rule.size(); ++k) {
-        QList<CutSegment*> followers;
-        const BehaviorLabel* label = cuts.m_Labels.FindLabel(rule.mid(k, 1));
-        for (int i = 0; label && i < label->GetInstanceCount(); ++i) {
-            CutSegment* s = label->GetInstance(i)->GetSegment();
-            if (k == 0)
-                followers.append(s);
-            for (const CutSegment* c : current) {
-                if (c->GetTo() <= s->GetFrom() && s->GetFrom() <= c->GetTo() + 600)
-                    followers.append(s);
-            }
-        }
-        current = followers;
-    }
-    SearchMatches matches;
-    for (const CutSegment* s : current) {
-        int index = 0;
-        const CutSegment* n = cuts.m_Cuts.FindSegment(s->GetTo() + 1, index);
-        if (n && n->GetState() == CutSegment::SEGMENT_CUT && n->GetFrom() + length <= n->GetTo())
-            matches.append(SearchMatch{{n->GetFrom(), n->GetFrom() + length}});
-    }
-    return matches;
-}
-
 } // namespace
 
 class TestSearchExtractors : public QObject
@@ -143,13 +74,10 @@ class TestSearchExtractors : public QObject
     Q_OBJECT
 private slots:
     void runs();
-    void runsOfRandomData();
     void rules_data();
     void rules();
-    void rulesOfRandomLabels();
     void countsManyWays();
     void keepsMatchesWhenStopped();
-    void inserts();
 };
 
 void TestSearchExtractors::runs()
@@ -175,26 +103,6 @@ void TestSearchExtractors::runs()
     for (const ThresholdParameter& unknown :
          {ThresholdParameter{0, 2, 9}, ThresholdParameter{0, -1, 9}, ThresholdParameter{4, 0, 9}})
         QCOMPARE(findRuns(*data, cuts, CutSegment::SEGMENT_CUT, {any, unknown}, 0), QString());
-}
-
-void TestSearchExtractors::runsOfRandomData()
-{
-    std::mt19937 random(4);
-    for (int trial = 0; trial < 100; ++trial) {
-        QStringList lines;
-        for (int row = 0; row < 60; ++row)
-            lines.append(QStringLiteral("%1 %2").arg(random() % 4).arg(int(random() % 5) - 2));
-        const auto data = MakeDataSet(lines.join(QLatin1Char('\n')).toLatin1().constData());
-        CutCollection cuts;
-        MakeCuts(cuts, "7 9 20L 33 40R 41 60");
-        giveRowsAway(cuts, int(random() % 6));
-        const std::vector<ThresholdParameter> parameters{
-            {int(random() % 4), 0, double(random() % 4)},
-            {int(random() % 4), 1, int(random() % 5) - 2.0}};
-        for (const int length : {0, 1, 3})
-            QCOMPARE(findRuns(*data, cuts, CutSegment::SEGMENT_CUT, parameters, length),
-                     scanForRuns(*data, cuts, CutSegment::SEGMENT_CUT, parameters, length));
-    }
 }
 
 void TestSearchExtractors::rules_data()
@@ -236,39 +144,6 @@ void TestSearchExtractors::rules()
     QTEST(toText(findRule(cuts, rule, length, 1200)), "expected");
 }
 
-void TestSearchExtractors::rulesOfRandomLabels()
-{
-    std::mt19937 random(7);
-    quint64 found = 0;
-    for (int trial = 0; trial < 60; ++trial) {
-        QStringList ends;
-        QString behaviours;
-        int end = 0;
-        for (int i = 0; i < 30; ++i) {
-            end += int(random() % 3 + 1) * 50;
-            const bool isLabelled = random() % 3 != 0;
-            ends.append(QString::number(end) % QLatin1String(isLabelled ? "L" : ""));
-            if (isLabelled)
-                behaviours.append(QLatin1Char(char('A' + random() % 3)));
-        }
-        ends.append(QString::number(end + 200));
-        LabelledCuts cuts(ends.join(QLatin1Char(' ')).toLatin1().constData(), behaviours);
-        giveRowsAway(cuts.m_Cuts, int(random() % 30));
-        giveRowsAway(cuts.m_Cuts, int(random() % 30));
-        for (const char* rule : {"A", "AB", "BAC", "AAAA"}) {
-            SearchMatches once = findRule(cuts, QString::fromLatin1(rule), 60, end + 200);
-            const SearchMatches all = scanForRule(cuts, QString::fromLatin1(rule), 60);
-            QCOMPARE(CountMatches(once), quint64(all.size()));
-            for (SearchMatch& match : once) {
-                const SearchMatch single{match.m_Rows};
-                QCOMPARE(match.m_Count, quint64(all.count(single)));
-            }
-            found += CountMatches(once);
-        }
-    }
-    QVERIFY(found > 100);
-}
-
 // A rule of many labels leads to one segment in more ways than memory could hold.
 void TestSearchExtractors::countsManyWays()
 {
@@ -307,23 +182,6 @@ void TestSearchExtractors::keepsMatchesWhenStopped()
         QCOMPARE(rule.Extract(atLabels), step > 2);
     }
     QCOMPARE(toText(runs.GetMatches()), QStringLiteral("(30,4999) (5000,14999)"));
-}
-
-void TestSearchExtractors::inserts()
-{
-    // Reversed ends, and one across a boundary.
-    const SearchMatches matches{{{5, 10}}, {{18, 15}}, {{25, 27}}, {{35, 45}}};
-    const QString starts = QStringLiteral("(0,5) R(5,10) (10,15) R(15,18) ");
-    const QString ends = QStringLiteral(" R(25,27) (27,30) L(30,40) (40,60)");
-    NoProgress progress;
-    CutCollection cuts;
-    MakeCuts(cuts, "20 30R 40L 60");
-    QCOMPARE(InsertMatches(cuts, matches, CutSegment::SEGMENT_CUT, progress), 3);
-    QCOMPARE(ToText(cuts), QString(starts % QStringLiteral("(18,20) R(20,25)") % ends));
-    CutCollection refined;
-    MakeCuts(refined, "20 30R 40L 60");
-    QCOMPARE(InsertMatches(refined, matches, CutSegment::SEGMENT_RESULT, progress), 3);
-    QCOMPARE(ToText(refined), QString(starts % QStringLiteral("(18,25)") % ends));
 }
 
 QTEST_MAIN(TestSearchExtractors)

@@ -78,45 +78,12 @@ class TestMatchExtraction : public QObject
 {
     Q_OBJECT
 private slots:
-    void findsCenters_data();
-    void findsCenters();
     void agreesWithAWalkOverFlags();
     void spreadsAndLeavesOut();
     void insertsAsFlagsDo();
     void reducesToPixels_data();
     void reducesToPixels();
 };
-
-void TestMatchExtraction::findsCenters_data()
-{
-    QTest::addColumn<QVector<float>>("values");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<float>("threshold");
-    QTest::addColumn<QVector<int>>("centers");
-    QTest::newRow("the later of a tie")
-        << QVector<float>{0, 0.9F, 0.5F, 0.9F, 0, 0} << 6 << 0.9F << QVector<int>{3};
-    // The step half a template behind is neither taken nor looked at.
-    QTest::newRow("skipped step") << QVector<float>{1, 0, 1, 1} << 4 << 0.5F << QVector<int>{0, 3};
-    QTest::newRow("only the maximum")
-        << QVector<float>{0.999F, 1, 0.999F} << 2 << 1.0F << QVector<int>{1};
-    QTest::newRow("all at 0, none excluded")
-        << QVector<float>{excluded, 0, 0, excluded, 0} << 2 << 0.0F << QVector<int>{1, 4};
-    QTest::newRow("one sample") << QVector<float>{1, 1, 1} << 1 << 0.5F << QVector<int>{0, 1, 2};
-    QTest::newRow("longer than the data")
-        << QVector<float>{1, 0, 1} << 90 << 0.5F << QVector<int>{2};
-    QTest::newRow("no signal") << QVector<float>{1, 1, 1} << 0 << 0.5F << QVector<int>{};
-}
-
-void TestMatchExtraction::findsCenters()
-{
-    QFETCH(QVector<float>, values);
-    QFETCH(int, width);
-    QFETCH(float, threshold);
-    QFETCH(QVector<int>, centers);
-    Confidences results(std::vector<std::vector<float>>{{values.begin(), values.end()}});
-    const CenterPoints found = computeCenterPoints(results.Get(), {width}, threshold);
-    QCOMPARE(QVector<int>(found[0].begin(), found[0].end()), centers);
-}
 
 void TestMatchExtraction::agreesWithAWalkOverFlags()
 {

@@ -16,34 +16,43 @@ MatchPositionsBox::MatchPositionsBox(DataSet* dataSet, QWidget* parent)
       m_ColorMap(new LinearColorMapWidget), m_ThresholdMap(new ThresholdMap)
 {
     setTitle(tr("Match Positions"));
-    auto* attributes = new AttributeBox(dataSet, tr("The attribute that plot and maps show"));
-    attributes->setMaximumWidth(200);
-    connect(attributes, QOverload<int>::of(&QComboBox::activated), this,
-            &MatchPositionsBox::showAttribute);
     m_Plot->setMinimumHeight(150);
     m_Plot->SetDataSet(dataSet);
     m_Plot->SetRightMargin(MapAlignedMargin);
-    m_ColorMap->setFixedHeight(10);
-    m_ColorMap->setMaximumWidth(150);
-
-    auto* form = new QFormLayout;
-    form->addRow(tr("Data Attribute: "), attributes);
-    auto* legend = new QHBoxLayout;
-    legend->addWidget(new QLabel(tr("Confidence of Matches:")));
-    legend->addWidget(m_ColorMap, 1);
-    legend->addStretch();
     auto* layout = new QVBoxLayout(this);
     // Plot and maps are one picture; and a small screen has to hold them all.
     layout->setSpacing(2);
-    layout->addLayout(form);
+    layout->addLayout(makeAttributeRow());
     layout->addWidget(m_Plot, 1);
-    layout->addLayout(legend);
+    layout->addLayout(makeLegend());
     addMap(new TwoDimensionalHeatMapViz);
     layout->addWidget(new QLabel(tr("Extracted Matches:")));
     addMap(m_ThresholdMap);
     layout->addWidget(new QLabel(tr("Distribution of Extracted Matches:")));
     addMap(new ThresholdMapDistribution);
     showAttribute(0);
+}
+
+QLayout* MatchPositionsBox::makeAttributeRow()
+{
+    auto* attributes = new AttributeBox(m_DataSet, tr("The attribute that plot and maps show"));
+    attributes->setMaximumWidth(200);
+    connect(attributes, QOverload<int>::of(&QComboBox::activated), this,
+            &MatchPositionsBox::showAttribute);
+    auto* form = new QFormLayout;
+    form->addRow(tr("Data Attribute: "), attributes);
+    return form;
+}
+
+QLayout* MatchPositionsBox::makeLegend()
+{
+    m_ColorMap->setFixedHeight(10);
+    m_ColorMap->setMaximumWidth(150);
+    auto* legend = new QHBoxLayout;
+    legend->addWidget(new QLabel(tr("Confidence of Matches:")));
+    legend->addWidget(m_ColorMap, 1);
+    legend->addStretch();
+    return legend;
 }
 
 void MatchPositionsBox::addMap(ResultMapWidget* map)

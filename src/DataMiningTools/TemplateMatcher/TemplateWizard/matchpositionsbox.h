@@ -32,6 +32,8 @@ signals:
     void ItemsRemoved();
 
 private:
+    QLayout* makeAttributeRow();
+    QLayout* makeLegend();
     void addMap(ResultMapWidget* map);
     void showAttribute(int attribute);
 

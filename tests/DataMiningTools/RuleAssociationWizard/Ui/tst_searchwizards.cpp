@@ -3,7 +3,6 @@
 #include "modalscript.h"
 #include "mousedrag.h"
 #include "resizewizardpage.h"
-#include "resultsearchoptiondialog.h"
 #include "ruleassociationwizard.h"
 #include "segmentresizewidget.h"
 #include "segmenttext.h"
@@ -112,13 +111,11 @@ private slots:
     void comparisonsReadTrue_data();
     void comparisonsReadTrue();
     void insertsRuns();
-    void refinesResults();
     void rejectsMatches();
     void insertsWhatFollows();
     void searchesNothing();
     void tellsOfCrossedBoundaries();
     void keepsEndsOutOfView();
-    void asksForMode();
 };
 
 void TestSearchWizards::comparisonsReadTrue_data()
@@ -195,24 +192,6 @@ void TestSearchWizards::insertsRuns()
     finish(wizard);
     QCOMPARE(wizard.result(), int(QDialog::Accepted));
     QCOMPARE(ToText(cuts), QStringLiteral("(0,4) L(4,6) (6,6) R(6,8) (8,10) R(10,12) (12,13)"));
-}
-
-void TestSearchWizards::refinesResults()
-{
-    const auto data = MakeColumn({9, 9, 9, 9, 1, 9, 9, 9, 9, 9});
-    CutCollection cuts;
-    MakeCuts(cuts, "3 7R 8 9R 10");
-    for (const char* end : {"Cancel", "Finish"}) {
-        QCOMPARE(ToText(cuts), QStringLiteral("(0,3) R(3,7) (7,8) R(8,9) (9,10)"));
-        ThresholdWizard wizard(data.get(), &cuts, CutSegment::SEGMENT_RESULT);
-        wizard.show();
-        next(wizard);
-        addParameter(wizard, "attribute > value", "2");
-        QCOMPARE(extract(wizard), QStringLiteral("1"));
-        next(wizard);
-        ClickButton(&wizard, QLatin1String(end));
-    }
-    QCOMPARE(ToText(cuts), QStringLiteral("(0,5) R(5,6) (6,10)"));
 }
 
 void TestSearchWizards::rejectsMatches()
@@ -354,21 +333,6 @@ void TestSearchWizards::keepsEndsOutOfView()
     QCOMPARE(cuts.CountSegments(CutSegment::SEGMENT_RESULT), 5000);
     QVERIFY(ToText(cuts).startsWith(QLatin1String("(0,2) R(2,8) (8,11) R(11,18) (18,22) R(22,")));
     QVERIFY(ToText(cuts).endsWith(QLatin1String("R(49995,49998) (49998,50000)")));
-}
-
-void TestSearchWizards::asksForMode()
-{
-    ResultSearchOptionDialog dialog;
-    const auto answer = [&](const char* button) {
-        dialog.show();
-        ClickButton(&dialog, QLatin1String(button));
-        return dialog.result() == QDialog::Accepted ? dialog.GetSearchMode() : -1;
-    };
-    QCOMPARE(answer("Refine Results"), 2);
-    QCOMPARE(answer("Search Unlabeled Data"), 1);
-    dialog.show();
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-    QCOMPARE(dialog.result(), int(QDialog::Rejected));
 }
 
 QTEST_MAIN(TestSearchWizards)
