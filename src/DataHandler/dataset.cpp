@@ -131,6 +131,8 @@ void DataSet::ComputeRanges()
 {
     m_RawMin.resize(size_t(m_AttributeCount));
     m_RawMax.resize(size_t(m_AttributeCount));
+    // Taking a range waits for the memory, which serves several processors at once.
+#pragma omp parallel for schedule(dynamic)
     for (int attribute = 0; attribute < m_AttributeCount; ++attribute) {
         StoredColumn& column = m_Store.GetColumn(attribute);
         column.Update();

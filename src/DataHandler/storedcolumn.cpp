@@ -1,5 +1,7 @@
 #include "storedcolumn.h"
 
+#include <atomic>
+
 DataColumn& StoredColumn::ChangeValues()
 {
     m_HasChanged = true;
@@ -19,7 +21,7 @@ void StoredColumn::Update()
 
 quint64 StoredColumn::nextVersion()
 {
-    static quint64 version = 0;
+    static std::atomic<quint64> version = 0;
     return ++version;
 }
 

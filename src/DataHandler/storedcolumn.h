@@ -21,7 +21,8 @@ public:
     }
     /// For whoever changes many values or their number.
     DataColumn& ChangeValues();
-    /// Takes the range anew when values have changed since the last time.
+    /// Takes the range anew when values have changed since the last time. Several columns may be
+    /// updated at the same time.
     void Update();
     /// As of the last Update.
     const ValueRange& GetRange() const { return m_Range; }
