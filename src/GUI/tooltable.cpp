@@ -10,6 +10,7 @@
 #include "labeleddatatabwidget.h"
 #include "mainwindow.h"
 #include "mergelabelsdialog.h"
+#include "nodestatswidget.h"
 #include "resultwidget.h"
 #include <QApplication>
 
@@ -105,6 +106,8 @@ Tools recordingTools(MainWindow* window)
          with(window, RunMergeLabels)},
         {menu, text("Data Table"), "icons/Table.png", Tool::RECORDING, Tool::IN_MENU,
          with(window, ShowDataTable)},
+        {menu, text("Data Statistics"), "icons/Stats2.png", Tool::RECORDING, Tool::PALETTE_ONLY,
+         with(window, ShowDataStatistics)},
     };
 }
 

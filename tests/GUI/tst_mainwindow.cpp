@@ -321,9 +321,7 @@ void TestMainWindow::cutNeedsDataAndSelection()
     DragMouse(*m_Plot, {200, 50}, {400, 60});
     QTest::keyClick(m_Plot, Qt::Key_C);
     QVERIFY(m_Plot->grab().toImage() != uncut);
-    int from = 0;
-    int to = 0;
-    QVERIFY(!m_Plot->GetSelectedRange(from, to));
+    QVERIFY(!m_Plot->GetSelectedRange());
 }
 
 void TestMainWindow::graphRequests_data()
@@ -430,6 +428,7 @@ void TestMainWindow::paletteFindsTools()
     find("mergeg", "Merge Graph", "Open a data file first");
     import(20);
     find("table", "Data Table", "Tools");
+    find("statis", "Data Statistics", "Tools");
     find("rotvec", "Rotate Vector", "Tools > Derive Attributes");
     {
         ModalScript user;

@@ -4,6 +4,7 @@
 #include "attributebox.h"
 #include "dataset.h"
 #include "filewriter.h"
+#include "modaldialog.h"
 #include "rangestatistics.h"
 #include "runexport.h"
 #include "statisticsform.h"
@@ -78,4 +79,9 @@ void NodeStatsWidget::exportData()
     if (result == EXPORT_FAILED)
         ShowUserError(this, tr("Error writing file"),
                       tr("Error writing file: ") + writer.GetError());
+}
+
+void ShowDataStatistics(const SharedRecording& recording, QWidget* parent)
+{
+    ModalDialog<NodeStatsWidget>(recording->GetDataSet(), parent).Run();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "liverecording.h"
 #include <QDialog>
 
 class AttributeBox;
@@ -34,3 +35,6 @@ private:
     QLineEdit* m_Maximum = nullptr;
     QLineEdit* m_Mean = nullptr;
 };
+
+/// Shows the dialog for all rows of a recording.
+void ShowDataStatistics(const SharedRecording& recording, QWidget* parent);
