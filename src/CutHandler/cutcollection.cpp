@@ -301,14 +301,12 @@ CutSegment* CutCollection::newSegment(int from, int to)
     return m_Owned.back().get();
 }
 
-bool ResizeLimits(const CutCollection& cuts, const CutSegment* segment, int rows, int& from,
-                  int& to)
+std::optional<RowSpan> ResizeLimits(const CutCollection& cuts, const CutSegment* segment, int rows)
 {
     const int index = cuts.IndexOf(segment);
     const int last = cuts.GetSegmentCount() - 1;
     if (index == -1 || last < 1)
-        return false;
-    from = index == 0 ? 0 : cuts.GetSegment(index - 1)->GetFrom();
-    to = index == last ? rows : cuts.GetSegment(index + 1)->GetTo();
-    return true;
+        return std::nullopt;
+    return RowSpan{index == 0 ? 0 : cuts.GetSegment(index - 1)->GetFrom(),
+                   index == last ? rows : cuts.GetSegment(index + 1)->GetTo()};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cutsegment.h"
+#include "rowspan.h"
 #include "segmentlist.h"
 #include <QList>
 #include <QPair>
@@ -107,6 +108,5 @@ private:
 
 /// The rows between which a segment can be moved without leaving a neighbour behind: from the
 /// start of the one on its left, or row 0, to the end of the one on its right, or the number of
-/// rows. False for a segment not in the list or alone in it.
-bool ResizeLimits(const CutCollection& cuts, const CutSegment* segment, int rows, int& from,
-                  int& to);
+/// rows. None for a segment not in the list or alone in it.
+std::optional<RowSpan> ResizeLimits(const CutCollection& cuts, const CutSegment* segment, int rows);

@@ -236,16 +236,14 @@ void MainWindow::showCommandPalette()
 
 QString MainWindow::obstacleOf(const Tool& tool) const
 {
-    int row = 0;
-    int end = 0;
-    const bool hasRows = m_LinePlot->GetSelectedRange(row, end) && row < end;
+    const bool hasRows = !m_LinePlot->GetSelectedRange().value_or(RowSpan()).IsEmpty();
     if (tool.m_Condition == Tool::NOTHING)
         return {};
     if (!m_Recording)
         return tr("Open a data file first");
     if (tool.m_Condition == Tool::SELECTED_ROWS && !hasRows)
         return tr("Drag over rows of the graph first");
-    if (tool.m_Condition == Tool::SELECTED_SEGMENT && !hasRows && !m_LinePlot->GetSelectedRow(row))
+    if (tool.m_Condition == Tool::SELECTED_SEGMENT && !hasRows && !m_LinePlot->GetSelectedRow())
         return tr("Drag over rows of the graph or right-click a segment first");
     if (tool.m_Condition == Tool::BEHAVIOR &&
         m_Recording->GetLabelCollection()->GetLabelCount() == 0)

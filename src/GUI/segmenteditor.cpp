@@ -15,14 +15,12 @@ void SegmentEditor::Cut(LiveRecording* recording)
 {
     if (!checkRecording(recording))
         return;
-    int from = 0;
-    int to = 0;
-    if (m_Plot->GetSelectedRange(from, to)) {
-        recording->GetCutCollection()->InsertCut(from, to, CutSegment::SEGMENT_CUT);
-        qCDebug(lcSegments) << "from index: " << from;
-        qCDebug(lcSegments) << "to index: " << to;
-    } else if (m_Plot->GetSelectedRow(from)) {
-        recording->GetCutCollection()->InsertCut(from, CutSegment::SEGMENT_CUT);
+    if (const auto rows = m_Plot->GetSelectedRange()) {
+        recording->GetCutCollection()->InsertCut(rows->m_From, rows->m_To, CutSegment::SEGMENT_CUT);
+        qCDebug(lcSegments) << "from index: " << rows->m_From;
+        qCDebug(lcSegments) << "to index: " << rows->m_To;
+    } else if (const auto row = m_Plot->GetSelectedRow()) {
+        recording->GetCutCollection()->InsertCut(*row, CutSegment::SEGMENT_CUT);
     } else {
         showInvalidSelection();
         return;
@@ -35,13 +33,12 @@ void SegmentEditor::Merge(LiveRecording* recording)
 {
     if (!checkRecording(recording))
         return;
-    int from = 0;
-    int to = 0;
-    if (!m_Plot->GetSelectedRange(from, to)) {
+    const std::optional<RowSpan> rows = m_Plot->GetSelectedRange();
+    if (!rows) {
         showInvalidSelection();
         return;
     }
-    recording->GetCutCollection()->MergeCuts(from, to);
+    recording->GetCutCollection()->MergeCuts(rows->m_From, rows->m_To);
     // Labelled segments may be among those that are gone.
     recording->TellLabels();
 }
@@ -50,34 +47,33 @@ void SegmentEditor::Delete(LiveRecording* recording)
 {
     if (!checkRecording(recording))
         return;
-    bool isSelected = false;
-    const QList<CutSegment*> segments = findSegments(*recording, isSelected);
-    if (!isSelected)
+    const std::optional<QList<CutSegment*>> segments = findSelected(*recording);
+    if (!segments)
         showInvalidSelection();
-    if (segments.isEmpty())
+    if (!segments || segments->isEmpty())
         return;
     const LiveRecording::Hold hold(recording);
-    recording->GetLabelling().Unlabel(segments);
-    if (!recording->GetLabelling().Reject(segments).IsEmpty())
+    recording->GetLabelling().Unlabel(*segments);
+    if (!recording->GetLabelling().Reject(*segments).IsEmpty())
         qCDebug(lcSegments) << "Removing currently labeling";
     recording->TellLabels();
 }
 
-QList<CutSegment*> SegmentEditor::findSegments(LiveRecording& recording, bool& isSelected) const
+// The segments of what is selected, none when nothing is.
+std::optional<QList<CutSegment*>> SegmentEditor::findSelected(LiveRecording& recording) const
 {
-    int from = 0;
-    int to = 0;
-    isSelected = true;
-    if (m_Plot->GetSelectedRange(from, to))
-        return recording.GetCutCollection()->GetSegments(from, to);
-    isSelected = m_Plot->GetSelectedRow(from);
-    CutSegment* segment = isSelected ? findSelected(recording, from) : nullptr;
-    if (isSelected && !segment)
-        qCDebug(lcSegments) << "No cut found";
-    return segment ? QList<CutSegment*>{segment} : QList<CutSegment*>();
+    if (const auto rows = m_Plot->GetSelectedRange())
+        return recording.GetCutCollection()->GetSegments(rows->m_From, rows->m_To);
+    const std::optional<int> row = m_Plot->GetSelectedRow();
+    if (!row)
+        return std::nullopt;
+    if (CutSegment* segment = findSegment(recording, *row))
+        return QList<CutSegment*>{segment};
+    qCDebug(lcSegments) << "No cut found";
+    return QList<CutSegment*>();
 }
 
-CutSegment* SegmentEditor::findSelected(LiveRecording& recording, int row) const
+CutSegment* SegmentEditor::findSegment(LiveRecording& recording, int row) const
 {
     int index = 0;
     return recording.GetCutCollection()->FindSegment(row, index);
@@ -87,12 +83,12 @@ void SegmentEditor::Move(LiveRecording* recording)
 {
     if (!checkRecording(recording))
         return;
-    int row = 0;
-    if (!m_Plot->GetSelectedRow(row)) {
+    const std::optional<int> row = m_Plot->GetSelectedRow();
+    if (!row) {
         showInvalidSelection();
         return;
     }
-    CutSegment* segment = findSelected(*recording, row);
+    CutSegment* segment = findSegment(*recording, *row);
     if (!segment)
         return;
     ModalDialog<BehaviorSelectionDialog> dialog(m_Window);
@@ -108,61 +104,55 @@ void SegmentEditor::Move(LiveRecording* recording)
     recording->TellLabels();
 }
 
-bool SegmentEditor::findRows(LiveRecording* recording, int& from, int& to)
+std::optional<RowSpan> SegmentEditor::findRows(LiveRecording* recording)
 {
     if (!checkRecording(recording))
-        return false;
-    if (m_Plot->GetSelectedRange(from, to) && from < to)
-        return true;
-    int row = 0;
-    const CutSegment* segment =
-        m_Plot->GetSelectedRow(row) ? findSelected(*recording, row) : nullptr;
+        return std::nullopt;
+    const std::optional<RowSpan> rows = m_Plot->GetSelectedRange();
+    if (rows && !rows->IsEmpty())
+        return rows;
+    const std::optional<int> row = m_Plot->GetSelectedRow();
+    const CutSegment* segment = row ? findSegment(*recording, *row) : nullptr;
     if (!segment) {
         showInvalidSelection();
-        return false;
+        return std::nullopt;
     }
-    from = segment->GetFrom();
-    to = segment->GetTo();
-    return true;
+    return RowSpan{segment->GetFrom(), segment->GetTo()};
 }
 
 std::unique_ptr<PatternsDataObject> SegmentEditor::Save(LiveRecording* recording)
 {
-    int from = 0;
-    int to = 0;
-    return findRows(recording, from, to) ? SaveTemplate(m_Window, recording->GetDataSet(), from, to)
-                                         : nullptr;
+    const std::optional<RowSpan> rows = findRows(recording);
+    return rows ? SaveTemplate(m_Window, recording->GetDataSet(), rows->m_From, rows->m_To)
+                : nullptr;
 }
 
 void SegmentEditor::AddTemplate(LiveRecording* recording)
 {
     if (!checkRecording(recording))
         return;
-    int from = 0;
-    int to = 0;
-    if (!m_Plot->GetSelectedRange(from, to) || to <= from) {
+    const RowSpan rows = m_Plot->GetSelectedRange().value_or(RowSpan());
+    if (rows.IsEmpty()) {
         ShowUserError(m_Window, tr("Error - Invalid Selection"),
                       tr("Invalid selection made. Please make a valid selection on the "
                          "time-series graph."));
         return;
     }
-    qCDebug(lcSegments) << "toIndex " << to;
-    SaveTemplate(m_Window, recording->GetDataSet(), from, to);
+    qCDebug(lcSegments) << "toIndex " << rows.m_To;
+    SaveTemplate(m_Window, recording->GetDataSet(), rows.m_From, rows.m_To);
 }
 
 void SegmentEditor::Search(LiveRecording* recording)
 {
-    int from = 0;
-    int to = 0;
-    if (findRows(recording, from, to) &&
-        SearchForRows(m_Window, recording->GetDataSet(), recording->GetCutCollection(), from, to))
+    const std::optional<RowSpan> rows = findRows(recording);
+    if (rows && SearchForRows(m_Window, recording->GetDataSet(), recording->GetCutCollection(),
+                              rows->m_From, rows->m_To))
         recording->TellSegments();
 }
 
 void SegmentEditor::Show(LiveRecording* recording)
 {
-    int row = 0;
-    if (checkRecording(recording) && !m_Plot->GetSelectedRow(row))
+    if (checkRecording(recording) && !m_Plot->GetSelectedRow())
         showInvalidSelection();
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "rowspan.h"
 #include <QCoreApplication>
 #include <QList>
 #include <memory>
+#include <optional>
 
 class CutSegment;
 class CuttableLinePlotWidget;
@@ -40,10 +42,10 @@ public:
     void Show(LiveRecording* recording);
 
 private:
-    bool findRows(LiveRecording* recording, int& from, int& to);
+    std::optional<RowSpan> findRows(LiveRecording* recording);
     bool checkRecording(const LiveRecording* recording);
-    CutSegment* findSelected(LiveRecording& recording, int row) const;
-    QList<CutSegment*> findSegments(LiveRecording& recording, bool& isSelected) const;
+    CutSegment* findSegment(LiveRecording& recording, int row) const;
+    std::optional<QList<CutSegment*>> findSelected(LiveRecording& recording) const;
     void showInvalidSelection();
 
     QWidget* m_Window;

@@ -175,18 +175,15 @@ void TestCutCollection::limitsResizing()
     CutCollection cuts;
     MakeCuts(cuts, "10 20 100");
     const auto limits = [](const CutCollection& collection, const CutSegment* segment) {
-        int from = -1;
-        int to = -1;
-        const bool isMovable = ResizeLimits(collection, segment, 120, from, to);
-        return QVector<int>{isMovable, from, to};
+        return ResizeLimits(collection, segment, 120).value_or(RowSpan{-1, -1});
     };
-    QCOMPARE(limits(cuts, cuts.GetSegment(0)), QVector<int>({1, 0, 20}));
-    QCOMPARE(limits(cuts, cuts.GetSegment(1)), QVector<int>({1, 0, 100}));
-    QCOMPARE(limits(cuts, cuts.GetSegment(2)), QVector<int>({1, 10, 120}));
+    QCOMPARE(limits(cuts, cuts.GetSegment(0)), RowSpan({0, 20}));
+    QCOMPARE(limits(cuts, cuts.GetSegment(1)), RowSpan({0, 100}));
+    QCOMPARE(limits(cuts, cuts.GetSegment(2)), RowSpan({10, 120}));
     CutCollection alone;
     MakeCuts(alone, "10");
-    QCOMPARE(limits(cuts, alone.GetSegment(0)), QVector<int>({0, -1, -1}));
-    QCOMPARE(limits(alone, alone.GetSegment(0)), QVector<int>({0, -1, -1}));
+    QCOMPARE(limits(cuts, alone.GetSegment(0)), RowSpan({-1, -1}));
+    QCOMPARE(limits(alone, alone.GetSegment(0)), RowSpan({-1, -1}));
 }
 
 void TestCutCollection::logsRefusals()

@@ -99,9 +99,7 @@ void TestSegmentEditor::cut()
     m_Editor->Cut(m_Recording.get());
     QTEST(segments(), "expected");
     QTEST(TakeUserErrors().size(), "errors");
-    int first = 0;
-    int last = 0;
-    QVERIFY(!m_Plot->GetSelectedRange(first, last));
+    QVERIFY(!m_Plot->GetSelectedRange());
 }
 
 void TestSegmentEditor::merge()

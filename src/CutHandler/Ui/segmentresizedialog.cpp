@@ -35,9 +35,7 @@ void SegmentResizeDialog::showEvent(QShowEvent* event)
 
 void SegmentResizeDialog::enableSave()
 {
-    int from = 0;
-    int to = 0;
-    m_Save->setEnabled(m_ResizeWidget->GetSelection(from, to));
+    m_Save->setEnabled(m_ResizeWidget->GetSelection().GetLength() >= 0);
     m_Save->setToolTip(m_Save->isEnabled() ? QString()
                                            : tr("The cut must not start behind its end"));
 }

@@ -109,11 +109,9 @@ void SegmentResizeWidget::SetSelection(int from, int to)
     showSelection();
 }
 
-bool SegmentResizeWidget::GetSelection(int& from, int& to) const
+RowSpan SegmentResizeWidget::GetSelection() const
 {
-    from = m_Selection.m_From->value();
-    to = m_Selection.m_To->value();
-    return from <= to;
+    return {m_Selection.m_From->value(), m_Selection.m_To->value()};
 }
 
 void SegmentResizeWidget::SetSelectionFromRange(int from)

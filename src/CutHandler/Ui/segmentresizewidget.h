@@ -1,5 +1,6 @@
 #pragma once
 
+#include "rowspan.h"
 #include <QWidget>
 
 class DataSet;
@@ -23,8 +24,8 @@ public:
     void SetLimits(int from, int to);
     void SetPlotRange(int from, int to);
     void SetSelection(int from, int to);
-    /// The range in the boxes; false when it starts behind its end.
-    bool GetSelection(int& from, int& to) const;
+    /// The range in the boxes, which may start behind its end.
+    RowSpan GetSelection() const;
 
 public slots:
     void SetSelectionFromRange(int from);

@@ -272,33 +272,34 @@ void TableResultWidget::showInTimeSeries(CutSegment* segment)
 
 void TableResultWidget::resizeSegment(CutSegment* segment)
 {
-    int from = segment->GetFrom();
-    int to = segment->GetTo();
-    if (!askForEnds(*segment, from, to))
+    const std::optional<RowSpan> ends = askForEnds(*segment);
+    if (!ends)
         return;
-    m_CutCollection->MoveSegment(m_Model->GetDataSet(), segment, from, to);
+    m_CutCollection->MoveSegment(m_Model->GetDataSet(), segment, ends->m_From, ends->m_To);
     emit RemoveAndAddAll();
 }
 
-bool TableResultWidget::askForEnds(const CutSegment& segment, int& from, int& to)
+std::optional<RowSpan> TableResultWidget::askForEnds(const CutSegment& segment)
 {
     DataSet* dataSet = m_Model->GetDataSet();
-    int first = 0;
-    int last = 0;
-    if (!dataSet || !m_CutCollection ||
-        !ResizeLimits(*m_CutCollection, &segment, dataSet->GetRowCount(), first, last))
-        return false;
+    if (!dataSet || !m_CutCollection)
+        return std::nullopt;
+    const auto limits = ResizeLimits(*m_CutCollection, &segment, dataSet->GetRowCount());
+    if (!limits)
+        return std::nullopt;
     ModalDialog<SegmentResizeDialog> dialog(this);
     SegmentResizeWidget* ends = dialog->GetResizeWidget();
     ends->SetDataSet(dataSet);
     ends->SetAttribute(m_Model->GetAttribute());
-    ends->SetLimits(first, last);
-    ends->SetPlotRange(first, last);
-    ends->SetSelection(from, to);
+    ends->SetLimits(limits->m_From, limits->m_To);
+    ends->SetPlotRange(limits->m_From, limits->m_To);
+    ends->SetSelection(segment.GetFrom(), segment.GetTo());
     // The row, the segment or the recording may have gone meanwhile.
-    return dialog.IsAccepted() && ends->GetSelection(from, to) &&
-           dataSet == m_Model->GetDataSet() && m_CutCollection &&
-           m_CutCollection->Contains(&segment);
+    if (!dialog.IsAccepted() || dataSet != m_Model->GetDataSet() || !m_CutCollection ||
+        !m_CutCollection->Contains(&segment))
+        return std::nullopt;
+    const RowSpan chosen = ends->GetSelection();
+    return chosen.GetLength() >= 0 ? std::optional(chosen) : std::nullopt;
 }
 
 void TableResultWidget::acceptItem(QObject* segment)

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "rowspan.h"
 #include <QPersistentModelIndex>
 #include <QTimer>
 #include <QWidget>
+#include <optional>
 
 class CutCollection;
 class CutSegment;
@@ -76,7 +78,7 @@ private:
     void saveTemplate(CutSegment* segment);
     void showInTimeSeries(CutSegment* segment);
     void resizeSegment(CutSegment* segment);
-    bool askForEnds(const CutSegment& segment, int& from, int& to);
+    std::optional<RowSpan> askForEnds(const CutSegment& segment);
 
     SegmentTableModel* m_Model;
     QTableView* m_Table;

@@ -58,22 +58,20 @@ void CuttableLinePlotWidget::SetDataSet(DataSet* dataSet)
     PlotAreaWidget::SetDataSet(dataSet);
 }
 
-bool CuttableLinePlotWidget::GetSelectedRange(int& from, int& to) const
+std::optional<RowSpan> CuttableLinePlotWidget::GetSelectedRange() const
 {
     const TimeAxis* axis = GetTimeAxis();
     if (!axis || !m_Selection.IsValid())
-        return false;
-    from = axis->ToIndex(float(m_Selection.m_Start));
-    to = axis->ToIndex(float(m_Selection.m_End));
-    return true;
+        return std::nullopt;
+    return RowSpan{axis->ToIndex(float(m_Selection.m_Start)),
+                   axis->ToIndex(float(m_Selection.m_End))};
 }
 
-bool CuttableLinePlotWidget::GetSelectedRow(int& row) const
+std::optional<int> CuttableLinePlotWidget::GetSelectedRow() const
 {
     if (m_SelectedIndex < 0)
-        return false;
-    row = m_ShowLabeled ? m_SelectedIndex : computeAdjustedTimePosition(m_SelectedIndex);
-    return true;
+        return std::nullopt;
+    return m_ShowLabeled ? m_SelectedIndex : computeAdjustedTimePosition(m_SelectedIndex);
 }
 
 int CuttableLinePlotWidget::computeAdjustedTimePosition(int index) const
@@ -303,10 +301,8 @@ bool CuttableLinePlotWidget::canRemoveLabel(const CutSegment& segment) const
 
 void CuttableLinePlotWidget::zoomOnSelection(const CutSegment&)
 {
-    int from = 0;
-    int to = 0;
-    if (GetSelectedRange(from, to))
-        emit ZoomOnRegion(from, to);
+    if (const auto rows = GetSelectedRange())
+        emit ZoomOnRegion(rows->m_From, rows->m_To);
 }
 
 void CuttableLinePlotWidget::openPlot(const CutSegment& segment)
@@ -367,14 +363,14 @@ void CuttableLinePlotWidget::paintTimeAxis(QPainter& painter) const
 
 void CuttableLinePlotWidget::paintSelection(QPainter& painter) const
 {
-    int from = 0;
-    int to = 0;
-    if (!GetSelectedRange(from, to))
+    const std::optional<RowSpan> rows = GetSelectedRange();
+    if (!rows)
         return;
     m_Selection.Paint(painter, height());
     painter.setPen(Qt::black);
-    painter.drawText(QPointF(m_Selection.m_End + 5, 10),
-                     QString(QString::number(to - from) % QStringLiteral(" Items Selected")));
+    painter.drawText(
+        QPointF(m_Selection.m_End + 5, 10),
+        QString(QString::number(rows->GetLength()) % QStringLiteral(" Items Selected")));
 }
 
 void CuttableLinePlotWidget::paintOverlay(QPainter& painter) const

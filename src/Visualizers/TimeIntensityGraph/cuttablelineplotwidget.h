@@ -24,10 +24,10 @@ public:
     void SetDataSet(DataSet* dataSet) override;
     void SetLabelCollection(LabelCollection* labels) { m_LabelCollection = labels; }
 
-    /// The rows of the dragged range, from above to for a drag to the left; false without one.
-    bool GetSelectedRange(int& from, int& to) const;
-    /// The row of the last click; false without one.
-    bool GetSelectedRow(int& row) const;
+    /// The rows of the dragged range, from above to for a drag to the left; none without one.
+    std::optional<RowSpan> GetSelectedRange() const;
+    /// The row of the last click; none without one.
+    std::optional<int> GetSelectedRow() const;
     /// The row behind a row's place when labelled segments are collapsed to blocks.
     int computeAdjustedTimePosition(int index) const;
 

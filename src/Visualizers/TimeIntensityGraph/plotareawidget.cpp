@@ -68,11 +68,11 @@ int PlotAreaWidget::PlotHeight() const
     return (height() - 1 - plotGap * count - 4) / count;
 }
 
-bool PlotAreaWidget::GetRange(int& from, int& to) const
+std::optional<RowSpan> PlotAreaWidget::GetRange() const
 {
-    from = m_From;
-    to = m_To;
-    return from != -1 && to != -1 && from != to;
+    if (m_From == -1 || m_To == -1 || m_From == m_To)
+        return std::nullopt;
+    return RowSpan{m_From, m_To};
 }
 
 std::unique_ptr<LinePlot> PlotAreaWidget::makePlot(int attribute)
@@ -99,10 +99,8 @@ void PlotAreaWidget::AddPlot(double* values, int size, const QString& name)
 void PlotAreaWidget::appendPlot(std::unique_ptr<LinePlot> plot)
 {
     m_Plots.push_back(std::move(plot));
-    int from = 0;
-    int to = 0;
-    if (GetRange(from, to))
-        m_Plots.back()->SetRange(from, to);
+    if (const auto rows = GetRange())
+        m_Plots.back()->SetRange(rows->m_From, rows->m_To);
     repaintAll();
 }
 

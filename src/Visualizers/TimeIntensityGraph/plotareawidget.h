@@ -5,6 +5,7 @@
 #include <QPixmap>
 #include <QWidget>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class CutCollection;
@@ -42,8 +43,8 @@ public:
     int PlotHeight() const;
     int GetPlotCount() const { return int(m_Plots.size()); }
     LinePlot* GetPlot(int index) const { return m_Plots[size_t(index)].get(); }
-    /// False when there is no stored range, or an empty one.
-    bool GetRange(int& from, int& to) const;
+    /// None when there is no stored range, or an empty one.
+    std::optional<RowSpan> GetRange() const;
 
     int GetTileCount() const { return int(m_Tiles.size()); }
     /// Null for a tile that has not been needed yet.

@@ -70,10 +70,10 @@ void TestSegmentDialogs::resizes()
     QCOMPARE(boxes.size(), 4);
     auto* plot = widget->findChild<SelectionPlotAreaWidget*>();
     const auto plotRows = [&] {
-        int shown[4] = {};
-        plot->GetPlot(0)->GetRange(shown[0], shown[1]);
-        plot->GetSelection(shown[2], shown[3]);
-        return QVector<int>(std::begin(shown), std::end(shown));
+        const RowSpan shown = plot->GetPlot(0)->GetRange();
+        RowSpan selected;
+        plot->GetSelection(selected.m_From, selected.m_To);
+        return QVector<int>({shown.m_From, shown.m_To, selected.m_From, selected.m_To});
     };
     QCOMPARE(plotRows(), QVector<int>({20, 90, 10, 60}));
     type(boxes[0], "30");
@@ -86,11 +86,7 @@ void TestSegmentDialogs::resizes()
     QCOMPARE(plotRows(), QVector<int>({25, 80, 30, 50}));
     ClickButton(&dialog, QStringLiteral("Save"));
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    int from = 0;
-    int to = 0;
-    QVERIFY(widget->GetSelection(from, to));
-    QCOMPARE(from, 30);
-    QCOMPARE(to, 50);
+    QCOMPARE(widget->GetSelection(), RowSpan({30, 50}));
 }
 
 void TestSegmentDialogs::refusesCrossedEnds()

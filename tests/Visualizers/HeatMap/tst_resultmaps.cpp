@@ -185,11 +185,9 @@ void TestResultMaps::opensAPlotOfASpan()
     QVERIFY(dialog);
     QCOMPARE(dialog->windowTitle(), QStringLiteral("Line Plot"));
     QCOMPARE(dialog->size(), QSize(600, 300));
-    int from = 0;
-    int to = 0;
-    dialog->findChild<LinePlotWidget*>()->GetRange(from, to);
-    QCOMPARE(from, int(60 / ((mapWidth - 39.0) / steps)));
-    QCOMPARE(to, int(160 / ((mapWidth - 39.0) / steps)) + 1);
+    const double stepWidth = (mapWidth - 39.0) / steps;
+    QCOMPARE(dialog->findChild<LinePlotWidget*>()->GetRange(),
+             RowSpan({int(60 / stepWidth), int(160 / stepWidth) + 1}));
     QCOMPARE(map.GetRemovedSteps(), QList<int>());
     // The other button does not take a band over.
     QTest::mousePress(&map, Qt::LeftButton, {}, {100, 10});

@@ -76,41 +76,35 @@ void TestCuttableLinePlotWidget::drag(int from, int to)
 
 void TestCuttableLinePlotWidget::selectionEnds()
 {
-    int from = 0;
-    int to = 0;
     drag(141, 345);
     QTest::mousePress(m_Widget, Qt::RightButton, {}, {200, 50});
-    QVERIFY(m_Widget->GetSelectedRange(from, to));
+    QVERIFY(m_Widget->GetSelectedRange());
     m_Widget->ClearSelection();
-    QVERIFY(!m_Widget->GetSelectedRange(from, to));
+    QVERIFY(!m_Widget->GetSelectedRange());
     drag(141, 345);
     m_Widget->ResizePlots(1200, 200);
-    QVERIFY(!m_Widget->GetSelectedRange(from, to));
+    QVERIFY(!m_Widget->GetSelectedRange());
 }
 
 void TestCuttableLinePlotWidget::keys()
 {
-    int row = -1;
     QSignalSpy cuts(m_Widget, &CuttableLinePlotWidget::CutRequested);
     QTest::keyClick(m_Widget, Qt::Key_C);
     QCOMPARE(cuts.count(), 1);
     QTest::keyClick(m_Widget, Qt::Key_Right);
-    QVERIFY(m_Widget->GetSelectedRow(row));
-    QCOMPARE(row, 4);
+    QCOMPARE(m_Widget->GetSelectedRow().value_or(-1), 4);
     QTest::keyClick(m_Widget, Qt::Key_Left);
-    QVERIFY(m_Widget->GetSelectedRow(row));
-    QCOMPARE(row, 0);
+    QCOMPARE(m_Widget->GetSelectedRow().value_or(-1), 0);
     for (int i = 0; i < 40; ++i)
         QTest::keyClick(m_Widget, Qt::Key_Right);
-    QVERIFY(m_Widget->GetSelectedRow(row));
-    QCOMPARE(row, 97);
+    QCOMPARE(m_Widget->GetSelectedRow().value_or(-1), 97);
     drag(141, 345);
     QSignalSpy deletions(m_Widget, &CuttableLinePlotWidget::DeleteActionRequested);
     QTest::keyClick(m_Widget, Qt::Key_Delete);
     QCOMPARE(deletions.count(), 1);
     QTest::keyClick(m_Widget, Qt::Key_Right);
     QTest::keyClick(m_Widget, Qt::Key_Escape);
-    QVERIFY(!m_Widget->GetSelectedRow(row) && !m_Widget->GetSelectedRange(row, row));
+    QVERIFY(!m_Widget->GetSelectedRow() && !m_Widget->GetSelectedRange());
 }
 
 void TestCuttableLinePlotWidget::adjustedPosition()
@@ -179,19 +173,14 @@ void TestCuttableLinePlotWidget::menuEffects()
             window = plot;
     }
     QVERIFY(window && window->isVisible());
-    int from = 0;
-    int to = 0;
-    window->GetRange(from, to);
-    QCOMPARE(std::make_pair(from, to), std::make_pair(30, 60));
+    QCOMPARE(window->GetRange(), RowSpan({30, 60}));
     window->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!window);
     // The menu selects the row under the pointer; hidden labels move it.
-    QVERIFY(m_Widget->GetSelectedRow(from));
-    QCOMPARE(from, 38);
+    QCOMPARE(m_Widget->GetSelectedRow().value_or(-1), 38);
     m_Widget->ShowLabeledData(false);
-    QVERIFY(m_Widget->GetSelectedRow(from));
-    QCOMPARE(from, 48);
+    QCOMPARE(m_Widget->GetSelectedRow().value_or(-1), 48);
 
     QSignalSpy saves(m_Widget, &Graph::SaveActionRequested);
     QSignalSpy searches(m_Widget, &Graph::SearchActionRequested);
@@ -299,9 +288,7 @@ void TestCuttableLinePlotWidget::acceptsNulls()
     m_Widget->grab();
     QTest::keyClick(m_Widget, Qt::Key_Right);
     drag(141, 345);
-    int from = 0;
-    int to = 0;
-    QVERIFY(!m_Widget->GetSelectedRange(from, to));
+    QVERIFY(!m_Widget->GetSelectedRange());
     QVERIFY(menuTexts({200, 50}).isEmpty());
 }
 

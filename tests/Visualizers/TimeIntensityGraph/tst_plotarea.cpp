@@ -194,16 +194,14 @@ void TestPlotArea::plotsARange()
 {
     AreaScene<PlotAreaWidget> scene(100);
     PlotAreaWidget& widget = scene.m_Area;
-    int from = 0;
-    int to = 0;
-    QVERIFY(!widget.GetRange(from, to));
+    QVERIFY(!widget.GetRange());
     widget.PlotDataRange(20, 31);
     QCOMPARE(widget.GetTimeAxis()->GetLastIndex(), 10);
     widget.ClearAndAddPlot(0);
-    QVERIFY(widget.GetRange(from, to));
+    QVERIFY(widget.GetRange());
     QCOMPARE(widget.GetTimeAxis()->GetLastIndex(), 10);
     widget.PlotDataRange(5, 5);
-    QVERIFY(!widget.GetRange(from, to));
+    QVERIFY(!widget.GetRange());
     double values[] = {1, 2, 3};
     widget.AddPlot(values, 3, QStringLiteral("array"));
     widget.ClearPlotRange();

@@ -70,7 +70,12 @@ Selecting makeGraph(DataSet& data)
     graph->SetDataSet(&data);
     graph->ResizePlots(1495, 200);
     graph->AddPlot(0);
-    return {graph, [graph](int& from, int& to) { return graph->GetSelectedRange(from, to); }};
+    return {graph, [graph](int& from, int& to) {
+                const std::optional<RowSpan> rows = graph->GetSelectedRange();
+                from = rows.value_or(RowSpan()).m_From;
+                to = rows.value_or(RowSpan()).m_To;
+                return rows.has_value();
+            }};
 }
 } // namespace
 

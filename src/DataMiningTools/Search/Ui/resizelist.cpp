@@ -159,7 +159,7 @@ void ResizeList::storeEnds(const SegmentResizeWidget* resize)
     for (const auto& item : m_Items) {
         RowSpan& rows = m_Matches[item.first].m_Rows;
         if (item.second.m_Resize == resize)
-            resize->GetSelection(rows.m_From, rows.m_To);
+            rows = resize->GetSelection();
     }
 }
 

@@ -40,14 +40,7 @@ void AmplitudeLine::SetRange(int from, int to)
     m_To = to;
 }
 
-void AmplitudeLine::GetRange(int& from, int& to) const
-{
-    const RowSpan rows = getRange();
-    from = rows.m_From;
-    to = rows.m_To;
-}
-
-RowSpan AmplitudeLine::getRange() const
+RowSpan AmplitudeLine::GetRange() const
 {
     const int count = m_DataSet ? m_DataSet->GetRowCount() : m_ArraySize;
     if (m_From == -1 || m_To == -1)
@@ -71,7 +64,7 @@ void AmplitudeLine::PaintDataSet(QPainter& painter)
 {
     if (m_Color.isValid())
         m_Color.setAlphaF(m_Alpha);
-    const RowSpan rows = getRange();
+    const RowSpan rows = GetRange();
     painter.setPen(FastPen(painter, m_Color, double(m_PenWidth)));
     paintRows(painter, rows, rows.m_From);
 }

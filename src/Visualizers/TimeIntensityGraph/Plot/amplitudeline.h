@@ -41,13 +41,12 @@ public:
     /// Rows from up to, but without, to; -1 in either means all.
     void SetRange(int from, int to);
     /// The rows that are painted: the range, cut to the rows that exist.
-    void GetRange(int& from, int& to) const;
+    RowSpan GetRange() const;
 
 protected:
     /// The line through these rows, with row origin at the axis start. Rows that the painter cannot
     /// show are left out.
     void paintRows(QPainter& painter, const RowSpan& rows, int origin) const;
-    RowSpan getRange() const;
 
     int m_AttributeId;
     DataSet* m_DataSet = nullptr;

@@ -13,7 +13,7 @@ void CuttableAmplitudeLine::PaintDataSet(QPainter& painter)
 {
     const int rows = m_DataSet->GetRowCount();
     m_TimeAxis->SetNumberOfPoints(rows);
-    const RowSpan range = getRange();
+    const RowSpan range = GetRange();
     painter.setPen(FastPen(painter, Qt::black, 0.5));
     paintRows(painter, {range.m_From, std::min(range.m_To + 1, rows - 1)}, 0);
 }

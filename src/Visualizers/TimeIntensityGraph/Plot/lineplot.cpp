@@ -112,12 +112,6 @@ void LinePlot::SetRange(int from, int to)
     m_TimeAxis->SetNumberOfPoints(to - from);
 }
 
-void LinePlot::GetRange(int& from, int& to) const
-{
-    from = m_From;
-    to = m_To;
-}
-
 void LinePlot::SetSize(float height, float width)
 {
     m_Height = height;

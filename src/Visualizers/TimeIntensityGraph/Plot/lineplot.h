@@ -2,6 +2,7 @@
 
 #include "attributelook.h"
 #include "plotmargin.h"
+#include "rowspan.h"
 #include <QString>
 #include <memory>
 
@@ -40,7 +41,7 @@ public:
     void ResetAxis();
     void SetRange(int from, int to);
     /// -1 in both until there is data.
-    void GetRange(int& from, int& to) const;
+    RowSpan GetRange() const { return {m_From, m_To}; }
 
     void SetSize(float height, float width);
     void SetHeight(float height);
