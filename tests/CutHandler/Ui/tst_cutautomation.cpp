@@ -113,14 +113,15 @@ void TestCutAutomation::dialogs_data()
         "PIP Cut\n<h2>Perceptually Important Points (PIP) Cuts</h2>=\nAttribute=A|B\n"
         "Distance Measure=Euclidean Distance|Vertical Distance|Perpendicular Distance\n"
         "Stopping Parameter=Number Partitions|Minimum Distance|Partition and Distance\n"
-        "Minimum Distance=0.00|99.99\nNumber Partitions=0|99");
+        "Minimum Distance=0.000000|100258\nNumber Partitions=0|120");
     row("periodic", PERIODIC, "Periodic Cuts\n<h2>Peroidic Cuts</h2>=\nCut Size=0|1000");
     row("sharp transitions", SHARP_TRANSITIONS,
         "\n<h2>Local Variance</h2>=\nX Acc Attribute=A|B\nY Acc Attribute=A|B\n"
         "Z Acc Attribute=A|B\nSmoothing Window=10|120\nSmoothing Window Overlap=5|120\n"
-        "Variance Window Size=100|120\nVariance Threshold=0.10|99.99");
+        "Variance Window Size=100|120\nVariance Threshold=0.100000|2500900081");
     row("extrema", MINIMA_MAXIMA,
-        "\n<h2>Local Minima / Maxima Cuts</h2>=\nAttribute=A|B\nPersistance=0.00|99.99");
+        "\n<h2>Local Minima / Maxima Cuts</h2>=\nAttribute=A|B\n"
+        "Persistance=0.000000|50009");
 }
 
 // Each shows what it should, has the focus in its first field, and Cancel leaves all as it was.
@@ -128,7 +129,7 @@ void TestCutAutomation::dialogs()
 {
     QFETCH(int, method);
     QFETCH(QString, texts);
-    const auto data = MakeDataSet(QByteArray("1 2\n5 1\n").repeated(60).constData());
+    const auto data = MakeDataSet(QByteArray("1 -9\n5 50000\n").repeated(60).constData());
     CutCollection cuts;
     MakeCuts(cuts, "120");
     QString shown;
@@ -239,10 +240,10 @@ void TestCutAutomation::sizeFollowsSlider()
 void TestCutAutomation::startValues()
 {
     const auto data = MakeDataSet("1 2 3\n");
-    const auto points = PipCutDialog({2, 1, 2, 3.5, 42}, *data).GetParameters();
+    const auto points = PipCutDialog({2, 1, 2, 3.000005, 42}, *data).GetParameters();
     QCOMPARE((QList<int>{points.m_Attribute, points.m_Measure, points.m_Stopping,
-                         int(points.m_MinimumDistance * 10), points.m_Partitions}),
-             (QList<int>{2, 1, 2, 35, 42}));
+                         qRound(points.m_MinimumDistance * 1e6), points.m_Partitions}),
+             (QList<int>{2, 1, 2, 3000005, 42}));
     const auto variance = LocalVarianceDialog({2, 0, 1, 300, 20, 7000, 1.5}, *data).GetParameters();
     QCOMPARE((QList<int>{variance.m_X, variance.m_Y, variance.m_Z, variance.m_SmoothingWindow,
                          variance.m_SmoothingOverlap, variance.m_VarianceWindow,
