@@ -1,7 +1,21 @@
 #include "localvariancedialog.h"
 
+#include "largestrange.h"
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <algorithm>
+
+namespace
+{
+
+// No variance exceeds the square of the range, which is the smaller one below 1.
+double largestVariance(const DataSet& dataSet)
+{
+    const double range = LargestRange(dataSet);
+    return std::max(range, range * range);
+}
+
+} // namespace
 
 LocalVarianceDialog::LocalVarianceDialog(const LocalVarianceParameters& start,
                                          const DataSet& dataSet, QWidget* parent)
@@ -16,8 +30,9 @@ LocalVarianceDialog::LocalVarianceDialog(const LocalVarianceParameters& start,
                                      tr("Rows from the start of one average to the next one's"))),
       m_VarianceWindow(addRowCount(tr("Variance Window Size"), start.m_VarianceWindow, dataSet,
                                    tr("Rows over which the variance is taken"))),
-      m_Threshold(addReal(tr("Variance Threshold"), start.m_Threshold,
-                          tr("Variance below this does not count")))
+      m_Threshold(addPreciseReal(tr("Variance Threshold"), start.m_Threshold,
+                                 largestVariance(dataSet),
+                                 tr("Variance below this does not count")))
 {
     addButtons();
 }

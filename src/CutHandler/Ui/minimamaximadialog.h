@@ -2,6 +2,7 @@
 
 #include "cutparameters.h"
 #include "formdialog.h"
+#include "largestrange.h"
 #include <QComboBox>
 #include <QDoubleSpinBox>
 
@@ -15,8 +16,9 @@ public:
         : FormDialog(tr("<h2>Local Minima / Maxima Cuts</h2>"), parent),
           m_Attribute(addAttribute(tr("Attribute"), dataSet, start.m_Attribute,
                                    tr("The curve to cut at its minima and maxima"))),
-          m_Persistence(addReal(tr("Persistance"), start.m_Persistence,
-                                tr("The least rise from a minimum to its maximum that counts")))
+          m_Persistence(
+              addPreciseReal(tr("Persistance"), start.m_Persistence, LargestRange(dataSet),
+                             tr("The least rise from a minimum to its maximum that counts")))
     {
         addButtons();
     }

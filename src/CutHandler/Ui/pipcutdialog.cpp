@@ -1,5 +1,7 @@
 #include "pipcutdialog.h"
 
+#include "dataset.h"
+#include "largestrange.h"
 #include "pipextractor.h"
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -7,7 +9,11 @@
 namespace
 {
 
-constexpr int mostPartitions = 99;
+// A Euclidean distance adds rows and values up, to both ends.
+double largestDistance(const DataSet& dataSet)
+{
+    return 2.0 * (dataSet.GetRowCount() + LargestRange(dataSet));
+}
 
 QStringList names(QString (*nameOf)(int))
 {
@@ -24,10 +30,11 @@ PipCutDialog::PipCutDialog(const PipCutParameters& start, const DataSet& dataSet
                           start.m_Measure, tr("How the distance from a line is measured"))),
       m_Stopping(addChoice(tr("Stopping Parameter"), names(&PIPExtractor::GetParameterName),
                            start.m_Stopping, tr("What ends the cutting"))),
-      m_MinimumDistance(addReal(tr("Minimum Distance"), start.m_MinimumDistance,
-                                tr("The cutting ends when no point is this far away"))),
-      m_Partitions(addNumber(tr("Number Partitions"), start.m_Partitions, mostPartitions,
-                             tr("The cutting ends one split after this many")))
+      m_MinimumDistance(addPreciseReal(tr("Minimum Distance"), start.m_MinimumDistance,
+                                       largestDistance(dataSet),
+                                       tr("The cutting ends when no point is this far away"))),
+      m_Partitions(addRowCount(tr("Number Partitions"), start.m_Partitions, dataSet,
+                               tr("The cutting ends one split after this many")))
 {
     setWindowTitle(tr("PIP Cut"));
     const auto showUse = [this](int stopping) {

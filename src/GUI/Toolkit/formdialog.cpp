@@ -71,6 +71,19 @@ QDoubleSpinBox* FormDialog::addReal(const QString& label, double value, const QS
     return box;
 }
 
+QDoubleSpinBox* FormDialog::addPreciseReal(const QString& label, double value, double maximum,
+                                           const QString& toolTip)
+{
+    constexpr int decimals = 6;
+    constexpr double longestText = 1e15;
+    QDoubleSpinBox* box = addReal(label, value, toolTip);
+    box->setDecimals(decimals);
+    box->setMaximum(std::max(box->maximum(), std::min(maximum, longestText)));
+    // Again: it was rounded to fewer decimals.
+    box->setValue(value);
+    return box;
+}
+
 QSpinBox* FormDialog::addRowCount(const QString& label, int value, const DataSet& dataSet,
                                   const QString& toolTip)
 {

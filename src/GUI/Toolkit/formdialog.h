@@ -28,6 +28,9 @@ protected:
     /// A whole number from 0 to maximum.
     QSpinBox* addNumber(const QString& label, int value, int maximum, const QString& toolTip);
     QDoubleSpinBox* addReal(const QString& label, double value, const QString& toolTip);
+    /// The same with six decimals; maximum fits in, too, up to 1e15.
+    QDoubleSpinBox* addPreciseReal(const QString& label, double value, double maximum,
+                                   const QString& toolTip);
     /// A number of rows; all of the data set's and the value itself fit in.
     QSpinBox* addRowCount(const QString& label, int value, const DataSet& dataSet,
                           const QString& toolTip);
