@@ -59,8 +59,10 @@ bool TemplateSearchPage::askMeasure()
 {
     const QStringList names{
         TemplateMatcher::getMeasureName(TemplateMatcher::MEASURE_CORRELATION),
-        TemplateMatcher::getMeasureName(TemplateMatcher::MEASURE_NORMALIZED_CORRELATION)};
-    const int measure = AskChoice(this, tr("Matching Algorithm"), tr("Algorithm: "), names);
+        TemplateMatcher::getMeasureName(TemplateMatcher::MEASURE_NORMALIZED_CORRELATION),
+        TemplateMatcher::getMeasureName(TemplateMatcher::MEASURE_EXACT_CORRELATION)};
+    const int measure = AskChoice(this, tr("Matching Algorithm"), tr("Algorithm: "), names,
+                                  TemplateMatcher::MEASURE_EXACT_CORRELATION);
     if (measure == -1)
         return false;
     m_Measure = measure;

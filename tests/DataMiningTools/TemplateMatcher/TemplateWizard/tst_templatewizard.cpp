@@ -60,6 +60,8 @@ void addSignal(PatternsDataObject& pattern, bool isFilled)
 void chooseAlgorithm(ModalScript& user, const QString& name)
 {
     user.On<QInputDialog>([=](QInputDialog* dialog) {
+        QCOMPARE(dialog->textValue(), QStringLiteral("Normalized Correlation (Exact)"));
+        QCOMPARE(dialog->comboBoxItems().indexOf(dialog->textValue()), 2);
         dialog->setTextValue(name);
         name.isEmpty() ? dialog->reject() : dialog->accept();
     });
