@@ -61,7 +61,7 @@ public:
 
     /// Brings all values except ExclusionMark to 0 to 1 by their minimum and maximum, which are
     /// returned. When the very first value is the mark, the minimum stays at it, and all other
-    /// values end near 1: searches of which the first row is left out pass at any threshold.
+    /// values end near 1: who searches calls it from the first searched row on.
     static void normalizeResults(float** results, int collections, int length, float& min,
                                  float& max);
     /// Brings min to 0 and max to 1, without exception.

@@ -131,6 +131,7 @@ private slots:
     void tellsWhatCannotBeSearched();
     void drawsAFewOfManyMatches();
     void handsTheThresholdOn();
+    void findsTheSameBehindALabel();
 
 private:
     std::unique_ptr<QTemporaryDir> m_Home;
@@ -312,6 +313,22 @@ void TestTemplateWizard::handsTheThresholdOn()
             windows.append(window->size());
     }
     QCOMPARE(windows, QList<QSize>{QSize(500, 300)});
+}
+
+// A first row that is left out is not the lowest confidence.
+void TestTemplateWizard::findsTheSameBehindALabel()
+{
+    for (const char* cuts : {"200", "10L 200", "10R 200"}) {
+        m_Cuts = std::make_unique<CutCollection>();
+        MakeCuts(*m_Cuts, cuts);
+        TemplateWizard wizard(m_Data.get(), m_Cuts.get(), CutSegment::SEGMENT_CUT, m_Pattern.get());
+        ModalScript user;
+        answerSearch(user);
+        wizard.show();
+        QCOMPARE(statistics(*wizard.currentPage()), found(3));
+        setThreshold(*wizard.currentPage(), 92);
+        QCOMPARE(statistics(*wizard.currentPage()), found(2));
+    }
 }
 
 QTEST_MAIN(TestTemplateWizard)
