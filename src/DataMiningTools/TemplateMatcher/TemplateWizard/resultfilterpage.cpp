@@ -1,5 +1,6 @@
 #include "resultfilterpage.h"
 
+#include "betterfirst.h"
 #include "cutcollection.h"
 #include "insertmatches.h"
 #include "matchpositionsbox.h"
@@ -103,8 +104,8 @@ void ResultFilterPage::initCenterPointMemory()
 void ResultFilterPage::computeCenterPoints()
 {
     m_OldCenterPoints = m_CenterPoints;
-    m_CenterPoints =
-        std::make_shared<CenterPoints>(::computeCenterPoints(m_Results, m_Widths, m_Threshold));
+    m_CenterPoints = std::make_shared<CenterPoints>(KeepBetterMatches(
+        ::computeCenterPoints(m_Results, m_Widths, m_Threshold), m_Widths, m_Results));
 }
 
 void ResultFilterPage::lowerThresholdChanged(int value)
