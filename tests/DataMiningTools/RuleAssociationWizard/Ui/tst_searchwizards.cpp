@@ -1,4 +1,5 @@
 #include "fieldlookup.h"
+#include "insertionforecast.h"
 #include "labelsegment.h"
 #include "modalscript.h"
 #include "mousedrag.h"
@@ -12,8 +13,10 @@
 #include "thresholdwizard.h"
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QScrollBar>
@@ -114,7 +117,8 @@ private slots:
     void rejectsMatches();
     void insertsWhatFollows();
     void searchesNothing();
-    void tellsOfCrossedBoundaries();
+    void tellsWhatIsKeptOut();
+    void asksBeforeResultsGo();
     void keepsEndsOutOfView();
 };
 
@@ -281,22 +285,38 @@ void TestSearchWizards::searchesNothing()
     }
 }
 
-void TestSearchWizards::tellsOfCrossedBoundaries()
+void TestSearchWizards::tellsWhatIsKeptOut()
 {
     const auto data = MakeColumn(std::vector<double>(100, 1.0));
     CutCollection cuts;
-    MakeCuts(cuts, "50L 100");
+    MakeCuts(cuts, "50L 80 100");
     QWizard wizard;
     auto* page = new ResizeWizardPage(data.get(), &cuts, CutSegment::SEGMENT_CUT);
     wizard.addPage(page);
-    page->SetMatches({{{50, 60}}, {{70, 80}}});
+    page->SetMatches({{{50, 60}}, {{75, 85}}});
     wizard.show();
+    const auto* text = page->findChild<InsertionForecast*>()->findChild<QLabel*>();
+    QCOMPARE(text->text(), QStringLiteral("2 can be inserted, 0 cross plain cuts, 0 cross labels"));
     type(boxOfMatch(wizard, 50), "49");
+    page->findChild<QCheckBox*>()->click();
+    QCOMPARE(text->text(), QStringLiteral("0 can be inserted, 1 cross plain cuts, 1 cross labels"));
+    page->findChild<QCheckBox*>()->click();
     finish(wizard);
-    QCOMPARE(ToText(cuts), QStringLiteral("L(0,50) (50,70) R(70,80) (80,100)"));
-    QCOMPARE(TakeUserErrors(),
-             QStringList(QStringLiteral("Resize Results: Error: 1 of 2 results cross the end of a "
-                                        "segment and were left out.")));
+    QCOMPARE(ToText(cuts), QStringLiteral("L(0,50) (50,75) R(75,85) (85,100)"));
+}
+
+void TestSearchWizards::asksBeforeResultsGo()
+{
+    const auto data = MakeColumn(std::vector<double>(100, 1.0));
+    CutCollection cuts;
+    MakeCuts(cuts, "50 60R 100");
+    ResizeWizardPage page(data.get(), &cuts, CutSegment::SEGMENT_RESULT);
+    for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+        ModalScript user;
+        user.On<QMessageBox>([=](QMessageBox* box) { box->button(answer)->click(); });
+        QCOMPARE(page.validatePage(), answer == QMessageBox::Yes);
+        QCOMPARE(cuts.GetSegmentCount(), answer == QMessageBox::Yes ? 1 : 3);
+    }
 }
 
 void TestSearchWizards::keepsEndsOutOfView()
