@@ -13,7 +13,7 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
-#include <algorithm>
+#include <QPushButton>
 
 namespace
 {
@@ -27,20 +27,32 @@ ResultFilterPage::ResultFilterPage(DataSet* dataSet, CutCollection* cuts,
                                    const QList<int>* patternIds, QWidget* parent)
     : TemplateSearchPage(dataSet, cuts, searchMode, patternIds, parent),
       m_ThresholdSlider(new ThresholdSlider(int(initialThreshold * 100))),
-      m_Statistics(new QLabel(tr("Statistics: "))), m_ThresholdBox(makeThresholdBox()),
+      m_Statistics(new QLabel(tr("Statistics: "))), m_RejectionText(new QLabel),
+      m_BringBack(new QPushButton(tr("Bring Back"))), m_ThresholdBox(makeThresholdBox()),
       m_Positions(new MatchPositionsBox(dataSet)), m_Overlays(new OverlaidMatchesBox)
 {
-    connect(m_Positions, &MatchPositionsBox::ItemsRemoved, this, &ResultFilterPage::vizResults);
-    connect(m_Overlays, &OverlaidMatchesBox::ItemsRemoved, this, &ResultFilterPage::vizResults);
+    connectBoxes();
+    auto* layout = new QGridLayout(this);
+    layout->addWidget(m_ThresholdBox, 0, 0);
+    layout->addWidget(m_Positions, 1, 0);
+    layout->addWidget(m_Overlays, 0, 1, 2, 1);
+    layout->setRowStretch(1, 1);
+    layout->setColumnStretch(0, 1);
+    layout->setColumnStretch(1, 1);
+    clearResults();
+}
+
+void ResultFilterPage::connectBoxes()
+{
+    connect(m_Positions, &MatchPositionsBox::ItemsRemoved, this,
+            [this] { reject(m_Positions->GetRemovedSteps()); });
+    connect(m_Overlays, &OverlaidMatchesBox::StepsRejected, this, &ResultFilterPage::reject);
+    connect(m_Positions, &MatchPositionsBox::AboutToReject, this,
+            &ResultFilterPage::showAboutToReject);
+    connect(m_Overlays, &OverlaidMatchesBox::AboutToReject, this,
+            &ResultFilterPage::showAboutToReject);
     connect(m_Overlays, &OverlaidMatchesBox::AlphaChanged, this,
             &ResultFilterPage::setGraphAlphaValues);
-    auto* left = new QVBoxLayout;
-    left->addWidget(m_ThresholdBox);
-    left->addWidget(m_Positions, 1);
-    auto* layout = new QHBoxLayout(this);
-    layout->addLayout(left, 1);
-    layout->addWidget(m_Overlays, 1);
-    clearResults();
 }
 
 QGroupBox* ResultFilterPage::makeThresholdBox()
@@ -53,8 +65,21 @@ QGroupBox* ResultFilterPage::makeThresholdBox()
             &ResultFilterPage::setNormThreshold);
     auto* form = new QFormLayout(box);
     form->addRow(tr("Threshold Amount:"), m_ThresholdSlider);
-    form->addRow(m_Statistics);
+    form->addRow(makeStatisticsRow());
     return box;
+}
+
+QLayout* ResultFilterPage::makeStatisticsRow()
+{
+    m_BringBack->setToolTip(tr("Bring back the matches of the last rejection"));
+    // Enter belongs to the wizard.
+    m_BringBack->setAutoDefault(false);
+    connect(m_BringBack, &QPushButton::clicked, this, &ResultFilterPage::BringBack);
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_Statistics, 1);
+    row->addWidget(m_RejectionText);
+    row->addWidget(m_BringBack);
+    return row;
 }
 
 void ResultFilterPage::clearResults()
@@ -62,7 +87,9 @@ void ResultFilterPage::clearResults()
     m_Results = {};
     m_Pattern = nullptr;
     m_Widths.clear();
+    m_Rejections.Clear();
     initCenterPointMemory();
+    showRejections();
     m_Overlays->Clear();
     m_Positions->SetResults({}, -1, 1);
     m_Statistics->setText(tr("Statistics: "));
@@ -86,6 +113,7 @@ void ResultFilterPage::SetResults(float** results, int resultSizeX, int resultSi
     m_Threshold = threshold;
     m_ThresholdSlider->SetValue(int(threshold * 100));
     m_ThresholdBox->setEnabled(true);
+    m_Rejections.Clear();
     initCenterPointMemory();
     computeCenterPoints();
     m_Overlays->SetPattern(dataSet(), *pattern, attributeMap);
@@ -123,12 +151,12 @@ void ResultFilterPage::setNormThreshold(int value)
 
 void ResultFilterPage::vizResults()
 {
-    const std::vector<int> removed = removedSteps();
-    m_Positions->ItemsRemovedFromPlot({removed.begin(), removed.end()});
+    m_Positions->SetRemovedSteps(m_Rejections.GetSteps());
     m_Positions->SetMatches(m_CenterPoints, m_OldCenterPoints);
-    const CenterPoints matches = WithoutSteps(*m_CenterPoints, removed);
+    const CenterPoints matches = acceptedMatches();
     m_Overlays->ShowMatches(matches, m_Widths);
     m_Statistics->setText(tr("Statistics: %1 matches found").arg(CountMatches(matches)));
+    showRejections();
 }
 
 void ResultFilterPage::setGraphAlphaValues()
@@ -136,23 +164,43 @@ void ResultFilterPage::setGraphAlphaValues()
     m_Overlays->SetAlphaValues();
 }
 
-std::vector<int> ResultFilterPage::removedSteps() const
+CenterPoints ResultFilterPage::acceptedMatches() const
 {
-    std::vector<int> steps;
-    for (const auto& match : m_Overlays->GetRemovedMatches())
-        steps.push_back(match.second);
-    for (const int step : m_Positions->GetRemovedSteps())
-        steps.push_back(step);
-    std::sort(steps.begin(), steps.end());
-    steps.erase(std::unique(steps.begin(), steps.end()), steps.end());
-    return steps;
+    return WithoutSteps(*m_CenterPoints, m_Rejections.GetSteps());
+}
+
+void ResultFilterPage::reject(const std::vector<int>& steps)
+{
+    m_Rejections.Reject(steps);
+    vizResults();
+}
+
+void ResultFilterPage::BringBack()
+{
+    m_Rejections.BringBack();
+    vizResults();
+}
+
+void ResultFilterPage::showRejections()
+{
+    const size_t rejected = m_Rejections.GetSteps().size();
+    m_RejectionText->setText(rejected == 0 ? QString() : tr("%1 rejected").arg(rejected));
+    m_BringBack->setEnabled(rejected > 0);
+}
+
+void ResultFilterPage::showAboutToReject(int matches)
+{
+    if (matches == 0)
+        showRejections();
+    else
+        m_RejectionText->setText(tr("%1 about to be rejected").arg(matches));
 }
 
 bool ResultFilterPage::validatePage()
 {
     if (!HasResults())
         return false;
-    const CenterPoints matches = WithoutSteps(*m_CenterPoints, removedSteps());
+    const CenterPoints matches = acceptedMatches();
     NoProgress progress;
     InsertMatches(*cuts(), ExtentsOfMatches(matches, *m_Pattern, m_Results.m_Steps),
                   {searchMode(), true}, progress);

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "cutsegment.h"
+#include "matchrejections.h"
 #include "templatesearchpage.h"
 
 class MatchPositionsBox;
 class OverlaidMatchesBox;
 class QGroupBox;
 class QLabel;
+class QPushButton;
 class ThresholdSlider;
 
 /// Lets the user set the confidence that a match needs and reject single matches. The rest become
@@ -35,6 +37,8 @@ public slots:
     void computeCenterPoints();
     void vizResults();
     void setGraphAlphaValues();
+    /// Undoes the last rejection.
+    void BringBack();
 
 protected:
     void clearResults() override;
@@ -44,8 +48,13 @@ protected:
 
 private:
     QGroupBox* makeThresholdBox();
+    QLayout* makeStatisticsRow();
+    void connectBoxes();
     void initCenterPointMemory();
-    std::vector<int> removedSteps() const;
+    CenterPoints acceptedMatches() const;
+    void reject(const std::vector<int>& steps);
+    void showRejections();
+    void showAboutToReject(int matches);
 
     SearchResults m_Results;
     PatternsDataObject* m_Pattern = nullptr;
@@ -53,9 +62,12 @@ private:
     // Those before the last change of the threshold are kept for the map.
     std::shared_ptr<const CenterPoints> m_CenterPoints;
     std::shared_ptr<const CenterPoints> m_OldCenterPoints;
+    MatchRejections m_Rejections;
     float m_Threshold = 0;
     ThresholdSlider* m_ThresholdSlider;
     QLabel* m_Statistics;
+    QLabel* m_RejectionText;
+    QPushButton* m_BringBack;
     QGroupBox* m_ThresholdBox;
     MatchPositionsBox* m_Positions;
     OverlaidMatchesBox* m_Overlays;

@@ -12,6 +12,7 @@
 #include "thresholdmap.h"
 #include "thresholdmapdistribution.h"
 #include <QAbstractButton>
+#include <QDoubleSpinBox>
 #include <QInputDialog>
 #include <QLabel>
 #include <QListWidget>
@@ -96,6 +97,15 @@ QString statistics(const QWidget& page)
 QString found(int count)
 {
     return QStringLiteral("Statistics: %1 matches found").arg(count);
+}
+
+QString textOf(const QWidget& page, const QString& end)
+{
+    for (const QLabel* label : page.findChildren<QLabel*>()) {
+        if (label->text().endsWith(end))
+            return label->text();
+    }
+    return QString();
 }
 
 void clickRow(const QWidget& page, const QString& text)
@@ -200,6 +210,17 @@ void TestTemplateWizard::leadsFromPatternToSegments()
     user.On<QMessageBox>([](QMessageBox* box) { box->button(QMessageBox::Yes)->click(); });
     DragMouse(*overlay, {42, toY(0.8)}, {48, toY(0.4)});
     QCOMPARE(statistics(page), found(1));
+    // One after the other, the last first.
+    QCOMPARE(textOf(page, QStringLiteral(" rejected")), QStringLiteral("2 rejected"));
+    for (const int matches : {2, 3}) {
+        ClickButton(&page, QStringLiteral("Bring Back"));
+        QCOMPARE(statistics(page), found(matches));
+    }
+    QVERIFY(!page.findChild<ThresholdMap*>()->GetRemovedSteps().contains(63));
+    dragOverStep(*page.findChild<ThresholdMap*>(), 63);
+    user.On<QMessageBox>([](QMessageBox* box) { box->button(QMessageBox::Yes)->click(); });
+    DragMouse(*overlay, {42, toY(0.8)}, {48, toY(0.4)});
+    QCOMPARE(statistics(page), found(1));
     // A rejected match stays rejected, whatever the threshold.
     setThreshold(page, 80);
     setThreshold(page, 50);
@@ -286,7 +307,24 @@ void TestTemplateWizard::drawsAFewOfManyMatches()
     wizard.show();
     const QWidget& page = *wizard.currentPage();
     QCOMPARE(statistics(page), found(4000 / strokeLength));
-    QCOMPARE(page.findChild<MatchOverlayPlot*>()->GetLineCount(), 401);
+    auto* overlay = page.findChild<MatchOverlayPlot*>();
+    QCOMPARE(overlay->GetLineCount(), 401);
+    QCOMPARE(textOf(page, QStringLiteral(" drawn")), QStringLiteral("400 of 571 drawn"));
+    // All have a value in the box, also those that are not drawn.
+    QTest::mousePress(overlay, Qt::LeftButton, {}, {42, 2});
+    const QPoint corner(overlay->width() - 2, overlay->height() - 2);
+    MoveMouse(*overlay, corner, Qt::LeftButton);
+    QCOMPARE(textOf(page, QStringLiteral(" rejected")), QStringLiteral("571 about to be rejected"));
+    user.On<QMessageBox>([](QMessageBox* box) { box->button(QMessageBox::No)->click(); });
+    QTest::mouseRelease(overlay, Qt::LeftButton, {}, corner);
+    QCOMPARE(textOf(page, QStringLiteral(" rejected")), QString());
+    QCOMPARE(statistics(page), found(4000 / strokeLength));
+    // A rejection leaves the lines as invisible as they were.
+    page.findChild<QDoubleSpinBox*>()->setValue(0.0);
+    const QImage before = overlay->grab().toImage();
+    DragMouse(*page.findChild<ThresholdMap*>(), {60, 10}, {90, 20});
+    QVERIFY(statistics(page) != found(4000 / strokeLength));
+    QCOMPARE(overlay->grab().toImage(), before);
 }
 
 void TestTemplateWizard::handsTheThresholdOn()
