@@ -28,6 +28,7 @@ InsertionForecast::InsertionForecast(CutCollection* cuts, CutSegment::SEGMENT_ST
     : QWidget(parent), m_CutCollection(cuts), m_SearchMode(searchMode), m_Text(new QLabel),
       m_MergesPlainCuts(new QCheckBox(tr("Merge plain cuts under matches")))
 {
+    m_Text->setWordWrap(true);
     m_Text->setToolTip(tr("What becomes of the matches when you finish"));
     m_MergesPlainCuts->setChecked(true);
     m_MergesPlainCuts->setToolTip(tr("Plain cuts that a match crosses become one, so that it can "

@@ -2,11 +2,11 @@
 
 #include "betterfirst.h"
 #include "cutcollection.h"
-#include "insertmatches.h"
+#include "dialogprogress.h"
+#include "insertionforecast.h"
 #include "matchpositionsbox.h"
 #include "overlaidmatchesbox.h"
 #include "patternsdataobject.h"
-#include "progress.h"
 #include "thresholdslider.h"
 #include <QAbstractSpinBox>
 #include <QFormLayout>
@@ -29,13 +29,18 @@ ResultFilterPage::ResultFilterPage(DataSet* dataSet, CutCollection* cuts,
       m_ThresholdSlider(new ThresholdSlider(int(initialThreshold * 100))),
       m_Statistics(new QLabel(tr("Statistics: "))), m_RejectionText(new QLabel),
       m_BringBack(new QPushButton(tr("Bring Back"))), m_ThresholdBox(makeThresholdBox()),
+      m_Forecast(new InsertionForecast(cuts, searchMode)),
       m_Positions(new MatchPositionsBox(dataSet)), m_Overlays(new OverlaidMatchesBox)
 {
     connectBoxes();
     auto* layout = new QGridLayout(this);
     layout->addWidget(m_ThresholdBox, 0, 0);
+    layout->addWidget(makeForecastBox(), 0, 1);
     layout->addWidget(m_Positions, 1, 0);
-    layout->addWidget(m_Overlays, 0, 1, 2, 1);
+    auto* right = new QVBoxLayout;
+    right->addWidget(m_Overlays, 1);
+    right->addLayout(makeRejectionRow());
+    layout->addLayout(right, 1, 1);
     layout->setRowStretch(1, 1);
     layout->setColumnStretch(0, 1);
     layout->setColumnStretch(1, 1);
@@ -65,19 +70,28 @@ QGroupBox* ResultFilterPage::makeThresholdBox()
             &ResultFilterPage::setNormThreshold);
     auto* form = new QFormLayout(box);
     form->addRow(tr("Threshold Amount:"), m_ThresholdSlider);
-    form->addRow(makeStatisticsRow());
+    form->addRow(m_Statistics);
     return box;
 }
 
-QLayout* ResultFilterPage::makeStatisticsRow()
+// Beside the threshold, as a small screen has to hold the maps below that.
+QGroupBox* ResultFilterPage::makeForecastBox()
 {
+    auto* box = new QGroupBox(tr("Results"));
+    (new QVBoxLayout(box))->addWidget(m_Forecast);
+    return box;
+}
+
+QLayout* ResultFilterPage::makeRejectionRow()
+{
+    // A map that changed its size would lose the band that the text tells of.
+    m_RejectionText->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_BringBack->setToolTip(tr("Bring back the matches of the last rejection"));
     // Enter belongs to the wizard.
     m_BringBack->setAutoDefault(false);
     connect(m_BringBack, &QPushButton::clicked, this, &ResultFilterPage::BringBack);
     auto* row = new QHBoxLayout;
-    row->addWidget(m_Statistics, 1);
-    row->addWidget(m_RejectionText);
+    row->addWidget(m_RejectionText, 1);
     row->addWidget(m_BringBack);
     return row;
 }
@@ -90,6 +104,7 @@ void ResultFilterPage::clearResults()
     m_Rejections.Clear();
     initCenterPointMemory();
     showRejections();
+    m_Forecast->SetMatches({});
     m_Overlays->Clear();
     m_Positions->SetResults({}, -1, 1);
     m_Statistics->setText(tr("Statistics: "));
@@ -155,6 +170,7 @@ void ResultFilterPage::vizResults()
     m_Positions->SetMatches(m_CenterPoints, m_OldCenterPoints);
     const CenterPoints matches = acceptedMatches();
     m_Overlays->ShowMatches(matches, m_Widths);
+    m_Forecast->SetMatches(ExtentsOfMatches(matches, *m_Pattern, m_Results.m_Steps));
     m_Statistics->setText(tr("Statistics: %1 matches found").arg(CountMatches(matches)));
     showRejections();
 }
@@ -198,12 +214,10 @@ void ResultFilterPage::showAboutToReject(int matches)
 
 bool ResultFilterPage::validatePage()
 {
-    if (!HasResults())
+    if (!HasResults() || !m_Forecast->AgreesToInsert())
         return false;
-    const CenterPoints matches = acceptedMatches();
-    NoProgress progress;
-    InsertMatches(*cuts(), ExtentsOfMatches(matches, *m_Pattern, m_Results.m_Steps),
-                  {searchMode(), true}, progress);
+    DialogProgress progress(this, tr("Inserting Cuts"));
+    m_Forecast->Insert(progress);
     return true;
 }
 

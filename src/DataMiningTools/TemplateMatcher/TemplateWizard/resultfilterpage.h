@@ -4,6 +4,7 @@
 #include "matchrejections.h"
 #include "templatesearchpage.h"
 
+class InsertionForecast;
 class MatchPositionsBox;
 class OverlaidMatchesBox;
 class QGroupBox;
@@ -28,7 +29,8 @@ public:
     bool HasResults() const { return !m_Results.IsEmpty(); }
 
     /// Makes the matches that were not rejected into segments, after a search that refines in
-    /// place of the earlier ones. False on an empty page.
+    /// place of the earlier ones. False on an empty page, and when the user keeps the results
+    /// that would go.
     bool validatePage() override;
 
 public slots:
@@ -48,7 +50,8 @@ protected:
 
 private:
     QGroupBox* makeThresholdBox();
-    QLayout* makeStatisticsRow();
+    QGroupBox* makeForecastBox();
+    QLayout* makeRejectionRow();
     void connectBoxes();
     void initCenterPointMemory();
     CenterPoints acceptedMatches() const;
@@ -69,6 +72,7 @@ private:
     QLabel* m_RejectionText;
     QPushButton* m_BringBack;
     QGroupBox* m_ThresholdBox;
+    InsertionForecast* m_Forecast;
     MatchPositionsBox* m_Positions;
     OverlaidMatchesBox* m_Overlays;
 };

@@ -265,7 +265,17 @@ void TestTemplateWizard::staysEmptyWhenNothingIsSearched()
     QVERIFY(wizard.isVisible());
     answerSearch(user);
     wizard.button(QWizard::FinishButton)->click();
-    QCOMPARE(statistics(*wizard.currentPage()), found(1));
+    const QWidget& page = *wizard.currentPage();
+    QCOMPARE(statistics(page), found(1));
+    QCOMPARE(textOf(page, QStringLiteral(" cross labels")),
+             QStringLiteral("1 can be inserted, 0 cross plain cuts, 0 cross labels"));
+    QCOMPARE(ToText(*m_Cuts), before);
+    // With nothing to take their place, the results go only when the user agrees.
+    dragOverStep(*page.findChild<ThresholdMap*>(), 23);
+    user.On<QMessageBox>([](QMessageBox* box) { box->button(QMessageBox::No)->click(); });
+    wizard.button(QWizard::FinishButton)->click();
+    QVERIFY(wizard.isVisible());
+    QCOMPARE(statistics(page), found(0));
     QCOMPARE(ToText(*m_Cuts), before);
     wizard.reject();
     QCOMPARE(ToText(*m_Cuts), before);
