@@ -1,3 +1,4 @@
+#include "attributebox.h"
 #include "fieldlookup.h"
 #include "insertionforecast.h"
 #include "labelsegment.h"
@@ -114,6 +115,7 @@ private slots:
     void comparisonsReadTrue_data();
     void comparisonsReadTrue();
     void insertsRuns();
+    void fitsItsAttribute();
     void rejectsMatches();
     void insertsWhatFollows();
     void searchesNothing();
@@ -164,6 +166,7 @@ void TestSearchWizards::insertsRuns()
     addParameter(wizard, "value > attribute", "0");
     QCOMPARE(extract(wizard), QStringLiteral("0"));
     ClickButton(wizard.findChildren<ThresholdParameterWidget*>().last(), QStringLiteral("Remove"));
+    QCOMPARE(number(wizard), QString());
     QCOMPARE(extract(wizard), QStringLiteral("3"));
     auto* length = FindField<QSpinBox>(wizard.currentPage(), QStringLiteral("Minimum Length"));
     type(length, "2");
@@ -171,12 +174,14 @@ void TestSearchWizards::insertsRuns()
     QTest::keyClick(length, Qt::Key_Return);
     QCOMPARE(number(wizard), QStringLiteral("2"));
     const QWizardPage* filter = wizard.currentPage();
-    // A search that is stopped leaves the matches there are, and nothing has been searched.
+    // The matches of another search are none of this one; one that is stopped has none.
     type(length, "3");
+    QCOMPARE(number(wizard), QString());
+    QVERIFY(!FindButton(&wizard, QStringLiteral("Next >"))->isEnabled());
     QTimer::singleShot(0, &wizard, [&wizard] {
         ClickButton(wizard.currentPage()->findChild<QProgressDialog*>(), QStringLiteral("Cancel"));
     });
-    QCOMPARE(extract(wizard), QStringLiteral("2"));
+    QCOMPARE(extract(wizard), QString());
     QTest::keyClick(length, Qt::Key_Return);
     QCOMPARE(wizard.currentPage(), filter);
     QCOMPARE(number(wizard), QStringLiteral("0"));
@@ -196,6 +201,29 @@ void TestSearchWizards::insertsRuns()
     finish(wizard);
     QCOMPARE(wizard.result(), int(QDialog::Accepted));
     QCOMPARE(ToText(cuts), QStringLiteral("(0,4) L(4,6) (6,6) R(6,8) (8,10) R(10,12) (12,13)"));
+}
+
+void TestSearchWizards::fitsItsAttribute()
+{
+    const auto data = MakeDataSet("0 3e-9 -9e14\n1 5e-9 0\n2 4e-9 1");
+    CutCollection cuts;
+    MakeCuts(cuts, "3");
+    ThresholdWizard wizard(data.get(), &cuts, CutSegment::SEGMENT_CUT);
+    wizard.show();
+    next(wizard);
+    addParameter(wizard, "attribute >= value", "1");
+    const auto* row = wizard.findChild<ThresholdParameterWidget*>();
+    auto* tested = row->findChild<AttributeBox*>();
+    const auto* plotted =
+        FindField<AttributeBox>(wizard.currentPage(), QStringLiteral("Data Attribute: "));
+    const std::vector<std::pair<int, const char*>> searches{{2, "-899999999999999.5"},
+                                                            {1, "0.0000000035"}};
+    for (const auto& [attribute, value] : searches) {
+        tested->SetAttribute(attribute);
+        type(row->findChild<QDoubleSpinBox*>(), value);
+        QCOMPARE(extract(wizard), QStringLiteral("1"));
+        QCOMPARE(plotted->GetAttribute(), attribute);
+    }
 }
 
 void TestSearchWizards::rejectsMatches()
