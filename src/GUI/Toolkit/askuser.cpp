@@ -20,12 +20,13 @@ bool AskYesNo(QWidget* parent, const QString& title, const QString& question)
 }
 
 int AskChoice(QWidget* parent, const QString& title, const QString& label,
-              const QStringList& choices)
+              const QStringList& choices, int current)
 {
     ModalDialog<QInputDialog> dialog(parent);
     dialog->setWindowTitle(title);
     dialog->setLabelText(label);
     dialog->setComboBoxItems(choices);
+    dialog->setTextValue(choices.value(current));
     if (!dialog.IsAccepted())
         return -1;
     // By its place in the box: two choices may have one name.

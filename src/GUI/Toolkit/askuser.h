@@ -15,10 +15,10 @@ void TellUser(QWidget* parent, const QString& title, const QString& text);
 /// Asks a question that is answered by Yes or No.
 bool AskYesNo(QWidget* parent, const QString& title, const QString& question);
 
-/// Asks for one of several texts, which are not edited; its place among them, or -1 when the user
-/// cancels.
+/// Asks for one of several texts, which are not edited, and of which that at place current is
+/// chosen at first; its place among them, or -1 when the user cancels.
 int AskChoice(QWidget* parent, const QString& title, const QString& label,
-              const QStringList& choices);
+              const QStringList& choices, int current = 0);
 
 /// Asks for an attribute to export; -1 when the user cancels.
 int AskAttribute(QWidget* parent, const DataSet& data);

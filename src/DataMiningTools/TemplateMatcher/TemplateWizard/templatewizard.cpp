@@ -43,7 +43,7 @@ bool TemplateWizard::validateCurrentPage()
 {
     if (currentPage()->validatePage())
         return true;
-    if (currentId() == RESULT_FILTER_PAGE) {
+    if (currentId() == RESULT_FILTER_PAGE && !m_ResultPage->HasResults()) {
         m_ResultPage->initializePage();
         if (!m_ResultPage->HasResults())
             back();

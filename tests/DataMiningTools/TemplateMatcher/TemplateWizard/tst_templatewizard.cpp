@@ -12,6 +12,7 @@
 #include "thresholdmap.h"
 #include "thresholdmapdistribution.h"
 #include <QAbstractButton>
+#include <QDoubleSpinBox>
 #include <QInputDialog>
 #include <QLabel>
 #include <QListWidget>
@@ -60,6 +61,8 @@ void addSignal(PatternsDataObject& pattern, bool isFilled)
 void chooseAlgorithm(ModalScript& user, const QString& name)
 {
     user.On<QInputDialog>([=](QInputDialog* dialog) {
+        QCOMPARE(dialog->textValue(), QStringLiteral("Normalized Correlation (Exact)"));
+        QCOMPARE(dialog->comboBoxItems().indexOf(dialog->textValue()), 2);
         dialog->setTextValue(name);
         name.isEmpty() ? dialog->reject() : dialog->accept();
     });
@@ -96,6 +99,15 @@ QString found(int count)
     return QStringLiteral("Statistics: %1 matches found").arg(count);
 }
 
+QString textOf(const QWidget& page, const QString& end)
+{
+    for (const QLabel* label : page.findChildren<QLabel*>()) {
+        if (label->text().endsWith(end))
+            return label->text();
+    }
+    return QString();
+}
+
 void clickRow(const QWidget& page, const QString& text)
 {
     // The page has only just been laid out.
@@ -129,6 +141,7 @@ private slots:
     void tellsWhatCannotBeSearched();
     void drawsAFewOfManyMatches();
     void handsTheThresholdOn();
+    void findsTheSameBehindALabel();
 
 private:
     std::unique_ptr<QTemporaryDir> m_Home;
@@ -197,6 +210,17 @@ void TestTemplateWizard::leadsFromPatternToSegments()
     user.On<QMessageBox>([](QMessageBox* box) { box->button(QMessageBox::Yes)->click(); });
     DragMouse(*overlay, {42, toY(0.8)}, {48, toY(0.4)});
     QCOMPARE(statistics(page), found(1));
+    // One after the other, the last first.
+    QCOMPARE(textOf(page, QStringLiteral(" rejected")), QStringLiteral("2 rejected"));
+    for (const int matches : {2, 3}) {
+        ClickButton(&page, QStringLiteral("Bring Back"));
+        QCOMPARE(statistics(page), found(matches));
+    }
+    QVERIFY(!page.findChild<ThresholdMap*>()->GetRemovedSteps().contains(63));
+    dragOverStep(*page.findChild<ThresholdMap*>(), 63);
+    user.On<QMessageBox>([](QMessageBox* box) { box->button(QMessageBox::Yes)->click(); });
+    DragMouse(*overlay, {42, toY(0.8)}, {48, toY(0.4)});
+    QCOMPARE(statistics(page), found(1));
     // A rejected match stays rejected, whatever the threshold.
     setThreshold(page, 80);
     setThreshold(page, 50);
@@ -241,7 +265,17 @@ void TestTemplateWizard::staysEmptyWhenNothingIsSearched()
     QVERIFY(wizard.isVisible());
     answerSearch(user);
     wizard.button(QWizard::FinishButton)->click();
-    QCOMPARE(statistics(*wizard.currentPage()), found(1));
+    const QWidget& page = *wizard.currentPage();
+    QCOMPARE(statistics(page), found(1));
+    QCOMPARE(textOf(page, QStringLiteral(" cross labels")),
+             QStringLiteral("1 can be inserted, 0 cross plain cuts, 0 cross labels"));
+    QCOMPARE(ToText(*m_Cuts), before);
+    // With nothing to take their place, the results go only when the user agrees.
+    dragOverStep(*page.findChild<ThresholdMap*>(), 23);
+    user.On<QMessageBox>([](QMessageBox* box) { box->button(QMessageBox::No)->click(); });
+    wizard.button(QWizard::FinishButton)->click();
+    QVERIFY(wizard.isVisible());
+    QCOMPARE(statistics(page), found(0));
     QCOMPARE(ToText(*m_Cuts), before);
     wizard.reject();
     QCOMPARE(ToText(*m_Cuts), before);
@@ -283,7 +317,24 @@ void TestTemplateWizard::drawsAFewOfManyMatches()
     wizard.show();
     const QWidget& page = *wizard.currentPage();
     QCOMPARE(statistics(page), found(4000 / strokeLength));
-    QCOMPARE(page.findChild<MatchOverlayPlot*>()->GetLineCount(), 401);
+    auto* overlay = page.findChild<MatchOverlayPlot*>();
+    QCOMPARE(overlay->GetLineCount(), 401);
+    QCOMPARE(textOf(page, QStringLiteral(" drawn")), QStringLiteral("400 of 571 drawn"));
+    // All have a value in the box, also those that are not drawn.
+    QTest::mousePress(overlay, Qt::LeftButton, {}, {42, 2});
+    const QPoint corner(overlay->width() - 2, overlay->height() - 2);
+    MoveMouse(*overlay, corner, Qt::LeftButton);
+    QCOMPARE(textOf(page, QStringLiteral(" rejected")), QStringLiteral("571 about to be rejected"));
+    user.On<QMessageBox>([](QMessageBox* box) { box->button(QMessageBox::No)->click(); });
+    QTest::mouseRelease(overlay, Qt::LeftButton, {}, corner);
+    QCOMPARE(textOf(page, QStringLiteral(" rejected")), QString());
+    QCOMPARE(statistics(page), found(4000 / strokeLength));
+    // A rejection leaves the lines as invisible as they were.
+    page.findChild<QDoubleSpinBox*>()->setValue(0.0);
+    const QImage before = overlay->grab().toImage();
+    DragMouse(*page.findChild<ThresholdMap*>(), {60, 10}, {90, 20});
+    QVERIFY(statistics(page) != found(4000 / strokeLength));
+    QCOMPARE(overlay->grab().toImage(), before);
 }
 
 void TestTemplateWizard::handsTheThresholdOn()
@@ -310,6 +361,22 @@ void TestTemplateWizard::handsTheThresholdOn()
             windows.append(window->size());
     }
     QCOMPARE(windows, QList<QSize>{QSize(500, 300)});
+}
+
+// A first row that is left out is not the lowest confidence.
+void TestTemplateWizard::findsTheSameBehindALabel()
+{
+    for (const char* cuts : {"200", "10L 200", "10R 200"}) {
+        m_Cuts = std::make_unique<CutCollection>();
+        MakeCuts(*m_Cuts, cuts);
+        TemplateWizard wizard(m_Data.get(), m_Cuts.get(), CutSegment::SEGMENT_CUT, m_Pattern.get());
+        ModalScript user;
+        answerSearch(user);
+        wizard.show();
+        QCOMPARE(statistics(*wizard.currentPage()), found(3));
+        setThreshold(*wizard.currentPage(), 92);
+        QCOMPARE(statistics(*wizard.currentPage()), found(2));
+    }
 }
 
 QTEST_MAIN(TestTemplateWizard)
