@@ -8,6 +8,16 @@ namespace
 
 using Signals = std::vector<std::unique_ptr<SignalTemplateDataObject>>;
 
+void smooth(SignalTemplateDataObject& signal, const PatternRequest& request)
+{
+    if (request.m_SmoothingWindow <= 1)
+        return;
+    if (request.m_IsCentred)
+        signal.SmoothSignalCentred(request.m_SmoothingWindow);
+    else
+        signal.SmoothSignal(request.m_SmoothingWindow);
+}
+
 // The signals that are resampled; none when one of them can't be had.
 Signals takeSignals(DataSet* dataSet, const PatternRequest& request)
 {
@@ -17,8 +27,7 @@ Signals takeSignals(DataSet* dataSet, const PatternRequest& request)
         if (!signal->SetSignal(dataSet, attribute, request.m_From, request.m_To))
             return {};
         signal->setAttributeName(dataSet->GetAttributeName(attribute));
-        if (request.m_SmoothingWindow > 1)
-            signal->SmoothSignal(request.m_SmoothingWindow);
+        smooth(*signal, request);
         taken.push_back(std::move(signal));
     }
     return taken;

@@ -20,6 +20,8 @@ struct PatternRequest {
     QList<QPair<int, int>> m_Factors;
     /// For SmoothSignal; 1 and less leave the signals raw.
     int m_SmoothingWindow = 0;
+    /// Smooths by SmoothSignalCentred instead.
+    bool m_IsCentred = false;
 };
 
 /// Whether the template would be larger than MaxSignalLength, as a whole or on the way to it.

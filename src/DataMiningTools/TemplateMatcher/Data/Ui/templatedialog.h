@@ -33,6 +33,7 @@ public slots:
 private:
     QLayout* makeForm();
     void addSmoothing(QFormLayout* form);
+    void chooseSmoothing(QCheckBox* changed, QCheckBox* other);
     QWidget* makeAttributes();
     QWidget* makePlots();
     void fillCollections();
@@ -50,5 +51,6 @@ private:
     QCheckBox* m_Smooth;
     QSpinBox* m_Window;
     std::vector<QCheckBox*> m_Attributes;
+    QCheckBox* m_SmoothCentred;
     std::unique_ptr<PatternsDataObject> m_Pattern;
 };

@@ -155,8 +155,13 @@ void TestTemplateDialogs::storesATemplate()
     dialog.show();
     auto* window = FindField<QSpinBox>(&dialog, QStringLiteral("Window Size "));
     QVERIFY(!window->isEnabled());
-    FindField<QCheckBox>(&dialog, QStringLiteral("Smooth "))->click();
-    QVERIFY(window->isEnabled());
+    auto* smooth = FindField<QCheckBox>(&dialog, QStringLiteral("Smooth "));
+    auto* centred = FindField<QCheckBox>(&dialog, QStringLiteral("Smooth (centred)"));
+    smooth->click();
+    centred->click();
+    QVERIFY(window->isEnabled() && !smooth->isChecked());
+    smooth->click();
+    QVERIFY(window->isEnabled() && !centred->isChecked());
     FindButton(&dialog, QStringLiteral("Depth"))->click();
     FindButton(&dialog, QStringLiteral("a  b"))->click();
     ModalScript script;
