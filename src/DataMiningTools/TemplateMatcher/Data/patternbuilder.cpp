@@ -2,11 +2,29 @@
 
 #include "dataset.h"
 #include "signalresampling.h"
+#include <QCoreApplication>
+#include <algorithm>
+#include <cmath>
 
 namespace
 {
 
 using Signals = std::vector<std::unique_ptr<SignalTemplateDataObject>>;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("PatternBuilder", text);
+}
+
+QString findFault(ConstSpan<double> values, const QString& name)
+{
+    const auto isMissing = [](double value) { return !std::isfinite(value); };
+    if (std::any_of(values.begin(), values.end(), isMissing))
+        return tr("Error: %1 has missing values in the template.").arg(name);
+    if (std::all_of(values.begin(), values.end(), [=](double value) { return value == values[0]; }))
+        return tr("Error: %1 has the same value all through the template.").arg(name);
+    return QString();
+}
 
 void smooth(SignalTemplateDataObject& signal, const PatternRequest& request)
 {
@@ -47,6 +65,29 @@ bool IsPatternTooLong(const PatternRequest& request)
             return true;
     }
     return false;
+}
+
+QString FindRowFault(const DataSet& dataSet, const PatternRequest& request)
+{
+    for (const int attribute : request.m_Attributes) {
+        QString fault = findFault(dataSet.GetColumn(attribute).Part(request.m_From, request.m_To),
+                                  dataSet.GetAttributeName(attribute));
+        if (!fault.isEmpty())
+            return fault;
+    }
+    return QString();
+}
+
+QString FindPatternFault(const PatternsDataObject& pattern)
+{
+    for (const auto* collection : pattern.GetSignalCollections()) {
+        for (const auto* signal : collection->GetSignals()) {
+            QString fault = findFault(signal->GetValues(), signal->GetAttributeName());
+            if (!fault.isEmpty())
+                return fault;
+        }
+    }
+    return QString();
 }
 
 std::unique_ptr<PatternsDataObject> MakePattern(DataSet* dataSet, const PatternRequest& request)

@@ -165,7 +165,11 @@ bool TemplateDialog::checkInput(const PatternRequest& request)
         ShowDatabaseError(this, tr("Error: No collection selected."));
         return false;
     }
-    return true;
+    const bool hasRows = 0 <= m_From && m_From < m_To && m_To <= m_DataSet->GetRowCount();
+    const QString fault = hasRows ? FindRowFault(*m_DataSet, request) : describeFailure(request);
+    if (!fault.isEmpty())
+        ShowUserError(this, tr("Error"), fault);
+    return fault.isEmpty();
 }
 
 bool TemplateDialog::askFactors(PatternRequest& request)
@@ -177,21 +181,33 @@ bool TemplateDialog::askFactors(PatternRequest& request)
     return true;
 }
 
+QString TemplateDialog::describeFailure(const PatternRequest& request)
+{
+    return IsPatternTooLong(request)
+               ? tr("Error: The template would be too long. All its signals together can have %1 "
+                    "values.")
+                     .arg(MaxSignalLength)
+               : tr("Error: The segment has no rows.");
+}
+
+std::unique_ptr<PatternsDataObject> TemplateDialog::makePattern(const PatternRequest& request)
+{
+    auto pattern = MakePattern(m_DataSet, request);
+    const QString fault = pattern ? FindPatternFault(*pattern) : describeFailure(request);
+    if (fault.isEmpty())
+        return pattern;
+    ShowUserError(this, tr("Error"), fault);
+    return nullptr;
+}
+
 void TemplateDialog::addTemplate()
 {
     PatternRequest request = readInput();
     if (!checkInput(request) || (m_Resample->isChecked() && !askFactors(request)))
         return;
-    auto pattern = MakePattern(m_DataSet, request);
-    if (!pattern) {
-        ShowUserError(this, tr("Error"),
-                      IsPatternTooLong(request)
-                          ? tr("Error: The template would be too long. All its signals together "
-                               "can have %1 values.")
-                                .arg(MaxSignalLength)
-                          : tr("Error: The segment has no rows."));
+    auto pattern = makePattern(request);
+    if (!pattern)
         return;
-    }
     if (pattern->InsertPattern(true) == -1) {
         ShowDatabaseError(this, tr("Error: The template was not stored."));
         return;

@@ -39,6 +39,8 @@ private:
     void fillCollections();
     bool checkInput(const PatternRequest& request);
     PatternRequest readInput() const;
+    static QString describeFailure(const PatternRequest& request);
+    std::unique_ptr<PatternsDataObject> makePattern(const PatternRequest& request);
     bool askFactors(PatternRequest& request);
 
     DataSet* m_DataSet;
@@ -49,8 +51,8 @@ private:
     QComboBox* m_Collection;
     QCheckBox* m_Resample;
     QCheckBox* m_Smooth;
+    QCheckBox* m_SmoothCentred;
     QSpinBox* m_Window;
     std::vector<QCheckBox*> m_Attributes;
-    QCheckBox* m_SmoothCentred;
     std::unique_ptr<PatternsDataObject> m_Pattern;
 };

@@ -28,7 +28,8 @@ std::unique_ptr<DataSet> threeColumns()
 {
     QByteArray text;
     for (int row = 0; row < 4000; ++row)
-        text += QByteArray::number(row) + " 1 " + QByteArray::number(-row) + '\n';
+        text +=
+            QByteArray::number(row) + (row < 9 ? " 1 " : " nan ") + QByteArray::number(-row) + '\n';
     return MakeDataSet(text.constData(),
                        {QStringLiteral("Acc_X"), QStringLiteral("a & b"), QStringLiteral("Depth")});
 }
@@ -163,11 +164,10 @@ void TestTemplateDialogs::storesATemplate()
     smooth->click();
     QVERIFY(window->isEnabled() && !centred->isChecked());
     FindButton(&dialog, QStringLiteral("Depth"))->click();
-    FindButton(&dialog, QStringLiteral("a  b"))->click();
+    FindButton(&dialog, QStringLiteral("Acc_X"))->click();
     ModalScript script;
     script.On<SignalResamplingForm>([](SignalResamplingForm* form) {
-        addFactors(form, " 3 ", "3");
-        addFactors(form, "1", "2");
+        addFactors(form, " 1 ", "2");
         ClickButton(form, QStringLiteral("Done"));
     });
     expectMessage(script, "Pattern Added", "Pattern succesfully uploaded to database");
@@ -185,7 +185,7 @@ void TestTemplateDialogs::storesATemplate()
              QStringList({QStringLiteral("3BFF0000000000000C000000000000000C008000000000000"),
                           QStringLiteral("2BFF0000000000000C008000000000000")}));
     QCOMPARE(ask("SELECT DISTINCT att_name FROM signal_template").value(0),
-             QStringLiteral("a & b"));
+             QStringLiteral("Acc_X"));
     const auto pattern = dialog.TakePattern();
     QCOMPARE(pattern->GetSignalCollections().size(), 2);
     const std::unique_ptr<PatternsDataObject> read(
@@ -230,6 +230,16 @@ void TestTemplateDialogs::refusesFactors()
     form.show();
     QVERIFY(QTest::qWaitForWindowActive(&form));
     addFactors(&form, "1", "2");
+    for (const int from : {0, 9}) {
+        CutSegment segment(from, 12);
+        TemplateDialog dialog(data.get(), &segment);
+        dialog.show();
+        FindField<QLineEdit>(&dialog, QStringLiteral("Name "))->setText(QStringLiteral("Dive"));
+        FindButton(&dialog, QStringLiteral("a  b"))->click();
+        ClickButton(&dialog, QStringLiteral("Save"));
+        QCOMPARE(TakeUserErrors(), QStringList(QStringLiteral(
+                                       "Error: Error: a & b has missing values in the template.")));
+    }
     auto* list = form.findChild<QListWidget*>();
     list->setCurrentRow(0);
     list->setFocus();
@@ -245,6 +255,11 @@ void TestTemplateDialogs::refusesFactors()
 }
 
 void TestTemplateDialogs::losesNothingWhenStoringFails_data()
+    QCOMPARE(form.GetFactors(), (QList<QPair<int, int>>{{1, 2}}));
+    QTest::keyClick(list, Qt::Key_Delete);
+    ClickButton(&form, QStringLiteral("Done"));
+    QCOMPARE(TakeUserErrors(), QStringList(QStringLiteral("Error: Error: No factors entered.")));
+    QVERIFY(form.isVisible());
 {
     QTest::addColumn<QString>("connection");
     QTest::addColumn<QByteArray>("hinder");
