@@ -99,6 +99,7 @@ std::unique_ptr<PatternsDataObject> MakePattern(DataSet* dataSet, const PatternR
         return nullptr;
     auto pattern = std::make_unique<PatternsDataObject>(request.m_CollectionId, request.m_Name,
                                                         request.m_Desc);
+    pattern->SetOrigin(MakeOrigin(*dataSet, request.m_From, request.m_To));
     for (const auto& [up, down] : request.m_Factors) {
         const float factor = float(up) / float(down);
         auto* collection = new SignalTemplateCollectionDataObject(double(factor));

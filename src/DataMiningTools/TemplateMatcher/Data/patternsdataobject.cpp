@@ -35,6 +35,7 @@ PatternsDataObject* PatternsDataObject::GetPattern(int id, bool loadSignals)
             SignalTemplateCollectionDataObject::GetSignalsByPatternID(id);
         if (!LastQueryError().isEmpty())
             return nullptr;
+        pattern->m_Origin = ReadPatternOrigin(id);
     }
     return pattern.release();
 }
@@ -61,6 +62,8 @@ int PatternsDataObject::InsertPattern(bool addSignals)
         }
     }
     if (m_Id != -1 && !transaction.Commit())
+    if (m_Id != -1 && m_Origin.IsKnown() && !StorePatternOrigin(m_Id, m_Origin))
+        return m_Id = -1;
         m_Id = -1;
     return m_Id;
 }

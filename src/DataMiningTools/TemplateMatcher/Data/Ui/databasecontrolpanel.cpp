@@ -4,6 +4,7 @@
 #include "databasemessages.h"
 #include "databasequery.h"
 #include "modaldialog.h"
+#include "templatedetails.h"
 #include "templaterows.h"
 #include "viewpatternform.h"
 #include <QLabel>
@@ -11,7 +12,8 @@
 #include <QVBoxLayout>
 
 DatabaseControlPanel::DatabaseControlPanel(QWidget* parent)
-    : QDialog(parent), m_Collections(makeCollections()), m_Patterns(makePatterns())
+    : QDialog(parent), m_Collections(makeCollections()), m_Patterns(makePatterns()),
+      m_Details(new TemplateDetails)
 {
     setWindowTitle(tr("Template Database"));
     auto* lists = new QHBoxLayout;
@@ -24,9 +26,11 @@ DatabaseControlPanel::DatabaseControlPanel(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel(tr("<h2>Database Control Panel</h2>")));
     layout->addLayout(lists, 1);
+    layout->addWidget(m_Details);
     layout->addWidget(close, 0, Qt::AlignRight);
-    resize(640, 400);
+    resize(640, 480);
     populateListWidget();
+    SelectNewestPattern(*m_Collections, *m_Patterns);
     m_Collections->setFocus();
 }
 
@@ -54,6 +58,7 @@ RowList* DatabaseControlPanel::makePatterns()
     const auto* remove =
         list->AddRowButton(tr("Delete"), tr("Delete the pattern and all its signals for good"),
                            QStringLiteral("icons/trash.png"));
+    connect(list, &RowList::RowChosen, this, &DatabaseControlPanel::showDetails);
     connect(view, &QPushButton::clicked, this, &DatabaseControlPanel::viewPattern);
     connect(remove, &QPushButton::clicked, this, &DatabaseControlPanel::deletePattern);
     return list;
@@ -71,6 +76,12 @@ void DatabaseControlPanel::populateListWidget()
 void DatabaseControlPanel::populatePatternsList(QListWidgetItem* collection)
 {
     m_Patterns->SetRows(ReadPatternRows(this, collection));
+    showDetails();
+}
+
+void DatabaseControlPanel::showDetails()
+{
+    m_Details->ShowPattern(m_Patterns->GetCurrentId());
 }
 
 void DatabaseControlPanel::addCollection()

@@ -5,6 +5,7 @@
 
 class QListWidgetItem;
 class RowList;
+class TemplateDetails;
 
 /// The collections of the template database and their patterns, to be seen, changed and deleted.
 /// The patterns shown are always those of the current collection.
@@ -29,9 +30,11 @@ public slots:
 private:
     RowList* makeCollections();
     RowList* makePatterns();
+    void showDetails();
 
     RowList* m_Collections;
     RowList* m_Patterns;
+    TemplateDetails* m_Details;
 };
 
 /// Shows the template database, which belongs to no recording.
