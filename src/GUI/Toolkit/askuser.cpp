@@ -33,6 +33,16 @@ int AskChoice(QWidget* parent, const QString& title, const QString& label,
     return box ? box->currentIndex() : -1;
 }
 
+std::optional<QString> AskText(QWidget* parent, const QString& title, const QString& label,
+                               const QString& proposal)
+{
+    ModalDialog<QInputDialog> dialog(parent);
+    dialog->setWindowTitle(title);
+    dialog->setLabelText(label);
+    dialog->setTextValue(proposal);
+    return dialog.IsAccepted() ? std::make_optional(dialog->textValue()) : std::nullopt;
+}
+
 int AskAttribute(QWidget* parent, const DataSet& data)
 {
     return AskChoice(parent, QInputDialog::tr("Attribute to export"),

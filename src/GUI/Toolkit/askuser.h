@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <optional>
 
 class DataSet;
 class QWidget;
@@ -19,6 +20,10 @@ bool AskYesNo(QWidget* parent, const QString& title, const QString& question);
 /// cancels.
 int AskChoice(QWidget* parent, const QString& title, const QString& label,
               const QStringList& choices);
+
+/// Asks for a text, where proposal stands at first; nothing when the user cancels.
+std::optional<QString> AskText(QWidget* parent, const QString& title, const QString& label,
+                               const QString& proposal);
 
 /// Asks for an attribute to export; -1 when the user cancels.
 int AskAttribute(QWidget* parent, const DataSet& data);

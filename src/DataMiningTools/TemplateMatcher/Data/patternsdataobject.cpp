@@ -45,6 +45,14 @@ bool PatternsDataObject::DeletePattern(int id)
     return RunForId("DELETE FROM pattern WHERE id = :id", id);
 }
 
+bool PatternsDataObject::RenamePattern(int id, const QString& name)
+{
+    QSqlQuery query = PrepareQuery("UPDATE pattern SET name=:name WHERE id=:id");
+    query.bindValue(QStringLiteral(":name"), name);
+    query.bindValue(QStringLiteral(":id"), id);
+    return RunQuery(query) && query.numRowsAffected() == 1;
+}
+
 int PatternsDataObject::InsertPattern(bool addSignals)
 {
     DatabaseTransaction transaction;
@@ -54,6 +62,8 @@ int PatternsDataObject::InsertPattern(bool addSignals)
     query.bindValue(QStringLiteral(":name"), m_Name);
     query.bindValue(QStringLiteral(":desc"), m_Desc);
     m_Id = RunInsert(query);
+    if (m_Id != -1 && m_Origin.IsKnown() && !StorePatternOrigin(m_Id, m_Origin))
+        return m_Id = -1;
     if (m_Id != -1 && addSignals) {
         for (SignalTemplateCollectionDataObject* collection : qAsConst(m_SignalCollections)) {
             collection->SetPatternId(m_Id);
@@ -62,8 +72,6 @@ int PatternsDataObject::InsertPattern(bool addSignals)
         }
     }
     if (m_Id != -1 && !transaction.Commit())
-    if (m_Id != -1 && m_Origin.IsKnown() && !StorePatternOrigin(m_Id, m_Origin))
-        return m_Id = -1;
         m_Id = -1;
     return m_Id;
 }

@@ -28,6 +28,8 @@ public:
     static PatternsDataObject* GetPattern(int id, bool loadSignals);
     /// Removes a pattern and, by the database's own cascade, its signals.
     static bool DeletePattern(int id);
+    /// Gives a stored pattern another name. False also when it has gone.
+    static bool RenamePattern(int id, const QString& name);
     /// The pattern of the present row of a query, without signals; the caller owns it.
     static PatternsDataObject* FromRow(const QSqlQuery& row);
 
@@ -44,10 +46,10 @@ public:
     void SetName(const QString& name) { m_Name = name; }
     QString GetDesc() const { return m_Desc; }
     void SetDesc(const QString& desc) { m_Desc = desc; }
-    /// By rising frequency factor when read.
-    const QList<SignalTemplateCollectionDataObject*>& GetSignalCollections() const
     const PatternOrigin& GetOrigin() const { return m_Origin; }
     void SetOrigin(const PatternOrigin& origin) { m_Origin = origin; }
+    /// By rising frequency factor when read.
+    const QList<SignalTemplateCollectionDataObject*>& GetSignalCollections() const
     {
         return m_SignalCollections;
     }
@@ -62,6 +64,6 @@ private:
     int m_CollectionId;
     QString m_Name;
     QString m_Desc;
+    PatternOrigin m_Origin;
     QList<SignalTemplateCollectionDataObject*> m_SignalCollections;
 };
-    PatternOrigin m_Origin;

@@ -1,11 +1,13 @@
 #include "databasecontrolpanel.h"
 
 #include "addcollectionform.h"
+#include "askuser.h"
 #include "databasemessages.h"
 #include "databasequery.h"
 #include "modaldialog.h"
 #include "templatedetails.h"
 #include "templaterows.h"
+#include "usererror.h"
 #include "viewpatternform.h"
 #include <QLabel>
 #include <QPushButton>
@@ -28,7 +30,7 @@ DatabaseControlPanel::DatabaseControlPanel(QWidget* parent)
     layout->addLayout(lists, 1);
     layout->addWidget(m_Details);
     layout->addWidget(close, 0, Qt::AlignRight);
-    resize(640, 480);
+    resize(820, 480);
     populateListWidget();
     SelectNewestPattern(*m_Collections, *m_Patterns);
     m_Collections->setFocus();
@@ -55,11 +57,14 @@ RowList* DatabaseControlPanel::makePatterns()
 {
     auto* list = new RowList(tr("Patterns"));
     const auto* view = list->AddRowButton(tr("View"), tr("Show the signals of the pattern"));
+    const auto* rename = list->AddRowButton(tr("Rename"), tr("Give the pattern another name"),
+                                            QStringLiteral("icons/edit.png"));
     const auto* remove =
         list->AddRowButton(tr("Delete"), tr("Delete the pattern and all its signals for good"),
                            QStringLiteral("icons/trash.png"));
     connect(list, &RowList::RowChosen, this, &DatabaseControlPanel::showDetails);
     connect(view, &QPushButton::clicked, this, &DatabaseControlPanel::viewPattern);
+    connect(rename, &QPushButton::clicked, this, &DatabaseControlPanel::renamePattern);
     connect(remove, &QPushButton::clicked, this, &DatabaseControlPanel::deletePattern);
     return list;
 }
@@ -89,7 +94,8 @@ void DatabaseControlPanel::addCollection()
     ModalDialog<AddCollectionForm> form(nullptr, this);
     form->setWindowTitle(tr("Add Collection"));
     connect(form.Get(), &QDialog::accepted, this, &DatabaseControlPanel::populateListWidget);
-    form.Run();
+    if (form.IsAccepted())
+        m_Collections->SetCurrentId(form->GetCollectionId());
 }
 
 void DatabaseControlPanel::editCollection()
@@ -111,6 +117,7 @@ void DatabaseControlPanel::editCollection()
 void DatabaseControlPanel::deleteCollection()
 {
     if (DeleteCurrentRow(*m_Collections, &CollectionsDataObject::DeleteCollection,
+                         tr("Delete the collection \"%1\" and all its patterns?"),
                          tr("Collection Deleted"), tr("Collection succesfully deleted")))
         populateListWidget();
 }
@@ -133,8 +140,27 @@ void DatabaseControlPanel::viewPattern()
 
 void DatabaseControlPanel::deletePattern()
 {
-    if (DeleteCurrentRow(*m_Patterns, &PatternsDataObject::DeletePattern, tr("Pattern Deleted"),
-                         tr("Pattern succesfully deleted")))
+    if (DeleteCurrentRow(*m_Patterns, &PatternsDataObject::DeletePattern,
+                         tr("Delete the pattern \"%1\" and all its signals?"),
+                         tr("Pattern Deleted"), tr("Pattern succesfully deleted")))
+        populatePatternsList(m_Collections->GetCurrentItem());
+}
+
+void DatabaseControlPanel::renamePattern()
+{
+    const int id = m_Patterns->GetCurrentId();
+    if (id == -1)
+        return;
+    const QPointer<DatabaseControlPanel> self(this);
+    const auto name =
+        AskText(this, tr("Rename Pattern"), tr("Name:"), m_Patterns->GetCurrentItem()->text());
+    if (!self || !name)
+        return;
+    if (name->trimmed().isEmpty())
+        ShowUserError(this, tr("Error"), tr("Error: No name entered"));
+    else if (!PatternsDataObject::RenamePattern(id, name->trimmed()))
+        ShowDatabaseError(this, tr("Error: The pattern was not renamed."));
+    else
         populatePatternsList(m_Collections->GetCurrentItem());
 }
 

@@ -21,10 +21,11 @@ public slots:
     void populatePatternsList(QListWidgetItem* collection);
     void addCollection();
     void editCollection();
-    /// Deletes the current collection with all its patterns, without asking.
+    /// Deletes the current collection with all its patterns, after a question.
     void deleteCollection();
     void viewPattern();
-    /// Deletes the current pattern with all its signals, without asking.
+    void renamePattern();
+    /// Deletes the current pattern with all its signals, after a question.
     void deletePattern();
 
 private:

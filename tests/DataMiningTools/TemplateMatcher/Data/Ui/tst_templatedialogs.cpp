@@ -9,6 +9,7 @@
 #include "testdata.h"
 #include "viewpatternform.h"
 #include <QCheckBox>
+#include <QInputDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
@@ -64,6 +65,14 @@ void expectMessage(ModalScript& script, const char* title, const char* text)
         QCOMPARE(box->windowTitle(), QLatin1String(title));
         QCOMPARE(box->text(), QLatin1String(text));
         box->accept();
+    });
+}
+
+void answer(ModalScript& script, const char* question, QMessageBox::StandardButton button)
+{
+    script.On<QMessageBox>([=](QMessageBox* box) {
+        QCOMPARE(box->text(), QString::fromUtf8(question));
+        box->button(button)->click();
     });
 }
 
@@ -219,6 +228,16 @@ void TestTemplateDialogs::refusesInput()
                                 "Error: Error: The segment has no rows."));
         QVERIFY(dialog.isVisible());
     }
+    for (const int from : {0, 9}) {
+        CutSegment segment(from, 12);
+        TemplateDialog dialog(data.get(), &segment);
+        dialog.show();
+        FindField<QLineEdit>(&dialog, QStringLiteral("Name "))->setText(QStringLiteral("Dive"));
+        FindButton(&dialog, QStringLiteral("a  b"))->click();
+        ClickButton(&dialog, QStringLiteral("Save"));
+        QCOMPARE(TakeUserErrors(), QStringList(QStringLiteral(
+                                       "Error: Error: a & b has missing values in the template.")));
+    }
     QCOMPARE(countRows(), QStringLiteral("0 0 0"));
 }
 
@@ -230,20 +249,15 @@ void TestTemplateDialogs::refusesFactors()
     form.show();
     QVERIFY(QTest::qWaitForWindowActive(&form));
     addFactors(&form, "1", "2");
-    for (const int from : {0, 9}) {
-        CutSegment segment(from, 12);
-        TemplateDialog dialog(data.get(), &segment);
-        dialog.show();
-        FindField<QLineEdit>(&dialog, QStringLiteral("Name "))->setText(QStringLiteral("Dive"));
-        FindButton(&dialog, QStringLiteral("a  b"))->click();
-        ClickButton(&dialog, QStringLiteral("Save"));
-        QCOMPARE(TakeUserErrors(), QStringList(QStringLiteral(
-                                       "Error: Error: a & b has missing values in the template.")));
-    }
     auto* list = form.findChild<QListWidget*>();
     list->setCurrentRow(0);
     list->setFocus();
     QTest::keyClick(list, Qt::Key_Delete);
+    QCOMPARE(form.GetFactors(), (QList<QPair<int, int>>{{1, 2}}));
+    QTest::keyClick(list, Qt::Key_Delete);
+    ClickButton(&form, QStringLiteral("Done"));
+    QCOMPARE(TakeUserErrors(), QStringList(QStringLiteral("Error: Error: No factors entered.")));
+    QVERIFY(form.isVisible());
     addFactors(&form, "1000", "1000");
     for (const auto& [up, down] : refused) {
         addFactors(&form, up, down);
@@ -255,11 +269,6 @@ void TestTemplateDialogs::refusesFactors()
 }
 
 void TestTemplateDialogs::losesNothingWhenStoringFails_data()
-    QCOMPARE(form.GetFactors(), (QList<QPair<int, int>>{{1, 2}}));
-    QTest::keyClick(list, Qt::Key_Delete);
-    ClickButton(&form, QStringLiteral("Done"));
-    QCOMPARE(TakeUserErrors(), QStringList(QStringLiteral("Error: Error: No factors entered.")));
-    QVERIFY(form.isVisible());
 {
     QTest::addColumn<QString>("connection");
     QTest::addColumn<QByteArray>("hinder");
@@ -301,6 +310,9 @@ void TestTemplateDialogs::losesNothingWhenStoringFails()
         DatabaseControlPanel panel;
         panel.show();
         listOf(&panel, "Collections")->setCurrentRow(0);
+        ModalScript script;
+        answer(script, "Delete the collection \"Templates\" and all its patterns?",
+               QMessageBox::Yes);
         clickBelow(listOf(&panel, "Collections"), "Delete");
         QCOMPARE(
             TakeUserErrors(),
@@ -334,6 +346,7 @@ void TestTemplateDialogs::tendsCollections()
     clickBelow(list, "Add");
     QCOMPARE(textsOf(list),
              QStringList({QStringLiteral("Templates"), QStringLiteral("It's <b>\"new\"")}));
+    QCOMPARE(list->currentRow(), 1);
     script.Then([](QDialog* form) {
         QCOMPARE(form->windowTitle(), QStringLiteral("Edit Collection"));
         // The name is marked: typing replaces it.
@@ -347,6 +360,11 @@ void TestTemplateDialogs::tendsCollections()
     QCOMPARE(ask("SELECT name || '|' || desc FROM pattern_collection").value(0),
              QStringLiteral("Old|Collection of templates"));
     QCOMPARE(textsOf(listOf(&panel, "Patterns")), QStringList(QStringLiteral("Mine")));
+    const char* question = "Delete the collection \"Old\" and all its patterns?";
+    answer(script, question, QMessageBox::No);
+    clickBelow(list, "Delete");
+    QCOMPARE(countRows(), QStringLiteral("1 2 4"));
+    answer(script, question, QMessageBox::Yes);
     expectMessage(script, "Collection Deleted", "Collection succesfully deleted");
     clickBelow(list, "Delete");
     QCOMPARE(textsOf(list), QStringList(QStringLiteral("It's <b>\"new\"")));
@@ -377,10 +395,12 @@ void TestTemplateDialogs::tendsPatterns()
         const auto* plot = form->findChild<OldLinePlotWidget*>();
         QVERIFY(plot->isWindow() && plot->isVisible());
         QCOMPARE(plot->windowTitle(), QStringLiteral("Depth"));
+        answer(script, "Delete the signal \"Depth\"?", QMessageBox::Yes);
         expectMessage(script, "Signal Template Deleted", "Signal template succesfully deleted");
         clickBelow(found, "Delete");
         QCOMPARE(textsOf(found), QStringList(QStringLiteral("Acc_X")));
         QCOMPARE(countRows(), QStringLiteral("2 4 7"));
+        answer(script, "Delete the signal collection \"2\" and all its signals?", QMessageBox::Yes);
         expectMessage(script, "Signal Collection Deleted", "Signal Collection succesfully deleted");
         templates->setCurrentRow(1);
         clickBelow(templates, "Delete");
@@ -390,6 +410,18 @@ void TestTemplateDialogs::tendsPatterns()
     clickBelow(patterns, "View");
     QCOMPARE(countRows(), QStringLiteral("2 3 5"));
     // The same one is still current, although both have one name.
+    for (const char* name : {"  ", " Yours "}) {
+        script.On<QInputDialog>([=](QInputDialog* dialog) {
+            QCOMPARE(dialog->textValue(), QStringLiteral("Mine"));
+            dialog->setTextValue(QLatin1String(name));
+            dialog->accept();
+        });
+        clickBelow(patterns, "Rename");
+    }
+    QCOMPARE(TakeUserErrors(), QStringList(QStringLiteral("Error: Error: No name entered")));
+    QCOMPARE(ask("SELECT name FROM pattern"),
+             QStringList({QStringLiteral("Mine"), QStringLiteral("Yours")}));
+    answer(script, "Delete the pattern \"Yours\" and all its signals?", QMessageBox::Yes);
     expectMessage(script, "Pattern Deleted", "Pattern succesfully deleted");
     clickBelow(patterns, "Delete");
     QCOMPARE(ask("SELECT id FROM pattern"), QStringList(QStringLiteral("1")));
