@@ -58,3 +58,10 @@ QString AskSavePath(QWidget* parent, const QString& title, const QString& filter
     dialog->setDefaultSuffix(filter.section(QLatin1Char('.'), -1).remove(QLatin1Char(')')));
     return dialog.IsAccepted() ? dialog->selectedFiles().value(0) : QString();
 }
+
+QString AskOpenPath(QWidget* parent, const QString& title, const QString& filter)
+{
+    ModalDialog<QFileDialog> dialog(parent, title, QString(), filter);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    return dialog.IsAccepted() ? dialog->selectedFiles().value(0) : QString();
+}

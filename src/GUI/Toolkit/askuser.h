@@ -32,3 +32,6 @@ int AskAttribute(QWidget* parent, const DataSet& data);
 /// without an ending gets that of the filter, "CSV (*.csv)".
 QString AskSavePath(QWidget* parent, const QString& title, const QString& filter,
                     const QString& proposal = QString());
+
+/// Asks for a file to read; empty when the user cancels. filter: as "CSV (*.csv)".
+QString AskOpenPath(QWidget* parent, const QString& title, const QString& filter);

@@ -5,13 +5,25 @@
 #include "databasemessages.h"
 #include "databasequery.h"
 #include "modaldialog.h"
+#include "patternfile.h"
 #include "templatedetails.h"
 #include "templaterows.h"
 #include "usererror.h"
 #include "viewpatternform.h"
+#include "waitcursor.h"
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+namespace
+{
+
+QString fileFilter()
+{
+    return DatabaseControlPanel::tr("Templates (*.json)");
+}
+
+} // namespace
 
 DatabaseControlPanel::DatabaseControlPanel(QWidget* parent)
     : QDialog(parent), m_Collections(makeCollections()), m_Patterns(makePatterns()),
@@ -46,7 +58,15 @@ RowList* DatabaseControlPanel::makeCollections()
     const auto* remove =
         list->AddRowButton(tr("Delete"), tr("Delete the collection and all its patterns for good"),
                            QStringLiteral("icons/trash.png"));
+    const auto* exportAll =
+        list->AddRowButton(tr("Export"), tr("Copy all templates of the collection to a file"),
+                           QStringLiteral("icons/export.png"));
+    const auto* import =
+        list->AddRowButton(tr("Import"), tr("Add the templates of a file to the collection"),
+                           QStringLiteral("icons/Folder3.png"));
     connect(list, &RowList::RowChosen, this, &DatabaseControlPanel::populatePatternsList);
+    connect(exportAll, &QPushButton::clicked, this, &DatabaseControlPanel::exportCollection);
+    connect(import, &QPushButton::clicked, this, &DatabaseControlPanel::importPatterns);
     connect(add, &QPushButton::clicked, this, &DatabaseControlPanel::addCollection);
     connect(edit, &QPushButton::clicked, this, &DatabaseControlPanel::editCollection);
     connect(remove, &QPushButton::clicked, this, &DatabaseControlPanel::deleteCollection);
@@ -62,9 +82,12 @@ RowList* DatabaseControlPanel::makePatterns()
     const auto* remove =
         list->AddRowButton(tr("Delete"), tr("Delete the pattern and all its signals for good"),
                            QStringLiteral("icons/trash.png"));
+    const auto* exportOne = list->AddRowButton(tr("Export"), tr("Copy the template to a file"),
+                                               QStringLiteral("icons/export.png"));
     connect(list, &RowList::RowChosen, this, &DatabaseControlPanel::showDetails);
     connect(view, &QPushButton::clicked, this, &DatabaseControlPanel::viewPattern);
     connect(rename, &QPushButton::clicked, this, &DatabaseControlPanel::renamePattern);
+    connect(exportOne, &QPushButton::clicked, this, &DatabaseControlPanel::exportPattern);
     connect(remove, &QPushButton::clicked, this, &DatabaseControlPanel::deletePattern);
     return list;
 }
@@ -162,6 +185,67 @@ void DatabaseControlPanel::renamePattern()
         ShowDatabaseError(this, tr("Error: The pattern was not renamed."));
     else
         populatePatternsList(m_Collections->GetCurrentItem());
+}
+
+void DatabaseControlPanel::exportCollection()
+{
+    if (!m_Collections->GetCurrentItem())
+        return;
+    QList<int> ids;
+    for (const RowList::Row& row : ReadPatternRows(this, m_Collections->GetCurrentItem()))
+        ids.append(row.m_Id);
+    exportRows(ids, m_Collections->GetCurrentItem()->text());
+}
+
+void DatabaseControlPanel::exportPattern()
+{
+    if (m_Patterns->GetCurrentItem())
+        exportRows({m_Patterns->GetCurrentId()}, m_Patterns->GetCurrentItem()->text());
+}
+
+void DatabaseControlPanel::exportRows(const QList<int>& ids, const QString& proposal)
+{
+    if (ids.isEmpty()) {
+        ShowUserError(this, tr("Error"), tr("Error: The collection holds no patterns."));
+        return;
+    }
+    const QPointer<DatabaseControlPanel> self(this);
+    const QString path = AskSavePath(this, tr("Export Templates"), fileFilter(),
+                                     QString(proposal).replace(QLatin1Char('/'), QLatin1Char('_')));
+    if (!self || path.isEmpty())
+        return;
+    const WaitCursor wait;
+    QString error;
+    if (!PatternFile::Export(path, ids, error))
+        ShowUserError(this, tr("Error"), error);
+}
+
+void DatabaseControlPanel::importPatterns()
+{
+    const int collection = m_Collections->GetCurrentId();
+    if (collection == -1)
+        return;
+    const QPointer<DatabaseControlPanel> self(this);
+    const QString path = AskOpenPath(this, tr("Import Templates"), fileFilter());
+    if (self && !path.isEmpty())
+        storeImported(path, collection);
+}
+
+void DatabaseControlPanel::storeImported(const QString& path, int collectionId)
+{
+    const WaitCursor wait;
+    QString error;
+    const PatternList patterns = PatternFile::Read(path, error);
+    if (patterns.empty()) {
+        ShowUserError(this, tr("Error"), error);
+        return;
+    }
+    if (!PatternFile::Store(patterns, collectionId)) {
+        ShowDatabaseError(this, tr("Error: The templates were not stored."));
+        return;
+    }
+    populatePatternsList(m_Collections->GetCurrentItem());
+    m_Patterns->SetCurrentId(patterns.back()->GetId());
 }
 
 void ShowTemplateDatabase(const SharedRecording&, QWidget* parent)

@@ -27,11 +27,19 @@ public slots:
     void renamePattern();
     /// Deletes the current pattern with all its signals, after a question.
     void deletePattern();
+    /// Copies all patterns of the current collection to a file that the user chooses.
+    void exportCollection();
+    /// The same for the current pattern alone.
+    void exportPattern();
+    /// Adds the patterns of a file that the user chooses to the current collection.
+    void importPatterns();
 
 private:
     RowList* makeCollections();
     RowList* makePatterns();
     void showDetails();
+    void exportRows(const QList<int>& ids, const QString& proposal);
+    void storeImported(const QString& path, int collectionId);
 
     RowList* m_Collections;
     RowList* m_Patterns;

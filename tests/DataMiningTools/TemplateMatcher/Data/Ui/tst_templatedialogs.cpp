@@ -5,6 +5,7 @@
 #include "modalscript.h"
 #include "oldlineplotwidget.h"
 #include "signalresamplingform.h"
+#include "templatedetails.h"
 #include "templatedialog.h"
 #include "testdata.h"
 #include "viewpatternform.h"
@@ -135,6 +136,7 @@ private slots:
     void tendsCollections();
     void tendsPatterns();
     void survivesOthers();
+    void copiesByFile();
 
 private:
     std::unique_ptr<QTemporaryDir> m_Home;
@@ -459,6 +461,47 @@ void TestTemplateDialogs::survivesOthers()
              QStringList(QStringLiteral(
                  "Error: Error: The collections can't be read. (database is locked)")));
     QCOMPARE(textsOf(listOf(&panel, "Collections")), QStringList(QStringLiteral("Templates")));
+}
+
+void TestTemplateDialogs::copiesByFile()
+{
+    storePattern("Mine");
+    storePattern("Yours");
+    DatabaseControlPanel panel;
+    panel.show();
+    auto* collections = listOf(&panel, "Collections");
+    auto* patterns = listOf(&panel, "Patterns");
+    // What was stored last is shown at once, with all that is known of it.
+    QCOMPARE(patterns->currentItem()->text(), QStringLiteral("Yours"));
+    QCOMPARE(panel.findChild<TemplateDetails*>()->text(),
+             QStringLiteral("Attributes: Acc_X, Depth<br>Sampling rate: 40 Hz<br>"
+                            "Recording: unknown<br>Rows: 0 to 3"));
+    ModalScript script;
+    script.PickFile(m_Home->filePath(QStringLiteral("one.json")));
+    clickBelow(patterns, "Export");
+    script.PickFile(m_Home->filePath(QStringLiteral("all")));
+    clickBelow(collections, "Export");
+    script.PickFile(m_Home->filePath(QStringLiteral("one.json")));
+    patterns->setCurrentRow(0);
+    clickBelow(collections, "Import");
+    QCOMPARE(patterns->currentRow(), 2);
+    QCOMPARE(patterns->currentItem()->text(), QStringLiteral("Yours"));
+    script.PickFile(m_Home->filePath(QStringLiteral("all.json")));
+    clickBelow(collections, "Import");
+    QCOMPARE(countRows(), QStringLiteral("5 10 20"));
+    QCOMPARE(ask("SELECT DISTINCT hex(signal) || signal_mean || signal_sd || att_name FROM "
+                 "signal_template")
+                 .size(),
+             4);
+    QVERIFY(run(QLatin1String(QSqlDatabase::defaultConnection), "PRAGMA query_only = ON"));
+    script.PickFile(m_Home->filePath(QStringLiteral("all.json")));
+    clickBelow(collections, "Import");
+    QCOMPARE(TakeUserErrors(),
+             QStringList(QStringLiteral("Error: Error: The templates were not stored. (attempt to "
+                                        "write a readonly database)")));
+    script.PickFile(QString());
+    clickBelow(collections, "Import");
+    QCOMPARE(countRows(), QStringLiteral("5 10 20"));
 }
 
 QTEST_MAIN(TestTemplateDialogs)
