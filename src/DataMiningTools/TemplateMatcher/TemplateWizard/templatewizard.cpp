@@ -18,7 +18,7 @@ TemplateWizard::TemplateWizard(DataSet* dataSet, CutCollection* cuts, int search
       m_SearchMode(CutSegment::SEGMENT_STATE(searchMode))
 {
     setPage(WELCOME_PAGE, new WelcomePage);
-    setPage(SELECT_PATTERNS_PAGE, new SelectPatternsPage(&m_PatternIds));
+    setPage(SELECT_PATTERNS_PAGE, new SelectPatternsPage(&m_PatternIds, m_DataSet));
     addResultPage();
 }
 

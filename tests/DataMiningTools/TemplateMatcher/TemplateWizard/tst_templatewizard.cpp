@@ -6,13 +6,16 @@
 #include "mousedrag.h"
 #include "resultfilterpage.h"
 #include "segmenttext.h"
+#include "templatedetails.h"
 #include "templatematcherpage.h"
 #include "templatewizard.h"
 #include "testdata.h"
 #include "thresholdmap.h"
 #include "thresholdmapdistribution.h"
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QErrorMessage>
 #include <QInputDialog>
 #include <QLabel>
 #include <QListWidget>
@@ -139,6 +142,7 @@ private slots:
     void staysEmptyWhenNothingIsSearched();
     void tellsWhatCannotBeSearched_data();
     void tellsWhatCannotBeSearched();
+    void tellsWhatDoesNotFit();
     void drawsAFewOfManyMatches();
     void handsTheThresholdOn();
     void findsTheSameBehindALabel();
@@ -301,7 +305,44 @@ void TestTemplateWizard::tellsWhatCannotBeSearched()
     TemplateWizard wizard(m_Data.get(), m_Cuts.get(), CutSegment::SEGMENT_CUT, m_Pattern.get());
     const ModalScript nobody;
     wizard.show();
+    // The box came before the wizard, and is the window that answers all the same.
+    const auto* box = wizard.findChild<QErrorMessage*>();
+    QTRY_COMPARE(QApplication::activeWindow(), box);
     QCOMPARE(TakeUserErrors(), QStringList(QStringLiteral("Error: ") + error));
+}
+
+void TestTemplateWizard::tellsWhatDoesNotFit()
+{
+    MakeCuts(*m_Cuts, "200");
+    QVERIFY(QSqlQuery().exec(QStringLiteral("UPDATE signal_template SET att_name = 'Depth'")));
+    PatternOrigin origin;
+    origin.m_SamplingRate = 25;
+    QVERIFY(StorePatternOrigin(m_Pattern->GetId(), origin));
+    TemplateWizard wizard(m_Data.get(), m_Cuts.get(), CutSegment::SEGMENT_CUT);
+    wizard.show();
+    wizard.next();
+    const QString missing = QStringLiteral("This recording has no attribute Depth.");
+    const QString rate = QStringLiteral("at 25 Hz and this recording at 40 Hz");
+    const QString details = wizard.currentPage()->findChild<TemplateDetails*>()->text();
+    QVERIFY(details.contains(missing) && details.contains(rate));
+    // The template that was stored last is the current one.
+    ClickButton(wizard.currentPage(), QStringLiteral("Apply Pattern"));
+    ModalScript user;
+    chooseAlgorithm(user, QStringLiteral("Correlation"));
+    user.On<AttributeMatchDialog>([=](AttributeMatchDialog* dialog) {
+        QStringList texts;
+        for (const QLabel* label : dialog->findChildren<QLabel*>())
+            texts.append(label->text());
+        QVERIFY(texts.contains(missing));
+        QCOMPARE(texts.filter(rate).size(), 1);
+        dialog->accept();
+        QCOMPARE(TakeUserErrors().size(), 1);
+        QVERIFY(dialog->isVisible());
+        dialog->findChild<QComboBox*>()->setCurrentIndex(0);
+        dialog->accept();
+    });
+    wizard.next();
+    QCOMPARE(statistics(*wizard.currentPage()), found(3));
 }
 
 void TestTemplateWizard::drawsAFewOfManyMatches()
