@@ -132,9 +132,6 @@ void addTemplateSteps(Guide& guide, MainWindow& window)
     });
     guide.Step(QStringLiteral("Give its speeds"), Guide::IsOpen<SignalResamplingForm>, [&] {
         auto* form = Guide::Window<SignalResamplingForm>();
-        for (const char* label : {"Up Factor: ", "Down Factor: "})
-            guide.TypeInto(guide.Field<QLineEdit>(form, QLatin1String(label)), QStringLiteral("1"));
-        guide.Click(guide.Button(form, QStringLiteral("Add")));
         guide.Picture(QStringLiteral("30b-factors"), form);
         guide.Click(guide.Button(form, QStringLiteral("Done")));
     });

@@ -67,23 +67,19 @@ QByteArray TestPatternFile::written()
 
 void TestPatternFile::readsWhatItWrites()
 {
-    written();
+    const QByteArray bytes = written();
+    const QString path = m_Folder.filePath(QStringLiteral("templates.json"));
     QString error;
-    const auto read = PatternFile::Read(m_Folder.filePath(QStringLiteral("templates.json")), error);
+    const auto read = PatternFile::Read(path, error);
     QCOMPARE(error, QString());
-    QCOMPARE(int(read.size()), 2);
-    QCOMPARE(read[1]->GetName(), QStringLiteral("dive"));
-    QCOMPARE(read[0]->GetDesc(), QStringLiteral("a\n\"b\" \u00e4"));
-    QCOMPARE(read[0]->GetOrigin().m_SamplingRate, 25);
-    QCOMPARE(read[0]->GetOrigin().m_Recording, QStringLiteral("walk.csv"));
-    QCOMPARE(read[0]->GetOrigin().m_From, 7);
-    QCOMPARE(read[0]->GetOrigin().m_To, 13);
-    const auto* collection = read[0]->GetSignalCollections()[0];
-    QVERIFY(collection->GetFrequencyFactor() == double(1.0F / 3.0F));
-    QCOMPARE(collection->GetSignals()[1]->GetAttributeName(), QString());
-    const auto& stored = collection->GetSignals()[0]->GetValues();
     // Exactly, as the comparison of vectors is.
-    QVERIFY(stored == std::vector<double>(values, values + length));
+    const auto* signal = read[0]->GetSignalCollections()[1]->GetSignals()[0];
+    QVERIFY(signal->GetValues() == std::vector<double>(values, values + length));
+    QCOMPARE(read[1]->GetDesc(), QStringLiteral("a\n\"b\" \u00e4"));
+    QCOMPARE(read[1]->GetOrigin().m_To, 13);
+    // What is read is written as before.
+    QVERIFY(PatternFile::Write(path, {read[0].get(), read[1].get()}, error));
+    QCOMPARE(readFile(path), bytes);
 }
 
 void TestPatternFile::keepsTheFileWhenItCannotWrite()
@@ -117,7 +113,6 @@ void TestPatternFile::refuses_data()
     QTest::newRow("no version") << QByteArray("\"version\":1") << QByteArray("\"version\":-1")
                                 << broken;
     QTest::newRow("missing value") << QByteArray("0.1") << QByteArray("null") << broken;
-    QTest::newRow("text for a value") << QByteArray("0.1") << QByteArray("\"0.1\"") << broken;
     QTest::newRow("value too large") << QByteArray("0.1") << QByteArray("1e999") << broken;
     QTest::newRow("a value less") << QByteArray("0.1,") << QByteArray() << broken;
     QTest::newRow("no name") << QByteArray("\"dive\"") << QByteArray("\" \"") << broken;

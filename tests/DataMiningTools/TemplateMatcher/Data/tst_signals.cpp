@@ -21,7 +21,6 @@ private slots:
     void smoothsCentred();
     void buildsPatterns();
     void refusesTooMuch();
-    void tellsWhatFindsNothing();
 };
 
 void TestSignals::resamples_data()
@@ -193,29 +192,6 @@ void TestSignals::refusesTooMuch()
     QVERIFY(!IsPatternTooLong(request));
     request.m_Attributes.fill(0, 1000);
     QVERIFY(IsPatternTooLong(request));
-}
-
-void TestSignals::tellsWhatFindsNothing()
-{
-    const auto data = MakeDataSet("1 5 1 0\n2 5 nan 0\n1 5 1 0\n2 5 inf 9");
-    PatternRequest request;
-    request.m_To = 4;
-    const auto fault = [&](int attribute) {
-        request.m_Attributes = {attribute};
-        return FindRowFault(*data, request);
-    };
-    QCOMPARE(fault(0), QString());
-    QCOMPARE(fault(1), QStringLiteral("Error: B has the same value all through the template."));
-    QCOMPARE(fault(2), QStringLiteral("Error: C has missing values in the template."));
-    request.m_From = 2;
-    QCOMPARE(fault(2), QStringLiteral("Error: C has missing values in the template."));
-    QCOMPARE(fault(3), QString());
-    // Every second value is the same.
-    request.m_From = 0;
-    request.m_Attributes = {0};
-    request.m_Factors = {{1, 1}, {1, 2}};
-    QCOMPARE(FindPatternFault(*MakePattern(data.get(), request)),
-             QStringLiteral("Error: A has the same value all through the template."));
 }
 
 QTEST_GUILESS_MAIN(TestSignals)

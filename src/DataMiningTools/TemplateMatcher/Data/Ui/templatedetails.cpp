@@ -1,6 +1,7 @@
 #include "templatedetails.h"
 
 #include "patternorigin.h"
+#include <algorithm>
 
 TemplateDetails::TemplateDetails(QWidget* parent) : QLabel(parent)
 {
@@ -8,8 +9,19 @@ TemplateDetails::TemplateDetails(QWidget* parent) : QLabel(parent)
     setWordWrap(true);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setTextInteractionFlags(Qt::TextSelectableByMouse);
-    // Room for the usual lines, so that the lists above keep their height.
-    setMinimumHeight(5 * fontMetrics().lineSpacing());
+    fitHeight();
+}
+
+void TemplateDetails::fitHeight()
+{
+    // At least for the usual lines, so that the lists above keep their height.
+    setMinimumHeight(std::max(5 * fontMetrics().lineSpacing(), heightForWidth(width())));
+}
+
+void TemplateDetails::resizeEvent(QResizeEvent* event)
+{
+    QLabel::resizeEvent(event);
+    fitHeight();
 }
 
 void TemplateDetails::ShowPattern(int id, const DataSet* dataSet)
@@ -26,4 +38,5 @@ void TemplateDetails::ShowPattern(int id, const DataSet* dataSet)
     for (const QString& mismatch : mismatches)
         lines.append(QStringLiteral("<b>%1</b>").arg(mismatch.toHtmlEscaped()));
     setText(lines.join(QStringLiteral("<br>")));
+    fitHeight();
 }

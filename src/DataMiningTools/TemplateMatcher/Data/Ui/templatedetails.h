@@ -14,4 +14,11 @@ public:
     /// id: of the stored pattern; -1 for none. dataSet: the recording to be searched, for which
     /// the mismatches are told; null for none.
     void ShowPattern(int id, const DataSet* dataSet = nullptr);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    // Keeps room for all lines as they are broken at this width.
+    void fitHeight();
 };
