@@ -21,14 +21,19 @@ public:
     {
         m_Done += rows;
         if (m_Done >= m_NextTold) {
-            constexpr qint64 interval = 1024;
-            m_NextTold = m_Done + interval;
+            m_NextTold = m_Done + m_Interval;
             m_Progress.SetValue(toInt(m_Done));
             m_IsStopped = m_IsStopped || m_Progress.IsStopRequested();
         }
         return !m_IsStopped;
     }
     bool IsStopped() const { return m_IsStopped; }
+    /// Tells, and asks, each time that so many rows are done: fewer for rows that take long.
+    void SetInterval(qint64 rows)
+    {
+        m_Interval = rows;
+        m_NextTold = std::min(m_NextTold, m_Done + rows);
+    }
 
 private:
     static int toInt(qint64 rows)
@@ -39,5 +44,6 @@ private:
     Progress& m_Progress;
     qint64 m_Done = 0;
     qint64 m_NextTold = 0;
+    qint64 m_Interval = 1024;
     bool m_IsStopped = false;
 };

@@ -1,7 +1,9 @@
 #include "cutcollection.h"
 
+#include "cutplan.h"
 #include "dataset.h"
 #include "patternsdataobject.h"
+#include "rowprogress.h"
 #include <QLoggingCategory>
 #include <QSet>
 #include <algorithm>
@@ -62,6 +64,25 @@ void closeGaps(const std::vector<CutSegment*>& segments, int gap)
         }
         previous = segment;
     }
+}
+
+// Fewer than there are pieces when the progress asked to stop.
+std::vector<std::unique_ptr<CutSegment>> makeSegments(const std::vector<CutPiece>& pieces,
+                                                      RowProgress& progress)
+{
+    std::vector<std::unique_ptr<CutSegment>> made;
+    made.reserve(pieces.size());
+    for (size_t i = 0; i < pieces.size() && progress.Advance(); ++i) {
+        made.push_back(std::make_unique<CutSegment>(pieces[i].m_From, pieces[i].m_OriginalTo));
+        made.back()->SetState(pieces[i].m_State);
+    }
+    return made;
+}
+
+void logRefusals(size_t count)
+{
+    for (size_t i = 0; i < count && lcCuts().isDebugEnabled(); ++i)
+        qCDebug(lcCuts, "Insert error - Fix me");
 }
 
 } // namespace
@@ -132,6 +153,75 @@ CutSegment* CutCollection::InsertCut(int at, CutSegment::SEGMENT_STATE state)
     holder->SetTo(at);
     m_Segments.Insert(index + 1, right);
     return right;
+}
+
+bool CutCollection::InsertCutsAt(const std::vector<int>& rows, CutSegment::SEGMENT_STATE state,
+                                 Progress& progress)
+{
+    std::vector<RowSpan> cuts;
+    cuts.reserve(rows.size());
+    for (const int row : rows)
+        cuts.push_back({row, row});
+    RowProgress steps(progress, CountPlanRows(rows.size()) + qint64(rows.size()));
+    const std::vector<PlannedCut> plan = PlanCuts(m_Segments, cuts, steps);
+    logRefusals(rows.size() - plan.size());
+    return spliceIn(PiecesOfPoints(plan, m_Segments, state), steps);
+}
+
+bool CutCollection::InsertRanges(const std::vector<RowSpan>& ranges,
+                                 CutSegment::SEGMENT_STATE state, Progress& progress)
+{
+    if (m_Segments.GetCount() == 0) {
+        for (const RowSpan& range : ranges)
+            InsertCut(range.m_From, range.m_To, state);
+        return true;
+    }
+    RowProgress steps(progress, CountPlanRows(ranges.size()) + 2 * qint64(ranges.size()));
+    const std::vector<PlannedCut> plan = PlanCuts(m_Segments, ranges, steps);
+    logRefusals(ranges.size() - plan.size());
+    return spliceIn(PiecesOfRanges(plan, m_Segments, state), steps);
+}
+
+// Puts new pieces, in their order, behind the segments that they come from.
+bool CutCollection::spliceIn(const std::vector<CutPiece>& pieces, RowProgress& progress)
+{
+    std::vector<std::unique_ptr<CutSegment>> made = makeSegments(pieces, progress);
+    if (progress.IsStopped())
+        return false;
+    const std::vector<CutSegment*> segments = m_Segments.TakeAll();
+    std::vector<CutSegment*> spliced;
+    spliced.reserve(segments.size() + pieces.size());
+    size_t next = 0;
+    for (size_t holder = 0; holder < segments.size(); ++holder) {
+        const int end = segments[holder]->GetTo();
+        spliced.push_back(segments[holder]);
+        for (; next < pieces.size() && pieces[next].m_Holder == int(holder); ++next) {
+            spliced.back()->SetTo(pieces[next].m_From);
+            spliced.push_back(made[next].get());
+        }
+        spliced.back()->SetTo(end);
+    }
+    m_Segments.PutAll(std::move(spliced));
+    std::move(made.begin(), made.end(), std::back_inserter(m_Owned));
+    return true;
+}
+
+std::optional<CutReview> CutCollection::ReviewCuts(const std::vector<RowSpan>& cuts,
+                                                   Progress& progress) const
+{
+    RowProgress steps(progress, CountPlanRows(cuts.size()));
+    const std::vector<PlannedCut> plan = PlanCuts(m_Segments, cuts, steps);
+    if (steps.IsStopped())
+        return std::nullopt;
+    CutReview review;
+    review.m_Count = int(plan.size());
+    for (const PlannedCut& cut : plan) {
+        const CutSegment* holder = m_Segments.Get(cut.m_Holder);
+        if (holder->GetState() == CutSegment::SEGMENT_LABELED &&
+            cut.m_Rows.m_From < holder->GetTo())
+            review.m_InLabels.push_back(cut.m_Order);
+    }
+    return review;
 }
 
 void CutCollection::InsertCuts(bool** hits, int templates, int length, PatternsDataObject* pattern,
@@ -219,28 +309,6 @@ std::optional<SegmentRemoval> CutCollection::TakeOut(CutSegment* cut)
     }
     removal.m_Index = m_Segments.Remove(cut);
     return removal;
-}
-
-SegmentPlaces CutCollection::GetPlaces() const
-{
-    SegmentPlaces places;
-    for (CutSegment* segment : m_Segments)
-        places.emplace_back(segment, segment->GetEnds());
-    return places;
-}
-
-void CutCollection::ReturnTo(const SegmentPlaces& places)
-{
-    m_Segments.TakeAll();
-    std::vector<CutSegment*> segments;
-    for (const auto& [segment, ends] : places) {
-        segment->MoveFrom(ends.m_OriginalFrom);
-        segment->MoveTo(ends.m_OriginalTo);
-        segment->SetFrom(ends.m_From);
-        segment->SetTo(ends.m_To);
-        segments.push_back(segment);
-    }
-    m_Segments.PutAll(std::move(segments));
 }
 
 CutSegment* CutCollection::findNeighbour(const CutSegment* cut, const EndLimits& limits,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cutsegment.h"
+#include "progress.h"
 #include "rowspan.h"
 #include "segmentlist.h"
 #include <QList>
@@ -11,6 +12,8 @@
 
 class DataSet;
 class PatternsDataObject;
+class RowProgress;
+struct CutPiece;
 
 /// What the removal of a segment has changed beside it. A neighbour that there was not, or that
 /// stayed as it was, is null.
@@ -25,8 +28,14 @@ struct SegmentRemoval {
     int m_Index = -1;
 };
 
-/// The segments of a collection at some time, in their order, and their ends.
-using SegmentPlaces = std::vector<std::pair<CutSegment*, SegmentEnds>>;
+/// What becomes of cuts that are asked for.
+struct CutReview {
+    /// How many cuts there will be: those that no segment refuses.
+    int m_Count = 0;
+    /// Of these, the places among those asked for of cuts that shorten a labelled segment. A cut
+    /// at a label's end shortens nothing.
+    std::vector<int> m_InLabels;
+};
 
 /// The ordered partition of a recording's rows into segments.
 ///
@@ -62,6 +71,18 @@ public:
     /// Splits the segment that holds row at; the new segment is the right part. Null when there
     /// is none.
     CutSegment* InsertCut(int at, CutSegment::SEGMENT_STATE state);
+    /// Does what InsertCut does for each of the rows in their order, in one walk over the segments:
+    /// n log n for n rows. False, and nothing changed, when the progress asked to stop.
+    bool InsertCutsAt(const std::vector<int>& rows, CutSegment::SEGMENT_STATE state,
+                      Progress& progress = NoProgress::Shared());
+    /// The same with InsertCut of a range, for ranges of which none starts before the end of the
+    /// one in front.
+    bool InsertRanges(const std::vector<RowSpan>& ranges, CutSegment::SEGMENT_STATE state,
+                      Progress& progress = NoProgress::Shared());
+    /// What InsertRanges will do, or InsertCutsAt for spans that start and end at a row, in any
+    /// order. None when the progress asked to stop.
+    std::optional<CutReview> ReviewCuts(const std::vector<RowSpan>& cuts,
+                                        Progress& progress = NoProgress::Shared()) const;
     /// Makes search hits into segments that await a decision. hits[t][i] tells that template t
     /// of the pattern matched with its centre on row i, for templates templates and length rows;
     /// rows that are the second member of an excluded pair are left out, and so are hits across
@@ -91,15 +112,12 @@ public:
     void MoveSegment(DataSet* dataSet, CutSegment* segment, int from, int to);
     /// By first row; segments with the same one keep their order.
     void Sort();
-    SegmentPlaces GetPlaces() const;
-    /// Returns to the segments of a time before, and to their ends; segments made since then leave
-    /// the list.
-    void ReturnTo(const SegmentPlaces& places);
 
 private:
     CutSegment* findNeighbour(const CutSegment* cut, const EndLimits& limits,
                               const char* message) const;
     CutSegment* newSegment(int from, int to);
+    bool spliceIn(const std::vector<CutPiece>& pieces, RowProgress& progress);
 
     SegmentList m_Segments;
     // Owns every segment that was ever in the list.

@@ -52,6 +52,14 @@ bool goesOn(RowProgress* progress, size_t rows)
     return !progress || progress->Advance(qint64(rows));
 }
 
+// A window that is as long as the recording takes as long as a thousand short ones.
+void tellByWork(RowProgress* progress, int window)
+{
+    constexpr int valuesBetween = 1 << 20;
+    if (progress)
+        progress->SetInterval(std::max(1, std::min(1024, valuesBetween / std::max(1, window))));
+}
+
 // The number of starts 0, step, ... that lie more than window before the end.
 size_t countBlocks(size_t values, int window, int step)
 {
@@ -69,6 +77,7 @@ std::vector<float> BlockMeans(ConstSpan<double> values, int window, int step, Ro
     std::vector<float> means(countBlocks(smooth.size(), window, step));
     if (means.empty())
         return smooth;
+    tellByWork(progress, window);
     const auto width = size_t(window);
     const auto stride = size_t(step);
     size_t block = 0;
@@ -91,6 +100,7 @@ std::vector<float> LocalVariances(const std::vector<float>& values, int window,
     const size_t windows = countBlocks(values.size(), window, 1);
     if (windows == 0)
         return variances;
+    tellByWork(progress, window);
     size_t start = 0;
     for (; start + lanes <= windows && goesOn(progress, lanes); start += lanes) {
         const auto found = variancesFrom<lanes>(&values[start], size_t(window));

@@ -1,31 +1,15 @@
 #include "persistenceextractor.h"
 
-#include "rowprogress.h"
+#include "stoppablesort.h"
 #include <algorithm>
 #include <cmath>
 #include <tuple>
 
-namespace
-{
-
-// So many values are sorted at once, then twice as many are joined, and so on: between two steps
-// there is time to ask whether to go on.
-constexpr size_t sortedAtOnce = size_t(1) << 17;
-
-size_t countJoins(size_t values)
-{
-    size_t joins = 0;
-    for (size_t sorted = sortedAtOnce; sorted < values; sorted *= 2)
-        ++joins;
-    return joins;
-}
-
-} // namespace
-
 bool PersistenceExtractor::extract(const std::vector<float>& data, Progress& progress)
 {
     takeData(data);
-    RowProgress steps(progress, qint64(m_Data.size() * (countJoins(m_Data.size()) + 2)));
+    const size_t size = m_Data.size();
+    RowProgress steps(progress, StoppableSort::CountRows(size) + qint64(size));
     const bool isDone = sortIndices(steps) && floodAll(steps);
     if (!isDone)
         m_Pairs.clear();
@@ -61,20 +45,7 @@ bool PersistenceExtractor::sortIndices(RowProgress& progress)
     const auto isLower = [](const auto& a, const auto& b) {
         return std::tie(a.second, a.first) < std::tie(b.second, b.first);
     };
-    const auto at = [&](size_t i) { return m_SortedIndices.begin() + qptrdiff(std::min(i, size)); };
-    for (size_t from = 0; from < size; from += sortedAtOnce) {
-        std::sort(at(from), at(from + sortedAtOnce), isLower);
-        if (!progress.Advance(sortedAtOnce))
-            return false;
-    }
-    for (size_t sorted = sortedAtOnce; sorted < size; sorted *= 2) {
-        for (size_t from = 0; from < size; from += 2 * sorted) {
-            std::inplace_merge(at(from), at(from + sorted), at(from + 2 * sorted), isLower);
-            if (!progress.Advance(qint64(2 * sorted)))
-                return false;
-        }
-    }
-    return true;
+    return StoppableSort::Run(m_SortedIndices, isLower, progress);
 }
 
 bool PersistenceExtractor::floodAll(RowProgress& progress)

@@ -191,9 +191,11 @@ void TestCutCollection::logsRefusals()
     QLoggingCategory::setFilterRules(QStringLiteral("skerrymoor.cuts.debug=true"));
     CutCollection cuts;
     MakeCuts(cuts, "10 100");
-    for (const char* text : {"Insert error - Fix me", "Mering labels 3", "Right found"})
+    for (const char* text :
+         {"Insert error - Fix me", "Insert error - Fix me", "Mering labels 3", "Right found"})
         QTest::ignoreMessage(QtDebugMsg, text);
     cuts.InsertCut(5, 15, plain);
+    cuts.InsertCutsAt({101}, plain);
     cuts.MergeLabels(3);
     cuts.RemoveSegment(cuts.GetSegment(0));
     QLoggingCategory::setFilterRules(QString());

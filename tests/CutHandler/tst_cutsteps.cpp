@@ -1,9 +1,11 @@
 #include "segmenttext.h"
+#include "stoppingprogress.h"
 #include "testdata.h"
 
 #include <QTest>
 #include <algorithm>
 #include <random>
+#include <set>
 
 namespace
 {
@@ -44,9 +46,14 @@ public:
         return Find([=](const Segment& s) { return s.m_From <= row && row <= s.m_To; });
     }
 
+    int FindHolder(int from, int to) const
+    {
+        return Find([=](const Segment& s) { return s.m_From <= from && s.m_To >= to; });
+    }
+
     void Insert(int from, int to, int state)
     {
-        const int i = Find([=](const Segment& s) { return s.m_From <= from && s.m_To >= to; });
+        const int i = FindHolder(from, to);
         if (i < 0 || from > to)
             return;
         insert(begin() + i + 1, {Segment(from, to, state), Segment(to, At(i).m_To)});
@@ -188,7 +195,7 @@ public:
         const int index = choose(m_Cuts.GetSegmentCount());
         const int from = choose(m_Rows + 1);
         const int to = from + choose(std::min(m_Rows + 1 - from, choose(2) ? 12 : m_Rows));
-        switch (choose(m_IsCareful ? 8 : 12)) {
+        switch (choose(m_IsCareful ? 8 : 14)) {
         case 0:
         case 1:
             if (!m_IsCareful || (from != to && !isBoundary(from) && !isBoundary(to)))
@@ -217,6 +224,12 @@ public:
             m_Cuts.MoveSegment(&m_Data, m_Cuts.GetSegment(index), from, to);
             m_Plain.Move(m_Rows, index, from, to);
             break;
+        case 9:
+            splitMany();
+            break;
+        case 10:
+            cutMany();
+            break;
         default:
             changeEnd(index, from);
         }
@@ -225,6 +238,8 @@ public:
     // Empty while all is well.
     QString Complaint()
     {
+        if (!m_Complaint.isEmpty())
+            return m_Complaint + ToText(m_Cuts);
         if (m_Cuts.GetSegmentCount() != int(m_Plain.size()))
             return QStringLiteral("count: ") + ToText(m_Cuts);
         for (int i = 0; i < m_Cuts.GetSegmentCount(); ++i) {
@@ -255,6 +270,77 @@ private:
         const auto state = choose(2) ? plain : result;
         m_Cuts.InsertCut(from, to, state);
         m_Plain.Insert(from, to, state);
+    }
+
+    // Inside and outside the recording, at boundaries, and some of them several times.
+    int someRow()
+    {
+        return choose(3) ? choose(m_Rows + 4) - 2
+                         : m_Plain.At(choose(std::min(9, int(m_Plain.size())))).m_To;
+    }
+
+    // All at once, on the twin one by one.
+    void splitMany()
+    {
+        std::vector<int> rows(size_t(choose(40)));
+        std::vector<RowSpan> cuts;
+        for (int& row : rows) {
+            row = someRow();
+            cuts.push_back({row, row});
+        }
+        review(cuts);
+        std::vector<CutSegment*> before;
+        for (int i = 0; i < m_Cuts.GetSegmentCount(); ++i)
+            before.push_back(m_Cuts.GetSegment(i));
+        StoppingProgress stop(1);
+        if (!rows.empty() && m_Cuts.InsertCutsAt(rows, plain, stop))
+            m_Complaint = QStringLiteral("not stopped: ");
+        const auto state = choose(2) ? plain : result;
+        m_Cuts.InsertCutsAt(rows, state);
+        for (const int row : rows)
+            m_Plain.Split(row, state);
+        // Old segments keep their order; what stands between them is new.
+        size_t old = 0;
+        for (int i = 0; i < m_Cuts.GetSegmentCount(); ++i) {
+            if (old < before.size() && m_Cuts.GetSegment(i) == before[old])
+                ++old;
+            else if (m_Cuts.GetSegment(i)->GetColor() != Qt::black)
+                m_Complaint = QStringLiteral("colour of %1: ").arg(i);
+        }
+        if (old != before.size())
+            m_Complaint = QStringLiteral("other order: ");
+    }
+
+    void cutMany()
+    {
+        std::vector<int> rows(size_t(2 + choose(12)));
+        for (int& row : rows)
+            row = someRow();
+        std::sort(rows.begin(), rows.end());
+        std::vector<RowSpan> cuts;
+        for (size_t i = 1; i < rows.size(); ++i)
+            cuts.push_back({rows[i - 1], rows[i]});
+        review(cuts);
+        m_Cuts.InsertRanges(cuts, result);
+        for (const RowSpan& span : cuts)
+            m_Plain.Insert(span.m_From, span.m_To, result);
+    }
+
+    void review(const std::vector<RowSpan>& cuts)
+    {
+        const CutReview review = *m_Cuts.ReviewCuts(cuts);
+        int count = 0;
+        std::set<int> inLabels;
+        for (size_t i = 0; i < cuts.size(); ++i) {
+            const int holder = m_Plain.FindHolder(cuts[i].m_From, cuts[i].m_To);
+            count += int(holder >= 0);
+            if (holder >= 0 && m_Plain.At(holder).m_State == labelled &&
+                cuts[i].m_From < m_Plain.At(holder).m_To)
+                inLabels.insert(int(i));
+        }
+        if (count != review.m_Count ||
+            inLabels != std::set<int>(review.m_InLabels.begin(), review.m_InLabels.end()))
+            m_Complaint = QStringLiteral("another review: ");
     }
 
     void changeLabel(int index)
@@ -345,6 +431,7 @@ private:
     CutCollection m_Cuts;
     PlainCuts m_Plain;
     LabelCollection m_Labels;
+    QString m_Complaint;
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "cutautomation.h"
 
+#include "askuser.h"
 #include "cutcollection.h"
 #include "dataset.h"
 #include "dialogprogress.h"
@@ -10,9 +11,9 @@
 #include "periodiccutdialog.h"
 #include "pipcutdialog.h"
 #include "pipextractor.h"
-#include "rowprogress.h"
 #include "simplecuts.h"
 #include "usererror.h"
+#include <QLocale>
 #include <QStringList>
 #include <optional>
 
@@ -27,12 +28,23 @@ enum Method {
     MINIMA_MAXIMA = 4
 };
 
+QString title()
+{
+    return CutAutomation::tr("Automatic Cutting");
+}
+
+// For a sentence: 12,345.
+QString number(int count)
+{
+    return QLocale(QLocale::English).toString(count);
+}
+
 // Finding the rows and cutting there; nothing is cut when the user stops it.
 class CutProgress : public DialogProgress
 {
 public:
     explicit CutProgress(QWidget* parent)
-        : DialogProgress(parent, CutAutomation::tr("Automatic Cutting"), CAN_STOP, SHOW_WHEN_LONG)
+        : DialogProgress(parent, title(), CAN_STOP, SHOW_WHEN_LONG)
     {
         SetLabelText(CutAutomation::tr("Cutting the recording"));
     }
@@ -47,6 +59,37 @@ auto ask(Arguments&&... arguments)
     if (!dialog.IsAccepted())
         return std::nullopt;
     return dialog->GetParameters();
+}
+
+// None when the user stops the search.
+std::vector<RowSpan> partsBetweenPoints(const DataSet& data, const PipCutParameters& chosen,
+                                        QWidget* parent)
+{
+    CutProgress progress(parent);
+    PIPExtractor extractor;
+    extractor.setDataSet(&data);
+    extractor.setMeasure(chosen.m_Measure);
+    extractor.extract(chosen.m_Attribute, chosen.m_Partitions, chosen.m_MinimumDistance,
+                      chosen.m_Stopping, progress);
+    std::vector<RowSpan> parts;
+    parts.reserve(extractor.getSegments().size());
+    for (const PIPSegment& segment : extractor.getSegments())
+        parts.push_back({segment.m_Start, segment.m_End});
+    return parts;
+}
+
+template <class Cut>
+void takeAway(std::vector<Cut>& cuts, const std::vector<int>& places)
+{
+    std::vector<char> isLeftOut(cuts.size(), 0);
+    for (const int place : places)
+        isLeftOut[size_t(place)] = 1;
+    size_t kept = 0;
+    for (size_t i = 0; i < cuts.size(); ++i) {
+        if (!isLeftOut[i])
+            cuts[kept++] = cuts[i];
+    }
+    cuts.resize(kept);
 }
 
 } // namespace
@@ -94,18 +137,7 @@ void CutAutomation::cutAtImportantPoints()
     const auto chosen = ask<PipCutDialog>(PipCutParameters(), *m_DataSet, m_Parent);
     if (!chosen)
         return;
-    CutProgress progress(m_Parent);
-    PIPExtractor extractor;
-    extractor.setDataSet(m_DataSet);
-    extractor.setMeasure(chosen->m_Measure);
-    if (!extractor.extract(chosen->m_Attribute, chosen->m_Partitions, chosen->m_MinimumDistance,
-                           chosen->m_Stopping, progress))
-        return;
-    const std::vector<PIPSegment>& segments = extractor.getSegments();
-    insertCuts(int(segments.size()), progress, [&](int i) {
-        const PIPSegment& segment = segments[size_t(i)];
-        m_CutCollection->InsertCut(segment.m_Start, segment.m_End, CutSegment::SEGMENT_CUT);
-    });
+    insertRanges(partsBetweenPoints(*m_DataSet, *chosen, m_Parent));
 }
 
 void CutAutomation::cutPeriodically()
@@ -113,8 +145,7 @@ void CutAutomation::cutPeriodically()
     const auto chosen = ask<PeriodicCutDialog>(PeriodicCutParameters(), m_Parent);
     if (!chosen)
         return;
-    CutProgress progress(m_Parent);
-    insertCuts(PeriodicCuts(*m_DataSet, *chosen), progress);
+    insertAt(PeriodicCuts(*m_DataSet, *chosen));
 }
 
 void CutAutomation::cutAtSharpTransitions()
@@ -122,11 +153,13 @@ void CutAutomation::cutAtSharpTransitions()
     const auto chosen = ask<LocalVarianceDialog>(LocalVarianceParameters(), *m_DataSet, m_Parent);
     if (!chosen)
         return;
-    CutProgress progress(m_Parent);
     LocalVarianceExtractor extractor;
     extractor.setDataSet(m_DataSet);
-    extractor.extract(*chosen, progress);
-    insertCuts(extractor.getIndices(), progress);
+    {
+        CutProgress progress(m_Parent);
+        extractor.extract(*chosen, progress);
+    }
+    insertAt(extractor.getIndices());
 }
 
 void CutAutomation::cutAtExtrema()
@@ -134,38 +167,84 @@ void CutAutomation::cutAtExtrema()
     const auto chosen = ask<MinimaMaximaDialog>(MinimaMaximaParameters(), *m_DataSet, m_Parent);
     if (!chosen)
         return;
+    std::vector<int> rows;
+    {
+        CutProgress progress(m_Parent);
+        rows = MinimaMaximaCuts(*m_DataSet, *chosen, progress);
+    }
+    insertAt(std::move(rows));
+}
+
+void CutAutomation::insertAt(std::vector<int> rows)
+{
+    std::vector<RowSpan> cuts;
+    cuts.reserve(rows.size());
+    for (const int row : rows)
+        cuts.push_back({row, row});
+    const auto leftOut = askAbout(cuts);
+    if (!leftOut)
+        return;
+    takeAway(rows, *leftOut);
     CutProgress progress(m_Parent);
-    insertCuts(MinimaMaximaCuts(*m_DataSet, *chosen, progress), progress);
+    m_CutCollection->InsertCutsAt(rows, CutSegment::SEGMENT_CUT, progress);
 }
 
-void CutAutomation::insertCuts(const std::vector<int>& rows, Progress& progress)
+void CutAutomation::insertRanges(std::vector<RowSpan> ranges)
 {
-    insertCuts(int(rows.size()), progress, [&](int i) {
-        m_CutCollection->InsertCut(rows[size_t(i)], CutSegment::SEGMENT_CUT);
-    });
+    const auto leftOut = askAbout(ranges);
+    if (!leftOut)
+        return;
+    takeAway(ranges, *leftOut);
+    CutProgress progress(m_Parent);
+    m_CutCollection->InsertRanges(ranges, CutSegment::SEGMENT_CUT, progress);
 }
 
-void CutAutomation::insertCuts(int count, Progress& progress,
-                               const std::function<void(int)>& insert)
+std::optional<std::vector<int>> CutAutomation::askAbout(const std::vector<RowSpan>& cuts)
 {
-    const SegmentPlaces before = m_CutCollection->GetPlaces();
-    RowProgress steps(progress, count);
-    for (int i = 0; i < count; ++i) {
-        if (!steps.Advance()) {
-            m_CutCollection->ReturnTo(before);
-            return;
-        }
-        insert(i);
+    std::optional<CutReview> review;
+    {
+        CutProgress progress(m_Parent);
+        review = m_CutCollection->ReviewCuts(cuts, progress);
+    }
+    if (!review)
+        return std::nullopt;
+    if (!review->m_InLabels.empty())
+        return askAboutLabels(*review);
+    const QString question = tr("%1 cuts would be made, and there is no undo. Make them?");
+    if (review->m_Count > ManyCuts &&
+        !AskYesNo(m_Parent, title(), question.arg(number(review->m_Count))))
+        return std::nullopt;
+    return std::vector<int>();
+}
+
+std::optional<std::vector<int>> CutAutomation::askAboutLabels(const CutReview& review)
+{
+    const int inLabels = int(review.m_InLabels.size());
+    const QString all = number(review.m_Count);
+    const QString question = tr("%1 cuts would be made, %2 of them inside labels, and there is no "
+                                "undo.\nA label that is cut keeps only the part before the cut.");
+    const QStringList choices{
+        tr("Leave out those inside labels: %1 cuts").arg(number(review.m_Count - inLabels)),
+        tr("Cut labels too: %1 cuts").arg(all)};
+    switch (AskChoice(m_Parent, title(), question.arg(all, number(inLabels)), choices)) {
+    case 0:
+        return review.m_InLabels;
+    case 1:
+        return std::vector<int>();
+    default:
+        return std::nullopt;
     }
 }
 
 void CutByItself(const SharedRecording& recording, QWidget* parent, int method)
 {
+    // The window may close, or open another recording, while it asks.
+    const SharedRecording kept = recording->shared_from_this();
     CutAutomation cutter(parent);
-    cutter.setDataSet(recording->GetDataSet());
-    cutter.setCutCollection(recording->GetCutCollection());
+    cutter.setDataSet(kept->GetDataSet());
+    cutter.setCutCollection(kept->GetCutCollection());
     if (cutter.generateCuts(method))
-        recording->TellSegments();
+        kept->TellSegments();
     else
         ShowUserError(parent, CutAutomation::tr("Error Generating Cuts"), cutter.getErrorMessage());
 }

@@ -7,10 +7,15 @@
 #include "pipcutdialog.h"
 #include "segmenttext.h"
 #include "testdata.h"
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QInputDialog>
+#include <QMessageBox>
 #include <QSlider>
 #include <QtTest>
+#include <functional>
+#include <random>
 
 namespace
 {
@@ -48,7 +53,9 @@ QString describe(const QDialog* dialog)
 }
 
 // Answers the dialog of a method, a line "label=value" for each field, and returns the cuts.
-QString generate(int method, const DataSet& data, const QString& answers, const QByteArray& ends)
+// Later windows are answered by script.
+QString generate(int method, const DataSet& data, const QString& answers, const QByteArray& ends,
+                 const std::function<void(ModalScript&)>& later = {})
 {
     CutCollection cuts;
     MakeCuts(cuts, ends.constData());
@@ -59,6 +66,8 @@ QString generate(int method, const DataSet& data, const QString& answers, const 
                  answer.section(QLatin1Char('='), 1));
         QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
     });
+    if (later)
+        later(script);
     CutAutomation automation;
     automation.setDataSet(&data);
     automation.setCutCollection(&cuts);
@@ -78,7 +87,10 @@ private slots:
     void dialogs();
     void generates_data();
     void generates();
-    void cutsNothingWhenStopped();
+    void asksFirst_data();
+    void asksFirst();
+    void stops_data();
+    void stops();
     void sizeFollowsSlider();
     void startValues();
 };
@@ -167,8 +179,7 @@ void TestCutAutomation::generates_data()
     row("every 4", PERIODIC, ten, "Cut Size=4", "10", "(0,4) (4,8) (8,10)");
     row("every 0", PERIODIC, ten, "Cut Size=0", "10", "(0,10)");
     row("beyond the end", PERIODIC, ten, "Cut Size=1000", "10", "(0,10)");
-    row("through a label", PERIODIC, ten, "Cut Size=4", "2 9L 10",
-        "(0,2) L(2,4) (4,8) (8,9) (9,10)");
+    row("at a label's end", PERIODIC, ten, "Cut Size=4", "4L 10", "L(0,4) (4,4) (4,8) (8,10)");
     row("refused cuts", PERIODIC, ten, "Cut Size=2", "5", "(0,2) (2,4) (4,5)");
     // The lowest minimum, in row 0, has no maximum.
     const QByteArray curve = "0\n2\n4\n2\n6\n9\n3\n5\n";
@@ -201,28 +212,106 @@ void TestCutAutomation::generates()
     QCOMPARE(generate(method, *data, answers, ends), cuts);
 }
 
-void TestCutAutomation::cutsNothingWhenStopped()
+void TestCutAutomation::asksFirst_data()
 {
-    // So many cuts that there is time to press Cancel while they are made.
+    QTest::addColumn<int>("method");
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<QByteArray>("ends");
+    QTest::addColumn<QString>("question");
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QString>("cuts");
+    const auto row = [](const char* name, int method, int rows, const char* ends,
+                        const char* question, int answer, const char* cuts) {
+        QTest::newRow(name) << method << rows << QByteArray(ends) << QString::fromLatin1(question)
+                            << answer << QString::fromLatin1(cuts);
+    };
+    row("not many", PERIODIC, 10'001, "10001", "", 0, "10001 segments");
+    const char* many = "10,001 cuts would be made, and there is no undo. Make them?";
+    row("many", PERIODIC, 10'002, "10002", many, QMessageBox::Yes, "10002 segments");
+    row("too many", PERIODIC, 10'002, "10002", many, QMessageBox::No, "(0,10002)");
+    row("many, but refused", PERIODIC, 10'002, "5", "", 0, "(0,1) (1,2) (2,3) (3,4) (4,5) (5,5)");
+    const char* inLabel = "8 cuts would be made, 3 of them inside labels, and there is no undo.\n"
+                          "A label that is cut keeps only the part before the cut.";
+    row("label", PERIODIC, 9, "3 7L 9", inLabel, -1, "(0,3) L(3,7) (7,9)");
+    row("label left whole", PERIODIC, 9, "3 7L 9", inLabel, 0,
+        "(0,1) (1,2) (2,3) (3,3) L(3,7) (7,7) (7,8) (8,9)");
+    row("label cut", PERIODIC, 9, "3 7L 9", inLabel, 1,
+        "(0,1) (1,2) (2,3) (3,3) L(3,4) (4,5) (5,6) (6,7) (7,7) (7,8) (8,9)");
+    const char* inLabels = "2 cuts would be made, 1 of them inside labels, and there is no undo.\n"
+                           "A label that is cut keeps only the part before the cut.";
+    row("points, label left whole", IMPORTANT_POINTS, 8, "4 8L", inLabels, 0,
+        "(0,0) (0,4) (4,4) L(4,8)");
+    row("points, label cut", IMPORTANT_POINTS, 8, "4 8L", inLabels, 1,
+        "(0,0) (0,4) (4,4) L(4,4) (4,7) (7,8)");
+}
+
+// Says what it is about to do where that is much, or costs a label, and does what was answered.
+void TestCutAutomation::asksFirst()
+{
+    QFETCH(int, method);
+    QFETCH(int, rows);
+    QFETCH(QByteArray, ends);
+    QFETCH(QString, question);
+    QFETCH(int, answer);
+    QFETCH(QString, cuts);
     DataSet data;
-    data.AddColumn(QStringLiteral("A"), ATTRIBUTE_OTHER, DataColumn(2'000'000, 1.0));
-    CutCollection cuts;
-    MakeCuts(cuts, "900 100000L 2000000");
-    const QString before = ToText(cuts);
-    ModalScript script;
-    script.Then([](QDialog* dialog) {
-        fill(dialog, QStringLiteral("Cut Size"), QStringLiteral("1"));
-        QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+    std::vector<double> values(size_t(rows), 0.0);
+    values[4] = 9.0;
+    data.AddColumn(QStringLiteral("A"), ATTRIBUTE_OTHER, DataColumn(values));
+    QString asked;
+    const auto reply = [&](ModalScript& script) {
+        if (question.contains(QStringLiteral("label")))
+            script.On<QInputDialog>([&](QInputDialog* dialog) {
+                asked = dialog->labelText();
+                dialog->findChild<QComboBox*>()->setCurrentIndex(std::max(answer, 0));
+                answer == -1 ? dialog->reject() : dialog->accept();
+            });
+        else if (!question.isEmpty())
+            script.On<QMessageBox>([&](QMessageBox* box) {
+                asked = box->text();
+                box->button(QMessageBox::StandardButton(answer))->click();
+            });
+    };
+    const char* answers = method == PERIODIC
+                              ? "Cut Size=1"
+                              : "Distance Measure=Vertical Distance\nMinimum Distance=8";
+    const QString made = generate(method, data, QString::fromLatin1(answers), ends, reply);
+    QCOMPARE(asked, question);
+    const QString count = QStringLiteral("%1 segments").arg(made.count(QLatin1Char('(')));
+    QCOMPARE(cuts.endsWith(QStringLiteral("segments")) ? count : made, cuts);
+}
+
+void TestCutAutomation::stops_data()
+{
+    QTest::addColumn<int>("method");
+    QTest::addColumn<QString>("answers");
+    QTest::newRow("all points") << int(IMPORTANT_POINTS)
+                                << QStringLiteral("Stopping Parameter=Minimum Distance");
+    QTest::newRow("long window") << int(SHARP_TRANSITIONS)
+                                 << QStringLiteral("Variance Window Size=1000000");
+    QTest::newRow("long average") << int(SHARP_TRANSITIONS)
+                                  << QStringLiteral("Smoothing Window=3000000\n"
+                                                    "Smoothing Window Overlap=1");
+}
+
+// Searches of many seconds end soon after Cancel, which can be pressed after half a second.
+void TestCutAutomation::stops()
+{
+    QFETCH(int, method);
+    QFETCH(QString, answers);
+    std::vector<double> values(6'000'000);
+    std::mt19937 random(1);
+    for (double& value : values)
+        value = double(random() % 1000);
+    DataSet data;
+    data.AddColumn(QStringLiteral("A"), ATTRIBUTE_OTHER, DataColumn(values));
+    QElapsedTimer sinceStop;
+    const QString cuts = generate(method, data, answers, "900 100000L 6000000", [&](auto& script) {
+        script.StopWork();
+        sinceStop.start();
     });
-    script.StopWork();
-    CutAutomation automation;
-    automation.setDataSet(&data);
-    automation.setCutCollection(&cuts);
-    QVERIFY(automation.generateCuts(PERIODIC));
-    QCOMPARE(ToText(cuts), before);
-    // The search by rows knows it, too.
-    int index = 0;
-    QCOMPARE(cuts.FindSegment(50000, index), cuts.GetSegment(1));
+    QCOMPARE(cuts, QStringLiteral("(0,900) L(900,100000) (100000,6000000)"));
+    QVERIFY2(sinceStop.elapsed() < 3000, qPrintable(QString::number(sinceStop.elapsed())));
 }
 
 void TestCutAutomation::sizeFollowsSlider()
