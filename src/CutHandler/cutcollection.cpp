@@ -311,6 +311,60 @@ std::optional<SegmentRemoval> CutCollection::TakeOut(CutSegment* cut)
     return removal;
 }
 
+std::vector<CutSegment*> CutCollection::overlapping(int from, int to) const
+{
+    EndLimits limits;
+    limits.m_HighestFrom = to - 1;
+    limits.m_LowestTo = from + 1;
+    std::vector<CutSegment*> segments;
+    for (int i = m_Segments.FindNext(limits); i != -1; i = m_Segments.FindNext(limits, i + 1))
+        segments.push_back(m_Segments.Get(i));
+    return segments;
+}
+
+CutSegment::SEGMENT_STATE CutCollection::GetStrongestState(int from, int to) const
+{
+    auto strongest = CutSegment::SEGMENT_CUT;
+    for (const CutSegment* segment : overlapping(from, to)) {
+        if (segment->GetState() == CutSegment::SEGMENT_LABELED)
+            return CutSegment::SEGMENT_LABELED;
+        if (segment->GetState() == CutSegment::SEGMENT_RESULT)
+            strongest = CutSegment::SEGMENT_RESULT;
+    }
+    return strongest;
+}
+
+bool CutCollection::MergePlain(int from, int to)
+{
+    const std::vector<CutSegment*> segments = overlapping(from, to);
+    if (segments.size() < 2)
+        return false;
+    for (size_t i = 0; i < segments.size(); ++i) {
+        if (segments[i]->GetState() != CutSegment::SEGMENT_CUT ||
+            (i > 0 && segments[i - 1]->GetTo() != segments[i]->GetFrom()))
+            return false;
+    }
+    const int end = segments.back()->GetTo();
+    std::for_each(segments.begin() + 1, segments.end(),
+                  [this](const CutSegment* segment) { m_Segments.Remove(segment); });
+    segments.front()->MoveTo(end);
+    return true;
+}
+
+void CutCollection::CopyFrom(const CutCollection& other)
+{
+    m_Segments.TakeAll();
+    std::vector<CutSegment*> copies;
+    for (const CutSegment* segment : other.m_Segments) {
+        copies.push_back(newSegment(segment->GetOriginalFrom(), segment->GetOriginalTo()));
+        copies.back()->SetFrom(segment->GetFrom());
+        copies.back()->SetTo(segment->GetTo());
+        copies.back()->SetState(segment->GetState());
+        copies.back()->SetColor(segment->GetColor());
+    }
+    m_Segments.PutAll(std::move(copies));
+}
+
 CutSegment* CutCollection::findNeighbour(const CutSegment* cut, const EndLimits& limits,
                                          const char* message) const
 {

@@ -112,12 +112,22 @@ public:
     void MoveSegment(DataSet* dataSet, CutSegment* segment, int from, int to);
     /// By first row; segments with the same one keep their order.
     void Sort();
+    /// Makes one segment of the plain ones that share more than an end row with from to to. False,
+    /// and nothing changed, when there are fewer than two, another is among them, or they leave a
+    /// gap.
+    bool MergePlain(int from, int to);
+    /// The state of the segments that share more than an end row with from to to: labelled where
+    /// one is, else a result where one is, else plain.
+    CutSegment::SEGMENT_STATE GetStrongestState(int from, int to) const;
+    /// Takes over the ends, states and colours of other segments, as segments of its own.
+    void CopyFrom(const CutCollection& other);
 
 private:
     CutSegment* findNeighbour(const CutSegment* cut, const EndLimits& limits,
                               const char* message) const;
     CutSegment* newSegment(int from, int to);
     bool spliceIn(const std::vector<CutPiece>& pieces, RowProgress& progress);
+    std::vector<CutSegment*> overlapping(int from, int to) const;
 
     SegmentList m_Segments;
     // Owns every segment that was ever in the list.

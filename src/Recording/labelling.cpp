@@ -183,33 +183,37 @@ QList<CutSegment*> Labelling::GetCandidates() const
 LabelChange Labelling::Reject(const QList<CutSegment*>& candidates)
 {
     LabelChange change;
+    QList<CutSegment*> waiting;
     for (CutSegment* candidate : candidates) {
-        if (candidate->GetState() == CutSegment::SEGMENT_RESULT)
-            reject(candidate, change);
+        if (candidate->GetState() == CutSegment::SEGMENT_RESULT && m_Cuts &&
+            m_Cuts->Contains(candidate))
+            waiting.append(candidate);
+    }
+    // One that cannot go may do so when its neighbour has. To and fro, or each pass would take no
+    // more than the last of a row that touch.
+    for (bool hasGone = true; hasGone && !waiting.isEmpty();) {
+        QList<CutSegment*> left;
+        for (CutSegment* candidate : qAsConst(waiting)) {
+            if (!giveAway(candidate, change) && m_Cuts->Contains(candidate))
+                left.prepend(candidate);
+        }
+        hasGone = left.size() < waiting.size();
+        waiting = left;
+    }
+    for (CutSegment* candidate : qAsConst(waiting)) {
+        change.m_Segments.push_back({candidate, record(*candidate), {}});
+        candidate->SetState(CutSegment::SEGMENT_CUT);
+        change.m_Segments.back().m_After = record(*candidate);
     }
     return change;
 }
 
-LabelChange Labelling::RejectAll()
-{
-    LabelChange change;
-    // The index is not set back after a removal.
-    for (int i = 0; m_Cuts && i < m_Cuts->GetSegmentCount(); ++i) {
-        CutSegment* segment = m_Cuts->GetSegment(i);
-        if (segment->GetState() == CutSegment::SEGMENT_RESULT)
-            reject(segment, change);
-    }
-    return change;
-}
-
-void Labelling::reject(CutSegment* candidate, LabelChange& change)
+bool Labelling::giveAway(CutSegment* candidate, LabelChange& change)
 {
     const SegmentRecord before = record(*candidate);
-    const auto removal = m_Cuts ? m_Cuts->TakeOut(candidate) : std::nullopt;
-    if (!removal) {
-        change.m_Refused.append(candidate);
-        return;
-    }
+    const auto removal = m_Cuts->TakeOut(candidate);
+    if (!removal)
+        return false;
     const auto add = [&](CutSegment* segment, const SegmentEnds& ends, int index) {
         SegmentRecord old = record(*segment);
         old.m_Ends = ends;
@@ -222,6 +226,7 @@ void Labelling::reject(CutSegment* candidate, LabelChange& change)
     if (removal->m_Left)
         add(removal->m_Left, removal->m_LeftBefore, -1);
     add(candidate, before.m_Ends, removal->m_Index);
+    return true;
 }
 
 LabelChange Labelling::Import(const std::vector<LabelledSpans>& groups)

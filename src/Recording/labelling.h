@@ -52,12 +52,10 @@ public:
 
     /// The segments that await a decision, in their order.
     QList<CutSegment*> GetCandidates() const;
-    /// Gives the span of candidates to their neighbours; others are passed over. Refused where no
-    /// neighbour can take it: that one stays a candidate.
+    /// Gives the span of candidates to their neighbours; others are passed over. Where no
+    /// neighbour can take it the candidate becomes a plain cut.
     LabelChange Reject(const QList<CutSegment*>& candidates);
-    /// Rejects all candidates, but one that follows another at once in the list of segments may
-    /// stay for the next call.
-    LabelChange RejectAll();
+    LabelChange RejectAll() { return Reject(GetCandidates()); }
 
     /// Cuts spans out of the recording and labels them, with one new behaviour for each name, also
     /// where that is in use. Spans that cross a boundary are refused.
@@ -72,7 +70,7 @@ private:
     static void removeInstances(BehaviorLabel& behavior, CutSegment* segment, bool isTold);
     static void addInstances(BehaviorLabel& behavior, const QList<LabelInstance*>& instances,
                              bool isTold);
-    void reject(CutSegment* candidate, LabelChange& change);
+    bool giveAway(CutSegment* candidate, LabelChange& change);
     CutSegment* cutOut(const RowSpan& span, LabelChange& change);
 
     CutCollection* m_Cuts;

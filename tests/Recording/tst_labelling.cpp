@@ -27,6 +27,8 @@ private slots:
     void keepsTheRuleAndTellsAll();
     void tellsBehaviors();
     void refuses();
+    void rejects_data();
+    void rejects();
     void imports();
 
 private:
@@ -197,13 +199,39 @@ void TestLabelling::refuses()
     Labelling labelling(m_Cuts.get(), m_Labels.get());
     BehaviorLabel* fly = labelling.AddBehavior(QStringLiteral("Fly")).m_Behaviors[0].m_Behavior;
     labelling.LabelAll({segment(0), segment(2)}, *fly);
-    // Between two labels no neighbour can take it.
-    QCOMPARE(labelling.Reject({segment(0), segment(1)}).m_Refused, QList<CutSegment*>{segment(1)});
     BehaviorLabel stranger;
     QCOMPARE(labelling.Label(segment(1), stranger).m_Refused, QList<CutSegment*>{segment(1)});
     QCOMPARE(ToText(*m_Cuts), QStringLiteral("L(0,10) R(10,20) L(20,30) (30,100)"));
     Labelling nothing(nullptr, nullptr);
     QVERIFY(nothing.AddBehavior({}).IsEmpty() && nothing.GetCandidates().isEmpty());
+}
+
+// What no neighbour can take becomes plain, but not before its neighbours have gone.
+void TestLabelling::rejects()
+{
+    QFETCH(QString, segments);
+    MakeCuts(*m_Cuts, qPrintable(segments));
+    Labelling labelling(m_Cuts.get(), m_Labels.get());
+    const auto change = labelling.RejectAll();
+    QTEST(ToText(*m_Cuts), "left");
+    QVERIFY(change.m_Refused.isEmpty());
+    QVERIFY(labelling.RejectAll().IsEmpty());
+}
+
+void TestLabelling::rejects_data()
+{
+    QTest::addColumn<QString>("segments");
+    QTest::addColumn<QString>("left");
+    QTest::newRow("one by one") << "10 20R 30 40R 100"
+                                << "(0,100)";
+    QTest::newRow("between labels") << "10L 20R 30L 100"
+                                    << "L(0,10) (10,20) L(20,30) (30,100)";
+    QTest::newRow("touching") << "10 20R 30R 100"
+                              << "(0,10) (10,20) (20,30) (30,100)";
+    QTest::newRow("towards a label") << "10 20R 30R 40R 50L"
+                                     << "(0,40) L(40,50)";
+    QTest::newRow("behind a label") << "10L 20R 30R 40"
+                                    << "L(0,10) (10,40)";
 }
 
 void TestLabelling::imports()

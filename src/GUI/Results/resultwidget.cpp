@@ -122,7 +122,6 @@ void ResultWidget::ClearAndUpdateSegments()
 {
     if (!dataSet() || !cuts() || !labels())
         return;
-    m_Refused.clear();
     views()->Clear();
     synchronize();
 }
@@ -130,10 +129,8 @@ void ResultWidget::ClearAndUpdateSegments()
 void ResultWidget::synchronize()
 {
     std::vector<ShownSegment> shown;
-    for (CutSegment* segment : labelling().GetCandidates()) {
-        if (!m_Refused.contains(segment))
-            shown.push_back({segment, Qt::gray, Qt::black});
-    }
+    for (CutSegment* segment : labelling().GetCandidates())
+        shown.push_back({segment, Qt::gray, Qt::black});
     views()->Show(shown);
 }
 
@@ -177,7 +174,6 @@ void ResultWidget::moveAllResults()
     const LiveRecording::Hold hold(recording());
     views()->Clear();
     labelling().LabelAll(labelling().GetCandidates(), *behavior);
-    m_Refused.clear();
     endMove(behavior->GetName());
 }
 
@@ -196,7 +192,7 @@ void ResultWidget::rejectSegment(CutSegment* segment)
 // A row may still stand for a segment that was labelled elsewhere: that one stays.
 void ResultWidget::reject(const QList<CutSegment*>& segments)
 {
-    putAside(labelling().Reject(segments));
+    labelling().Reject(segments);
     emit SegmentsUpdated();
 }
 
@@ -205,13 +201,7 @@ void ResultWidget::removeAllResults()
     if (!cuts())
         return;
     const LiveRecording::Hold hold(recording());
-    putAside(labelling().RejectAll());
+    labelling().RejectAll();
     synchronize();
     emit SegmentsUpdated();
-}
-
-void ResultWidget::putAside(const LabelChange& rejected)
-{
-    for (CutSegment* segment : rejected.m_Refused)
-        m_Refused.insert(segment);
 }

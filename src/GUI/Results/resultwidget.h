@@ -1,7 +1,6 @@
 #pragma once
 
 #include "segmentpanel.h"
-#include <QSet>
 
 /// The candidates of the searches, which the user moves into behaviours or rejects.
 ///
@@ -54,10 +53,6 @@ private:
     QWidget* makeSearchTools();
     void enableSearches();
     void endMove(const QString& behavior);
-    void putAside(const LabelChange& rejected);
 
     QWidget* m_SearchTools;
-    // Candidates that the user has rejected and that no neighbour could take: out of the views
-    // until all candidates are shown anew.
-    QSet<CutSegment*> m_Refused;
 };

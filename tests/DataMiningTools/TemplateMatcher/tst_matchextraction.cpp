@@ -141,9 +141,10 @@ void TestMatchExtraction::insertsAsFlagsDo()
         MakeCuts(fromFlags, "20 35L 60");
         MakeCuts(fromMatches, "20 35L 60");
         fromFlags.InsertCuts(flags, 3, 60, &pattern, 1, {{7, excluded[0]}, {0, excluded[1]}});
-        NoProgress progress;
-        InsertMatches(fromMatches, ExtentsOfMatches(WithoutSteps(matches, excluded), pattern, 60),
-                      CutSegment::SEGMENT_CUT, progress);
+        for (const SearchMatch& match :
+             ExtentsOfMatches(WithoutSteps(matches, excluded), pattern, 60))
+            fromMatches.InsertCut(match.m_Rows.m_From, match.m_Rows.m_To,
+                                  CutSegment::SEGMENT_RESULT);
         QCOMPARE(ToText(fromMatches), ToText(fromFlags));
     }
 }

@@ -31,6 +31,7 @@ RuleAssociationFilterPage::RuleAssociationFilterPage(DataSet* dataSet, const Cut
     setTitle(tr("Rule Association Search"));
     m_SearchLength->setRange(1, std::max(dataSet ? dataSet->GetRowCount() : 0, 1));
     m_SearchLength->setValue(usualLength);
+    connect(m_SearchLength, &QSlider::valueChanged, this, &RuleAssociationFilterPage::dropMatches);
     layOut(makeFields());
 }
 
@@ -77,6 +78,8 @@ void RuleAssociationFilterPage::addRuleRow()
     box->addItem(QString());
     for (int i = 0; m_LabelCollection && i < m_LabelCollection->GetLabelCount(); ++i)
         box->addItem(m_LabelCollection->GetLabel(i)->GetName());
+    connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &RuleAssociationFilterPage::dropMatches);
     m_Labels.append(box);
     auto* row = new QWidget;
     auto* form = new QFormLayout(row);

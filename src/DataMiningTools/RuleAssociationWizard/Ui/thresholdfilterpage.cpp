@@ -22,6 +22,8 @@ ThresholdFilterPage::ThresholdFilterPage(DataSet* dataSet, const CutCollection* 
     // more.
     m_MinimumLength->setValue(1);
     m_MinimumLength->setToolTip(tr("Rows from the first row of a match to its last"));
+    connect(m_MinimumLength, qOverload<int>(&QSpinBox::valueChanged), this,
+            &ThresholdFilterPage::dropMatches);
     layOut(makeFields());
 }
 
@@ -48,12 +50,16 @@ void ThresholdFilterPage::addThresholdParameter()
     m_Rows->AddRow(parameter);
     connect(parameter, &ThresholdParameterWidget::RemoveRequested, this,
             [this, parameter] { removeParameter(parameter); });
+    connect(parameter, &ThresholdParameterWidget::ParameterChanged, this,
+            &ThresholdFilterPage::dropMatches);
+    dropMatches();
 }
 
 void ThresholdFilterPage::removeParameter(ThresholdParameterWidget* parameter)
 {
     m_Parameters.removeOne(parameter);
     m_Rows->RemoveRow(parameter);
+    dropMatches();
 }
 
 void ThresholdFilterPage::extractMatches()
@@ -70,5 +76,15 @@ void ThresholdFilterPage::extractMatches()
     if (!extractor.Extract(progress))
         return;
     progress.SetLabelText(tr("Updating GUI"));
+    showTested(parameters);
     showMatches(extractor.GetMatches());
+}
+
+// The user may look at another attribute meanwhile, as long as the test stays.
+void ThresholdFilterPage::showTested(const std::vector<ThresholdParameter>& parameters)
+{
+    const int tested = parameters.empty() ? -1 : parameters.front().m_Attribute;
+    if (tested != -1 && tested != m_TestedAttribute)
+        showAttribute(tested);
+    m_TestedAttribute = tested;
 }

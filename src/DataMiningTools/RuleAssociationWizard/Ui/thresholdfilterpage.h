@@ -2,6 +2,7 @@
 
 #include "cutsegment.h"
 #include "searchfilterpage.h"
+#include "thresholdextractor.h"
 #include <QList>
 
 class CutCollection;
@@ -25,6 +26,7 @@ public slots:
 private:
     QWidget* makeFields();
     void removeParameter(ThresholdParameterWidget* parameter);
+    void showTested(const std::vector<ThresholdParameter>& parameters);
 
     DataSet* m_DataSet;
     const CutCollection* m_CutCollection;
@@ -32,4 +34,5 @@ private:
     SearchRows* m_Rows;
     QList<ThresholdParameterWidget*> m_Parameters;
     QSpinBox* m_MinimumLength;
+    int m_TestedAttribute = -1;
 };

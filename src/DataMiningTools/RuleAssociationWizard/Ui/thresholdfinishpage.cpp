@@ -1,36 +1,34 @@
 #include "thresholdfinishpage.h"
 
-#include "cutsegment.h"
 #include "dialogprogress.h"
-#include "insertmatches.h"
+#include "insertionforecast.h"
 #include <QLabel>
 #include <QVBoxLayout>
 
 ThresholdFinishPage::ThresholdFinishPage(CutCollection* cuts, CutSegment::SEGMENT_STATE searchMode,
                                          QWidget* parent)
-    : QWizardPage(parent), m_CutCollection(cuts), m_SearchMode(searchMode), m_Summary(new QLabel)
+    : QWizardPage(parent), m_Number(new QLabel), m_Forecast(new InsertionForecast(cuts, searchMode))
 {
     setTitle(tr("Insert Results"));
-    m_Summary->setWordWrap(true);
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(m_Summary);
+    layout->addWidget(m_Number);
+    layout->addWidget(m_Forecast);
+    if (searchMode == CutSegment::SEGMENT_RESULT)
+        layout->addWidget(new QLabel(tr("They replace all results shown in the results view.")));
     layout->addStretch();
 }
 
 void ThresholdFinishPage::SetMatches(const SearchMatches& matches)
 {
-    m_Matches = matches;
-    QString summary = tr("Number of matches that become results: %1").arg(matches.size());
-    if (m_SearchMode == CutSegment::SEGMENT_RESULT)
-        summary += tr("\nThey replace all results shown in the results view.");
-    m_Summary->setText(summary);
+    m_Number->setText(tr("Number matches: %1").arg(matches.size()));
+    m_Forecast->SetMatches(matches);
 }
 
 bool ThresholdFinishPage::validatePage()
 {
-    if (!m_CutCollection)
-        return true;
+    if (!m_Forecast->AgreesToInsert())
+        return false;
     DialogProgress progress(this, tr("Inserting Cuts"));
-    InsertMatches(*m_CutCollection, m_Matches, m_SearchMode, progress);
+    m_Forecast->Insert(progress);
     return true;
 }

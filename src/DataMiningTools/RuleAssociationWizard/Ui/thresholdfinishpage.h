@@ -5,6 +5,7 @@
 #include <QWizardPage>
 
 class CutCollection;
+class InsertionForecast;
 class QLabel;
 
 /// The last page of the threshold search, which makes the matches into results.
@@ -17,12 +18,10 @@ public:
                         QWidget* parent = nullptr);
 
     void SetMatches(const SearchMatches& matches);
-    /// Inserts the matches into the cuts.
+    /// Inserts the matches into the cuts; false when the user keeps the results that would go.
     bool validatePage() override;
 
 private:
-    CutCollection* m_CutCollection;
-    CutSegment::SEGMENT_STATE m_SearchMode;
-    SearchMatches m_Matches;
-    QLabel* m_Summary;
+    QLabel* m_Number;
+    InsertionForecast* m_Forecast;
 };

@@ -3,6 +3,7 @@
 #include "thresholdextractor.h"
 #include <QWidget>
 
+class AttributeBox;
 class QComboBox;
 class QDoubleSpinBox;
 
@@ -17,9 +18,13 @@ public:
 
 signals:
     void RemoveRequested();
+    void ParameterChanged();
 
 private:
+    void fitToAttribute(int attribute);
+
+    const DataSet* m_DataSet;
     QComboBox* m_Operator;
-    QComboBox* m_Attribute;
+    AttributeBox* m_Attribute;
     QDoubleSpinBox* m_Value;
 };

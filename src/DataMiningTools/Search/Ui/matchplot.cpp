@@ -1,8 +1,6 @@
 #include "matchplot.h"
 
-#include "attributebox.h"
 #include "selectionmultiplelineplotwidget.h"
-#include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QSet>

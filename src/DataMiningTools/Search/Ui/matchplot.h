@@ -1,10 +1,10 @@
 #pragma once
 
+#include "attributebox.h"
 #include "searchmatch.h"
 #include <QGroupBox>
 
 class DataSet;
-class QComboBox;
 class QLabel;
 class SelectionMultipleLinePlotWidget;
 
@@ -19,6 +19,7 @@ public:
     static constexpr int MostLines = 5000;
 
     void SetMatches(const SearchMatches& matches);
+    void ShowAttribute(int attribute) { m_Attribute->SetAttribute(attribute); }
     /// All but the rejected ones.
     const SearchMatches& GetMatches() const { return m_Matches; }
 
@@ -32,7 +33,7 @@ private:
 
     DataSet* m_DataSet;
     SearchMatches m_Matches;
-    QComboBox* m_Attribute;
+    AttributeBox* m_Attribute;
     QLabel* m_Hint;
     SelectionMultipleLinePlotWidget* m_Plot;
     // The plot remembers all spans that were ever rejected in it.

@@ -158,8 +158,10 @@ void ResizeList::storeEnds(const SegmentResizeWidget* resize)
 {
     for (const auto& item : m_Items) {
         RowSpan& rows = m_Matches[item.first].m_Rows;
-        if (item.second.m_Resize == resize)
+        if (item.second.m_Resize == resize && rows != resize->GetSelection()) {
             rows = resize->GetSelection();
+            emit EndsChanged();
+        }
     }
 }
 

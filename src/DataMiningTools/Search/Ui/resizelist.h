@@ -23,6 +23,10 @@ public:
     /// The attribute plotted.
     void SetAttribute(int attribute);
 
+signals:
+    /// The user has changed the ends of a match.
+    void EndsChanged();
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

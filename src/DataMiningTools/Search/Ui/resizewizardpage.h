@@ -6,6 +6,7 @@
 
 class CutCollection;
 class DataSet;
+class InsertionForecast;
 class QComboBox;
 class QLabel;
 class ResizeList;
@@ -21,18 +22,17 @@ public:
 
     /// The same matches again keep the ends that the user has given them.
     void SetMatches(const SearchMatches& matches);
-    /// Inserts the matches into the cuts.
+    /// Inserts the matches into the cuts; false when the user keeps the results that would go.
     bool validatePage() override;
 
 public slots:
     void changeAttIndex(int attribute);
 
 private:
-    CutCollection* m_CutCollection;
-    CutSegment::SEGMENT_STATE m_SearchMode;
     // As they were found.
     SearchMatches m_Matches;
     QComboBox* m_Attribute;
     QLabel* m_Number;
+    InsertionForecast* m_Forecast;
     ResizeList* m_List;
 };

@@ -52,17 +52,35 @@ void SearchFilterPage::showMatches(const SearchMatches& matches)
 QStringList SearchFilterPage::getFields() const
 {
     QStringList fields;
+    // A row that was taken away is hidden before it is deleted.
     for (const auto* box : m_Fields->findChildren<QComboBox*>())
-        fields.append(box->currentText());
+        fields.append(box->isVisibleTo(m_Fields) ? box->currentText() : QString());
     for (const auto* box : m_Fields->findChildren<QAbstractSpinBox*>())
-        fields.append(box->text());
+        fields.append(box->isVisibleTo(m_Fields) ? box->text() : QString());
+    fields.removeAll(QString());
     return fields;
+}
+
+// A spin box tells of a change also when Enter has changed nothing.
+void SearchFilterPage::dropMatches()
+{
+    if (!m_HasRun || getFields() == m_FieldsSearched)
+        return;
+    m_Results->SetMatches({});
+    m_HasRun = false;
+    m_Number->setText(tr("No results extracted: the search has changed"));
+    emit completeChanged();
+}
+
+void SearchFilterPage::showAttribute(int attribute)
+{
+    m_Results->ShowAttribute(attribute);
 }
 
 void SearchFilterPage::keyPressEvent(QKeyEvent* event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && !(m_HasRun && getFields() == m_FieldsSearched))
+    if (isEnter && !m_HasRun)
         extractMatches();
     else
         QWizardPage::keyPressEvent(event);

@@ -30,8 +30,11 @@ protected:
     /// The button that starts the search, beside the number of matches.
     QLayout* makeExtractRow();
     void showMatches(const SearchMatches& matches);
+    /// For any change of what is searched for: the matches of another search are none of this one.
+    void dropMatches();
+    void showAttribute(int attribute);
 
-    /// Enter runs the search that the fields tell before it goes to the next page.
+    /// Enter runs the search before it goes to the next page.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

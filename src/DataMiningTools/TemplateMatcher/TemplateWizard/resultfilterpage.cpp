@@ -153,8 +153,8 @@ bool ResultFilterPage::validatePage()
         return false;
     const CenterPoints matches = WithoutSteps(*m_CenterPoints, removedSteps());
     NoProgress progress;
-    InsertMatches(*cuts(), ExtentsOfMatches(matches, *m_Pattern, m_Results.m_Steps), searchMode(),
-                  progress);
+    InsertMatches(*cuts(), ExtentsOfMatches(matches, *m_Pattern, m_Results.m_Steps),
+                  {searchMode(), true}, progress);
     return true;
 }
 

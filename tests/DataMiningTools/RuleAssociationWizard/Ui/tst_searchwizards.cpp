@@ -1,4 +1,6 @@
+#include "attributebox.h"
 #include "fieldlookup.h"
+#include "insertionforecast.h"
 #include "labelsegment.h"
 #include "modalscript.h"
 #include "mousedrag.h"
@@ -12,8 +14,10 @@
 #include "thresholdwizard.h"
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QScrollBar>
@@ -111,10 +115,12 @@ private slots:
     void comparisonsReadTrue_data();
     void comparisonsReadTrue();
     void insertsRuns();
+    void fitsItsAttribute();
     void rejectsMatches();
     void insertsWhatFollows();
     void searchesNothing();
-    void tellsOfCrossedBoundaries();
+    void tellsWhatIsKeptOut();
+    void asksBeforeResultsGo();
     void keepsEndsOutOfView();
 };
 
@@ -160,6 +166,7 @@ void TestSearchWizards::insertsRuns()
     addParameter(wizard, "value > attribute", "0");
     QCOMPARE(extract(wizard), QStringLiteral("0"));
     ClickButton(wizard.findChildren<ThresholdParameterWidget*>().last(), QStringLiteral("Remove"));
+    QCOMPARE(number(wizard), QString());
     QCOMPARE(extract(wizard), QStringLiteral("3"));
     auto* length = FindField<QSpinBox>(wizard.currentPage(), QStringLiteral("Minimum Length"));
     type(length, "2");
@@ -167,12 +174,14 @@ void TestSearchWizards::insertsRuns()
     QTest::keyClick(length, Qt::Key_Return);
     QCOMPARE(number(wizard), QStringLiteral("2"));
     const QWizardPage* filter = wizard.currentPage();
-    // A search that is stopped leaves the matches there are, and nothing has been searched.
+    // The matches of another search are none of this one; one that is stopped has none.
     type(length, "3");
+    QCOMPARE(number(wizard), QString());
+    QVERIFY(!FindButton(&wizard, QStringLiteral("Next >"))->isEnabled());
     QTimer::singleShot(0, &wizard, [&wizard] {
         ClickButton(wizard.currentPage()->findChild<QProgressDialog*>(), QStringLiteral("Cancel"));
     });
-    QCOMPARE(extract(wizard), QStringLiteral("2"));
+    QCOMPARE(extract(wizard), QString());
     QTest::keyClick(length, Qt::Key_Return);
     QCOMPARE(wizard.currentPage(), filter);
     QCOMPARE(number(wizard), QStringLiteral("0"));
@@ -192,6 +201,29 @@ void TestSearchWizards::insertsRuns()
     finish(wizard);
     QCOMPARE(wizard.result(), int(QDialog::Accepted));
     QCOMPARE(ToText(cuts), QStringLiteral("(0,4) L(4,6) (6,6) R(6,8) (8,10) R(10,12) (12,13)"));
+}
+
+void TestSearchWizards::fitsItsAttribute()
+{
+    const auto data = MakeDataSet("0 3e-9 -9e14\n1 5e-9 0\n2 4e-9 1");
+    CutCollection cuts;
+    MakeCuts(cuts, "3");
+    ThresholdWizard wizard(data.get(), &cuts, CutSegment::SEGMENT_CUT);
+    wizard.show();
+    next(wizard);
+    addParameter(wizard, "attribute >= value", "1");
+    const auto* row = wizard.findChild<ThresholdParameterWidget*>();
+    auto* tested = row->findChild<AttributeBox*>();
+    const auto* plotted =
+        FindField<AttributeBox>(wizard.currentPage(), QStringLiteral("Data Attribute: "));
+    const std::vector<std::pair<int, const char*>> searches{{2, "-899999999999999.5"},
+                                                            {1, "0.0000000035"}};
+    for (const auto& [attribute, value] : searches) {
+        tested->SetAttribute(attribute);
+        type(row->findChild<QDoubleSpinBox*>(), value);
+        QCOMPARE(extract(wizard), QStringLiteral("1"));
+        QCOMPARE(plotted->GetAttribute(), attribute);
+    }
 }
 
 void TestSearchWizards::rejectsMatches()
@@ -281,22 +313,38 @@ void TestSearchWizards::searchesNothing()
     }
 }
 
-void TestSearchWizards::tellsOfCrossedBoundaries()
+void TestSearchWizards::tellsWhatIsKeptOut()
 {
     const auto data = MakeColumn(std::vector<double>(100, 1.0));
     CutCollection cuts;
-    MakeCuts(cuts, "50L 100");
+    MakeCuts(cuts, "50L 80 100");
     QWizard wizard;
     auto* page = new ResizeWizardPage(data.get(), &cuts, CutSegment::SEGMENT_CUT);
     wizard.addPage(page);
-    page->SetMatches({{{50, 60}}, {{70, 80}}});
+    page->SetMatches({{{50, 60}}, {{75, 85}}});
     wizard.show();
+    const auto* text = page->findChild<InsertionForecast*>()->findChild<QLabel*>();
+    QCOMPARE(text->text(), QStringLiteral("2 can be inserted, 0 cross plain cuts, 0 cross labels"));
     type(boxOfMatch(wizard, 50), "49");
+    page->findChild<QCheckBox*>()->click();
+    QCOMPARE(text->text(), QStringLiteral("0 can be inserted, 1 cross plain cuts, 1 cross labels"));
+    page->findChild<QCheckBox*>()->click();
     finish(wizard);
-    QCOMPARE(ToText(cuts), QStringLiteral("L(0,50) (50,70) R(70,80) (80,100)"));
-    QCOMPARE(TakeUserErrors(),
-             QStringList(QStringLiteral("Resize Results: Error: 1 of 2 results cross the end of a "
-                                        "segment and were left out.")));
+    QCOMPARE(ToText(cuts), QStringLiteral("L(0,50) (50,75) R(75,85) (85,100)"));
+}
+
+void TestSearchWizards::asksBeforeResultsGo()
+{
+    const auto data = MakeColumn(std::vector<double>(100, 1.0));
+    CutCollection cuts;
+    MakeCuts(cuts, "50 60R 100");
+    ResizeWizardPage page(data.get(), &cuts, CutSegment::SEGMENT_RESULT);
+    for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+        ModalScript user;
+        user.On<QMessageBox>([=](QMessageBox* box) { box->button(answer)->click(); });
+        QCOMPARE(page.validatePage(), answer == QMessageBox::Yes);
+        QCOMPARE(cuts.GetSegmentCount(), answer == QMessageBox::Yes ? 1 : 3);
+    }
 }
 
 void TestSearchWizards::keepsEndsOutOfView()
