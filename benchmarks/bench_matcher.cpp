@@ -46,15 +46,26 @@ std::unique_ptr<PatternsDataObject> makePattern(DataSet& data)
     return pattern;
 }
 
-void matchSignal(benchmark::State& state)
+/// With one of the matcher's measures.
+template <class Measure>
+void matchWith(benchmark::State& state, Measure measure)
 {
     const auto rows = int(state.range(0));
     DataSet& data = recording(rows);
     const std::unique_ptr<SignalTemplateDataObject> signal(makeSignal(data, 0, signalLength));
     std::vector<float> results(static_cast<size_t>(rows));
     for (auto _ : state)
-        TemplateMatcher::fastNormalizedRunningCorrelation(&data, signal.get(), 0, results.data(), 0,
-                                                          rows);
+        measure(&data, signal.get(), 0, results.data(), 0, rows);
+}
+
+void matchSignal(benchmark::State& state)
+{
+    matchWith(state, TemplateMatcher::fastNormalizedRunningCorrelation);
+}
+
+void matchSignalExactly(benchmark::State& state)
+{
+    matchWith(state, TemplateMatcher::exactCorrelation);
 }
 
 void matchPattern(benchmark::State& state)
@@ -81,6 +92,12 @@ void matchPattern(benchmark::State& state)
 } // namespace
 
 BENCHMARK(matchSignal)
+    ->Arg(10'000)
+    ->Arg(1'000'000)
+    ->Arg(5'000'000)
+    ->Arg(10'000'000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(matchSignalExactly)
     ->Arg(10'000)
     ->Arg(1'000'000)
     ->Arg(5'000'000)

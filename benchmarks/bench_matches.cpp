@@ -81,7 +81,9 @@ void BM_MoveThreshold(benchmark::State& state)
     for (int i = 0; i < data->GetAttributeCount(); ++i)
         attributes.insert(data->GetAttributeName(i), i);
     const QList<int> nothing;
-    ResultFilterPage page(data.get(), nullptr, CutSegment::SEGMENT_CUT, &nothing);
+    CutCollection cuts;
+    cuts.InsertCut(0, steps, CutSegment::SEGMENT_CUT);
+    ResultFilterPage page(data.get(), &cuts, CutSegment::SEGMENT_CUT, &nothing);
     page.resize(900, 600);
     page.show();
     page.SetResults(results.m_Values, factors, steps, pattern.get(), 0.8F, attributes);

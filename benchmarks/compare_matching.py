@@ -1,14 +1,15 @@
 #!/usr/bin/python3
-"""Compares the normalised correlation of one signal with what others take on a like recording.
+"""Compares the normalised correlations of one signal with what others take on a like recording.
 
 usage: compare_matching.py PROGRAM [ROWS ...]
 PROGRAM is the benchmark program. Prints, for each number of rows, the best time of several runs
-and the ratios of the matcher's time to the others', the middle one of the runs and the worst:
+and the ratios of the matcher's times, by its running and by the exact form, to the others', the
+middle one of the runs and the worst:
 - bare: the correlation alone, by overlap and save with the matcher's blocks, not normalised;
 - OpenCV: cv2.matchTemplate with TM_CCOEFF_NORMED, in single precision;
 - SciPy: scipy.signal.oaconvolve, which only sums products.
-Everything runs on one thread, in turn. Exits with 1 when the matcher is slower than OpenCV in any
-run, or slower than SciPy at its best.
+Everything runs on one thread, in turn. Exits with 1 when one of the forms is slower than OpenCV in
+any run, or slower than SciPy at its best.
 """
 
 import os
@@ -24,22 +25,23 @@ import scipy.signal
 
 SIGNAL = slice(1000, 1400)
 RUNS = 7
-NAMES = ("matcher", "bare", "OpenCV", "SciPy")
+NAMES = ("running", "exact", "bare", "OpenCV", "SciPy")
+FORMS = 2
 
 
 def run_program(program, rows):
-    """The times of one search and of the bare correlation in seconds; the wisdom file goes to a
-    folder of its own."""
+    """The times of one search by each form and of the bare correlation in seconds; the wisdom file
+    goes to a folder of its own."""
     with tempfile.TemporaryDirectory() as folder:
         output = subprocess.run(
-            [os.path.abspath(program), f"--benchmark_filter=^(matchSignal|overlapSave)/{rows}$",
+            [os.path.abspath(program), f"--benchmark_filter=^(matchSignal|matchSignalExactly|overlapSave)/{rows}$",
              "--benchmark_format=csv", "--benchmark_min_time=0.1"],
             cwd=folder, check=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
             text=True).stdout
     time_column = 2
     times = {line.split("/")[0].strip('"'): float(line.split(",")[time_column]) / 1000
              for line in output.splitlines() if "/" in line}
-    return times["matchSignal"], times["overlapSave"]
+    return times["matchSignal"], times["matchSignalExactly"], times["overlapSave"]
 
 
 def run(work, *arguments, **options):
@@ -67,10 +69,14 @@ def compare(program, rows):
     best = [min(column) for column in zip(*runs)]
     print(f"{rows} rows: " + ", ".join(f"{name} {seconds * 1000:.1f} ms"
                                        for name, seconds in zip(NAMES, best)))
-    for place, name in list(enumerate(NAMES))[1:]:
-        ratios = [times[0] / times[place] for times in runs]
-        print(f"  matcher / {name}: {statistics.median(ratios):.2f}, at worst {max(ratios):.2f}")
-    return all(times[0] <= times[2] for times in runs) and best[0] <= best[3]
+    for form in range(FORMS):
+        for place in range(FORMS, len(NAMES)):
+            ratios = [times[form] / times[place] for times in runs]
+            print(f"  {NAMES[form]} / {NAMES[place]}: {statistics.median(ratios):.2f}, "
+                  f"at worst {max(ratios):.2f}")
+    opencv, scipy_sum = NAMES.index("OpenCV"), NAMES.index("SciPy")
+    return all(times[form] <= times[opencv] for times in runs for form in range(FORMS)) \
+        and max(best[:FORMS]) <= best[scipy_sum]
 
 
 def main():

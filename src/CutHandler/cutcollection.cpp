@@ -356,11 +356,12 @@ void CutCollection::CopyFrom(const CutCollection& other)
     m_Segments.TakeAll();
     std::vector<CutSegment*> copies;
     for (const CutSegment* segment : other.m_Segments) {
-        copies.push_back(newSegment(segment->GetOriginalFrom(), segment->GetOriginalTo()));
-        copies.back()->SetFrom(segment->GetFrom());
-        copies.back()->SetTo(segment->GetTo());
-        copies.back()->SetState(segment->GetState());
-        copies.back()->SetColor(segment->GetColor());
+        CutSegment* copy = newSegment(segment->GetOriginalFrom(), segment->GetOriginalTo());
+        copy->SetFrom(segment->GetFrom());
+        copy->SetTo(segment->GetTo());
+        copy->SetState(segment->GetState());
+        copy->SetColor(segment->GetColor());
+        copies.push_back(copy);
     }
     m_Segments.PutAll(std::move(copies));
 }

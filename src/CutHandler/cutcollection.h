@@ -126,8 +126,8 @@ private:
     CutSegment* findNeighbour(const CutSegment* cut, const EndLimits& limits,
                               const char* message) const;
     CutSegment* newSegment(int from, int to);
-    bool spliceIn(const std::vector<CutPiece>& pieces, RowProgress& progress);
     std::vector<CutSegment*> overlapping(int from, int to) const;
+    bool spliceIn(const std::vector<CutPiece>& pieces, RowProgress& progress);
 
     SegmentList m_Segments;
     // Owns every segment that was ever in the list.

@@ -5,6 +5,7 @@
 #include "rowobjects.h"
 #include <QHash>
 #include <QPair>
+#include <QString>
 #include <memory>
 #include <vector>
 
@@ -139,6 +140,8 @@ public:
 
     /// Samples per second as entered at import.
     int m_SamplingRate = 40;
+    /// The name, without folders, of the file it was read from; empty when it was not.
+    QString m_SourceName;
 
 private:
     int m_AttributeCount = 0;

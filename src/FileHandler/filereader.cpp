@@ -1,6 +1,7 @@
 #include "filereader.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QXmlStreamReader>
 
@@ -44,7 +45,10 @@ bool FileReader::ReadFile()
         m_DataSet = nullptr;
         return fail(QStringLiteral("Failed to load file"));
     }
-    return Read(file);
+    if (!Read(file))
+        return false;
+    m_DataSet->m_SourceName = QFileInfo(file).fileName();
+    return true;
 }
 
 bool FileReader::Read(QIODevice& device)

@@ -166,8 +166,17 @@ void TestDialogs::attributeMatch()
     const auto data = MakeDataSet("1 2 3\n");
     AttributeMatchDialog dialog({&pattern}, data.get());
     FindField<QComboBox>(&dialog, QStringLiteral("C"))->setCurrentIndex(1);
+    // A name that no column has stands for none until one is chosen.
+    dialog.show();
+    ClickButton(&dialog, QStringLiteral("Save"));
+    QCOMPARE(TakeUserErrors(),
+             QStringList(QStringLiteral("Error: Error: No column chosen for b.")));
+    QVERIFY(dialog.isVisible());
+    FindField<QComboBox>(&dialog, QStringLiteral("b"))->setCurrentIndex(2);
+    ClickButton(&dialog, QStringLiteral("Save"));
+    QVERIFY(!dialog.isVisible());
     const QHash<QString, int> expected{
-        {QStringLiteral("B"), 1}, {QStringLiteral("b"), 0}, {QStringLiteral("C"), 1}};
+        {QStringLiteral("B"), 1}, {QStringLiteral("b"), 2}, {QStringLiteral("C"), 1}};
     QCOMPARE(dialog.GetAttributeMap(), expected);
     QCOMPARE(AttributeMatchDialog({}, data.get()).GetAttributeMap().size(), 0);
 }

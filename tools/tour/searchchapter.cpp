@@ -170,7 +170,8 @@ void addPatternSteps(Guide& guide)
     });
     guide.Step(QStringLiteral("Choose the algorithm"), Guide::IsOpen<QInputDialog>, [&] {
         auto* dialog = Guide::Window<QInputDialog>();
-        guide.Choose(dialog->findChild<QComboBox*>(), QStringLiteral("Normalized Correlation"));
+        guide.Choose(dialog->findChild<QComboBox*>(),
+                     QStringLiteral("Normalized Correlation (Exact)"));
         guide.Picture(QStringLiteral("31-algorithm"), dialog);
         guide.Click(guide.Button(dialog, QStringLiteral("OK")));
     });
@@ -187,10 +188,10 @@ void expectResults(Guide& guide, const MainWindow& window, int count)
                  QStringLiteral("%1 results instead of %2").arg(resultCount(window)).arg(count));
 }
 
-// Finishes the wizard that is open and looks for as many results as it tells matches. Of matches
-// that overlap only the first becomes a result.
+// Finishes the wizard that is open and looks for as many results as it tells matches. Matches
+// that cross a label become none.
 void addTakeOverSteps(Guide& guide, MainWindow& window, const std::function<int()>& matches,
-                      const QString& picture, bool mayOverlap = false)
+                      const QString& picture, bool mayCrossLabels = false)
 {
     auto expected = std::make_shared<int>(0);
     guide.Step(
@@ -203,7 +204,7 @@ void addTakeOverSteps(Guide& guide, MainWindow& window, const std::function<int(
         });
     guide.Step(QStringLiteral("See them as results"), Guide::IsNothingOpen, [=, &guide, &window] {
         const int count = resultCount(window);
-        guide.Expect(count == *expected || (mayOverlap && count > 0 && count < *expected),
+        guide.Expect(count == *expected || (mayCrossLabels && count > 0 && count < *expected),
                      QStringLiteral("%1 matches give %2 results").arg(*expected).arg(count));
     });
 }

@@ -2,6 +2,7 @@
 
 #include "dataspectra.h"
 #include "datatransformer.h"
+#include "pearsoncorrelation.h"
 #include "rowwindow.h"
 #include "signaltemplatedataobject.h"
 #include <algorithm>
@@ -71,4 +72,11 @@ void AttributeSearch::AddNormalizedCorrelation(const SignalTemplateDataObject& s
 {
     RowWindow rows(m_Rows);
     CorrelateWithSignal(rows, signal, adderTo(sums, signal));
+}
+
+void AttributeSearch::AddExactCorrelation(const SignalTemplateDataObject& signal,
+                                          std::vector<float>& sums) const
+{
+    RowWindow rows(m_Rows);
+    CorrelatePearson(rows, signal.GetSignal(), signal.GetLength(), adderTo(sums, signal));
 }

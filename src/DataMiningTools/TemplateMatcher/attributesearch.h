@@ -26,6 +26,9 @@ public:
     /// The same for normalised correlation.
     void AddNormalizedCorrelation(const SignalTemplateDataObject& signal,
                                   std::vector<float>& sums) const;
+    /// The same for Pearson's correlation by the mean and deviation of each window.
+    void AddExactCorrelation(const SignalTemplateDataObject& signal,
+                             std::vector<float>& sums) const;
 
 private:
     ConstSpan<double> m_Rows;

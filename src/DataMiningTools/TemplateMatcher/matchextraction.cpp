@@ -1,6 +1,7 @@
 #include "matchextraction.h"
 
 #include "patternsdataobject.h"
+#include "templatematcher.h"
 #include "wholecorrelation.h"
 #include <algorithm>
 #include <iterator>
@@ -31,6 +32,15 @@ std::vector<int> centersOfFactor(const float* values, int steps, int width, floa
 }
 
 } // namespace
+
+int FirstSearchedStep(const SearchResults& results)
+{
+    if (results.IsEmpty())
+        return results.m_Steps;
+    const float* values = results.m_Values[0];
+    const auto isSearched = [](float value) { return value != ExclusionMark; };
+    return int(std::find_if(values, values + results.m_Steps, isSearched) - values);
+}
 
 std::vector<int> TemplateWidths(const PatternsDataObject& pattern)
 {

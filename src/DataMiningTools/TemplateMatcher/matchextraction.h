@@ -15,6 +15,10 @@ struct SearchResults {
     bool IsEmpty() const { return !m_Values || m_Factors <= 0 || m_Steps <= 0; }
 };
 
+/// The first step without TemplateMatcher's mark of those that are left out, which stands at all
+/// frequency factors alike; as many as there are steps when no step was searched.
+int FirstSearchedStep(const SearchResults& results);
+
 /// The steps on which matches are centred, ascending, per frequency factor.
 using CenterPoints = std::vector<std::vector<int>>;
 

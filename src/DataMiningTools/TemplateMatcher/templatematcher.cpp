@@ -6,6 +6,7 @@
 #include "dataset.h"
 #include "directcorrelation.h"
 #include "patternsdataobject.h"
+#include "pearsoncorrelation.h"
 #include "rowwindow.h"
 #include "wholecorrelation.h"
 #include <QElapsedTimer>
@@ -62,6 +63,8 @@ QString TemplateMatcher::getMeasureName(int measure)
         return QStringLiteral("Correlation");
     case MEASURE_NORMALIZED_CORRELATION:
         return QStringLiteral("Normalized Correlation");
+    case MEASURE_EXACT_CORRELATION:
+        return QStringLiteral("Normalized Correlation (Exact)");
     default:
         return QString();
     }
@@ -184,8 +187,10 @@ bool TemplateMatcher::matchGroup(RowSpan rows, const SignalGroups::Group& group,
     for (const auto& [collection, signal] : fitting) {
         if (m_Measure == MEASURE_CORRELATION)
             search.AddCorrelation(*signal, results[collection]);
-        else
+        else if (m_Measure == MEASURE_NORMALIZED_CORRELATION)
             search.AddNormalizedCorrelation(*signal, results[collection]);
+        else
+            search.AddExactCorrelation(*signal, results[collection]);
         progress.SetValue(++m_Done);
         if (isStopped(progress))
             return false;
@@ -246,6 +251,20 @@ void TemplateMatcher::fastNormalizedRunningCorrelation(const DataSet* dataSet,
     CorrelateWithSignal(rows, *signal, [=](int first, const float* confidences, int count) {
         std::copy_n(confidences, count, middles + first);
     });
+}
+
+void TemplateMatcher::exactCorrelation(const DataSet* dataSet,
+                                       const SignalTemplateDataObject* signal, int attribute,
+                                       float* results, int startIndex, int endIndex)
+{
+    if (!canMatch(dataSet, signal, attribute, {startIndex, endIndex}))
+        return;
+    RowWindow rows(dataSet->GetColumn(attribute).Part(startIndex, endIndex));
+    float* middles = results + (signal->GetLength() - 1) / 2;
+    CorrelatePearson(rows, signal->GetSignal(), signal->GetLength(),
+                     [=](int first, const double* confidences, int count) {
+                         std::copy_n(confidences, count, middles + first);
+                     });
 }
 
 void TemplateMatcher::directCorrelation(const DataSet* dataSet,

@@ -26,8 +26,9 @@ class TemplateMatcher
 {
 public:
     enum Measure {
-        MEASURE_CORRELATION = 0,           ///< sum of products, not scaled
-        MEASURE_NORMALIZED_CORRELATION = 1 ///< mostly -1 to 1, a little beyond at times
+        MEASURE_CORRELATION = 0,            ///< sum of products, not scaled
+        MEASURE_NORMALIZED_CORRELATION = 1, ///< mostly -1 to 1, a little beyond at times
+        MEASURE_EXACT_CORRELATION = 2       ///< Pearson's, -1 to 1
     };
 
     /// Borrows both. option is the caller's, the matcher only keeps it.
@@ -60,7 +61,7 @@ public:
 
     /// Brings all values except ExclusionMark to 0 to 1 by their minimum and maximum, which are
     /// returned. When the very first value is the mark, the minimum stays at it, and all other
-    /// values end near 1: searches of which the first row is left out pass at any threshold.
+    /// values end near 1: who searches calls it from the first searched row on.
     static void normalizeResults(float** results, int collections, int length, float& min,
                                  float& max);
     /// Brings min to 0 and max to 1, without exception.
@@ -84,6 +85,11 @@ public:
                                                  const SignalTemplateDataObject* signal,
                                                  int attribute, float* results, int startIndex,
                                                  int endIndex);
+    /// Pearson's correlation of the signal with each window, by the window's own mean and
+    /// deviation: -1 to 1, and 0 where window or signal are flat. Results of no window stay as
+    /// they are. See CorrelatePearson.
+    static void exactCorrelation(const DataSet* dataSet, const SignalTemplateDataObject* signal,
+                                 int attribute, float* results, int startIndex, int endIndex);
     /// The direct forms write consecutive results, the first window's to results[0]. This one
     /// adds the sum of products to results.
     static void directCorrelation(const DataSet* dataSet, const SignalTemplateDataObject* signal,

@@ -24,6 +24,8 @@ bool FileImporter::Read()
     const bool isRead = reader.Read(file, progress);
     m_OwnedDataSet = reader.TakeDataSet();
     m_DataSet = m_OwnedDataSet.get();
+    if (m_DataSet)
+        m_DataSet->m_SourceName = QFileInfo(file).fileName();
     m_Error = reader.GetError();
     m_Warnings = reader.GetWarnings();
     return isRead;

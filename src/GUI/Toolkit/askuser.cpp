@@ -20,17 +20,28 @@ bool AskYesNo(QWidget* parent, const QString& title, const QString& question)
 }
 
 int AskChoice(QWidget* parent, const QString& title, const QString& label,
-              const QStringList& choices)
+              const QStringList& choices, int current)
 {
     ModalDialog<QInputDialog> dialog(parent);
     dialog->setWindowTitle(title);
     dialog->setLabelText(label);
     dialog->setComboBoxItems(choices);
+    dialog->setTextValue(choices.value(current));
     if (!dialog.IsAccepted())
         return -1;
     // By its place in the box: two choices may have one name.
     const auto* box = dialog->findChild<QComboBox*>();
     return box ? box->currentIndex() : -1;
+}
+
+std::optional<QString> AskText(QWidget* parent, const QString& title, const QString& label,
+                               const QString& proposal)
+{
+    ModalDialog<QInputDialog> dialog(parent);
+    dialog->setWindowTitle(title);
+    dialog->setLabelText(label);
+    dialog->setTextValue(proposal);
+    return dialog.IsAccepted() ? std::make_optional(dialog->textValue()) : std::nullopt;
 }
 
 int AskAttribute(QWidget* parent, const DataSet& data)
@@ -46,5 +57,12 @@ QString AskSavePath(QWidget* parent, const QString& title, const QString& filter
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->selectFile(proposal);
     dialog->setDefaultSuffix(filter.section(QLatin1Char('.'), -1).remove(QLatin1Char(')')));
+    return dialog.IsAccepted() ? dialog->selectedFiles().value(0) : QString();
+}
+
+QString AskOpenPath(QWidget* parent, const QString& title, const QString& filter)
+{
+    ModalDialog<QFileDialog> dialog(parent, title, QString(), filter);
+    dialog->setFileMode(QFileDialog::ExistingFile);
     return dialog.IsAccepted() ? dialog->selectedFiles().value(0) : QString();
 }

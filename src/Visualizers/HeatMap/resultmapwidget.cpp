@@ -55,6 +55,12 @@ void ResultMapWidget::ItemsRemovedFromPlot(const QList<int>& steps)
     addRemovedSteps(std::move(sorted));
 }
 
+void ResultMapWidget::SetRemovedSteps(const std::vector<int>& steps)
+{
+    m_RemovedSteps = steps;
+    markMatchesStale();
+}
+
 void ResultMapWidget::addRemovedSteps(std::vector<int> steps)
 {
     std::vector<int> all;
@@ -170,8 +176,11 @@ void ResultMapWidget::mousePressEvent(QMouseEvent* event)
 void ResultMapWidget::mouseMoveEvent(QMouseEvent* event)
 {
     const double left = double(makeScale().GetStart());
-    if (m_Band.Move(*event, left, std::max(left, double(width()))))
-        update();
+    if (!m_Band.Move(*event, left, std::max(left, double(width()))))
+        return;
+    update();
+    if (m_Band.GetButton() == Qt::LeftButton && m_Band.IsValid())
+        emit AboutToRemove(int(stepsOnBand(m_Band).size()));
 }
 
 void ResultMapWidget::mouseReleaseEvent(QMouseEvent* event)
@@ -181,20 +190,25 @@ void ResultMapWidget::mouseReleaseEvent(QMouseEvent* event)
     const RubberBand band = m_Band;
     m_Band.Clear();
     update();
+    emit AboutToRemove(0);
     if (!band.IsValid())
         return;
     const StepScale scale = makeScale();
-    const double first = scale.ToStep(band.GetSelectionStart());
-    const double last = scale.ToStep(band.GetSelectionEnd());
     if (band.GetButton() == Qt::LeftButton)
-        removeMatches(first, last);
+        removeMatches(stepsOnBand(band));
     else
-        showSpan(first, last);
+        showSpan(scale.ToStep(band.GetSelectionStart()), scale.ToStep(band.GetSelectionEnd()));
 }
 
-void ResultMapWidget::removeMatches(double first, double last)
+std::vector<int> ResultMapWidget::stepsOnBand(const RubberBand& band) const
 {
-    std::vector<int> steps = StepsOfMatches(visibleMatches(), first, last);
+    const StepScale scale = makeScale();
+    return StepsOfMatches(visibleMatches(), scale.ToStep(band.GetSelectionStart()),
+                          scale.ToStep(band.GetSelectionEnd()));
+}
+
+void ResultMapWidget::removeMatches(std::vector<int> steps)
+{
     if (steps.empty())
         return;
     addRemovedSteps(std::move(steps));

@@ -35,6 +35,9 @@ public:
     /// All steps whose matches were removed, here or elsewhere; ascending, each once.
     QList<int> GetRemovedSteps() const;
 
+    /// These are the steps whose matches are removed, whatever was removed before; ascending.
+    void SetRemovedSteps(const std::vector<int>& steps);
+
     QSize sizeHint() const override { return {300, 40}; }
 
 public slots:
@@ -47,6 +50,8 @@ public slots:
 signals:
     /// The user has removed matches.
     void ItemsRemoved();
+    /// How many matches are on the band that the user drags to remove them; 0 without a band.
+    void AboutToRemove(int matches);
 
 protected:
     explicit ResultMapWidget(QWidget* parent);
@@ -80,7 +85,8 @@ protected:
 private:
     CenterPoints visibleMatches() const;
     void reduce(const StepScale& scale);
-    void removeMatches(double first, double last);
+    std::vector<int> stepsOnBand(const RubberBand& band) const;
+    void removeMatches(std::vector<int> steps);
     void showSpan(double first, double last);
     void addRemovedSteps(std::vector<int> steps);
 

@@ -5,6 +5,7 @@
 #include "plotlook.h"
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <algorithm>
 
 OverlaidLinesWidget::OverlaidLinesWidget(std::unique_ptr<OverlaidLines> lines, bool rejecting,
@@ -77,8 +78,10 @@ void OverlaidLinesWidget::mousePressEvent(QMouseEvent* event)
 
 void OverlaidLinesWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    if (m_Band.Move(*event, 0, width()))
-        update();
+    if (!m_Band.Move(*event, 0, width()))
+        return;
+    dragBox(m_Band.GetBox());
+    update();
 }
 
 void OverlaidLinesWidget::mouseReleaseEvent(QMouseEvent* event)
@@ -86,16 +89,25 @@ void OverlaidLinesWidget::mouseReleaseEvent(QMouseEvent* event)
     if (!m_Band.Release(*event))
         return;
     update();
+    const QPointer<OverlaidLinesWidget> self(this);
     if (m_Band.IsValid())
         askToReject(m_Band.GetBox());
+    if (self)
+        dragBox({});
 }
 
-void OverlaidLinesWidget::askToReject(const QRect& box)
+std::vector<int> OverlaidLinesWidget::findResults(const QRect& box) const
 {
     std::vector<int> marked = m_Lines->FindLines(box);
     marked.erase(
         std::remove_if(marked.begin(), marked.end(), [this](int line) { return !isResult(line); }),
         marked.end());
+    return marked;
+}
+
+void OverlaidLinesWidget::askToReject(const QRect& box)
+{
+    const std::vector<int> marked = findResults(box);
     if (marked.empty())
         return;
     const QString question =

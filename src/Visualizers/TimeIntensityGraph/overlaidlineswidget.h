@@ -35,7 +35,12 @@ protected:
 
     /// Whether a line is a result, which a rubber band can reject.
     virtual bool isResult(int line) const;
-    /// The user has agreed to reject these lines, in ascending order.
+    /// What the box would reject: the lines that are results, ascending, unless the subclass
+    /// counts its results otherwise.
+    virtual std::vector<int> findResults(const QRect& box) const;
+    /// The user drags a box, or has let go of it: then it is empty.
+    virtual void dragBox(const QRect&) {}
+    /// The user has agreed to reject these lines, which findResults gave.
     virtual void rejectLines(const std::vector<int>& lines);
 
     OverlaidLines& lines() const { return *m_Lines; }

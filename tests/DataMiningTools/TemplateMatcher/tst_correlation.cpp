@@ -1,4 +1,5 @@
 #include "dataspectra.h"
+#include "pearsoncorrelation.h"
 #include "rowwindow.h"
 #include "runningnormalization.h"
 #include "signaltemplatedataobject.h"
@@ -6,10 +7,12 @@
 #include "testdata.h"
 #include <QtTest>
 #include <cmath>
+#include <numeric>
 #include <random>
 
 using Column = std::vector<double>;
 using Confidences = std::vector<float>;
+Q_DECLARE_METATYPE(Column)
 
 class TestCorrelation : public QObject
 {
@@ -20,6 +23,8 @@ private slots:
     void runsSumsStepByStep();
     void givesWorkedExamples();
     void normalizesHardData();
+    void correlatesExactly_data();
+    void correlatesExactly();
     void refusesWhatDoesNotFit();
 };
 
@@ -274,6 +279,77 @@ void TestCorrelation::normalizesHardData()
                                                           5980);
         QVERIFY2(worstDistance(found, directSteps(rows, signal)) <= 1,
                  qPrintable(QString::number(m)));
+    }
+}
+
+static Column pearsonByWindow(const Column& data, const Column& signal)
+{
+    const size_t m = signal.size();
+    const auto centre = [m](const double* values) {
+        std::vector<long double> centred(values, values + m);
+        const long double mean = std::accumulate(centred.begin(), centred.end(), 0.0L) / m;
+        for (long double& value : centred)
+            value -= mean;
+        return centred;
+    };
+    const auto product = [](const auto& a, const auto& b) {
+        return std::inner_product(a.begin(), a.end(), b.begin(), 0.0L);
+    };
+    const auto isFlat = [m](const double* values) {
+        return std::all_of(values, values + m, [=](double value) { return value == *values; });
+    };
+    const auto t = centre(signal.data());
+    Column results;
+    for (size_t start = 0; start + m <= data.size(); ++start) {
+        const auto w = centre(data.data() + start);
+        const bool isAnyFlat = isFlat(signal.data()) || isFlat(data.data() + start);
+        results.push_back(
+            isAnyFlat ? 0.0 : double(product(t, w) / std::sqrt(product(t, t) * product(w, w))));
+    }
+    return results;
+}
+
+void TestCorrelation::correlatesExactly_data()
+{
+    QTest::addColumn<Column>("data");
+    const auto with = [](Column data, size_t from, size_t count, double value) {
+        std::fill_n(data.begin() + long(from), count, value);
+        return data;
+    };
+    Column far = makeData("offset", 6000);
+    for (double& value : far)
+        value = 1e6 + 1e-3 * (value - 1e5);
+    QTest::newRow("1e6 and a thousandth") << far;
+    QTest::newRow("drift") << makeData("walk", 6000);
+    QTest::newRow("spikes") << makeData("spikes", 6000);
+    QTest::newRow("flat stretches") << makeData("flat", 6000);
+    QTest::newRow("noise and zeros") << makeData("noise", 6000);
+    QTest::newRow("faint beside huge") << with(makeData("noise", 6000), 4000, 30, 1e10);
+    QTest::newRow("gaps") << with(with(makeData("walk", 6000), 0, 40, NAN), 2000, 90, INFINITY);
+}
+
+// Against two passes over each window in extended precision.
+void TestCorrelation::correlatesExactly()
+{
+    QFETCH(Column, data);
+    const auto table = MakeColumn(data);
+    RowWindow all(table->GetColumn(0));
+    const Column bridged(all.Get(0, all.GetLength()), all.Get(0, 6000) + 6000);
+    for (const size_t m : {1, 2, 41, 300, 5500, 6000}) {
+        const Column signal(bridged.begin() + long(6000 - m) / 3,
+                            bridged.begin() + long(6000 - m) / 3 + long(m));
+        const Column expected = pearsonByWindow(bridged, signal);
+        RowWindow rows(table->GetColumn(0));
+        double worst = 0.0;
+        CorrelatePearson(rows, signal.data(), int(m), [&](int first, const double* r, int count) {
+            for (int i = 0; i < count; ++i) {
+                const double distance = std::abs(r[i] - expected[size_t(first + i)]);
+                worst = std::abs(r[i]) <= 1.0 && distance <= worst ? worst
+                        : std::abs(r[i]) <= 1.0                    ? distance
+                                                                   : INFINITY;
+            }
+        });
+        QVERIFY2(worst < 1e-9, qPrintable(QStringLiteral("%1: %2").arg(m).arg(worst)));
     }
 }
 

@@ -1,3 +1,4 @@
+#include "betterfirst.h"
 #include "insertmatches.h"
 #include "matchextraction.h"
 #include "patternsdataobject.h"
@@ -8,6 +9,7 @@
 #include <QtTest>
 #include <numeric>
 #include <random>
+#include <tuple>
 
 namespace
 {
@@ -55,6 +57,30 @@ std::vector<int> findCenters(const std::vector<float>& values, int width, float 
     return centers;
 }
 
+// The matches from the best to the worst, each against all that are kept, row by row.
+CenterPoints keepBetter(const CenterPoints& matches, const std::vector<int>& widths,
+                        const Confidences& results)
+{
+    const int steps = int(results.m_Values.front().size());
+    std::vector<std::tuple<float, int, size_t>> order;
+    for (size_t r = 0; r < matches.size(); ++r) {
+        for (const int step : matches[r])
+            order.emplace_back(-results.m_Values[r][size_t(step)], step, r);
+    }
+    std::sort(order.begin(), order.end());
+    CenterPoints kept(matches.size());
+    std::vector<bool> taken(size_t(steps), false);
+    for (const auto& [confidence, step, r] : order) {
+        const auto from = taken.begin() + std::max(step - widths[r] / 2, 0);
+        const auto to = taken.begin() + std::min(step + widths[r] / 2, steps);
+        if (std::find(from, to, true) != to)
+            continue;
+        std::fill(from, to, true);
+        kept[r].insert(std::upper_bound(kept[r].begin(), kept[r].end(), step), step);
+    }
+    return kept;
+}
+
 // Few different values, so that ties abound, with excluded stretches and gaps in the data.
 std::vector<float> randomConfidences(std::mt19937& random, int steps)
 {
@@ -79,6 +105,7 @@ class TestMatchExtraction : public QObject
     Q_OBJECT
 private slots:
     void agreesWithAWalkOverFlags();
+    void keepsTheBetterOfOverlappingMatches();
     void spreadsAndLeavesOut();
     void insertsAsFlagsDo();
     void reducesToPixels_data();
@@ -96,6 +123,21 @@ void TestMatchExtraction::agreesWithAWalkOverFlags()
         const CenterPoints found = computeCenterPoints(results.Get(), widths, threshold);
         for (size_t r = 0; r < 2; ++r)
             QCOMPARE(found[r], findCenters(results.m_Values[r], widths[r], threshold));
+    }
+}
+
+void TestMatchExtraction::keepsTheBetterOfOverlappingMatches()
+{
+    std::mt19937 random(11);
+    for (int run = 0; run < 400; ++run) {
+        const int steps = 1 + int(random() % 300);
+        Confidences results({randomConfidences(random, steps), randomConfidences(random, steps),
+                             randomConfidences(random, steps)});
+        const std::vector<int> widths{2 + int(random() % 40), 2 + int(random() % 20),
+                                      2 + int(random() % 400)};
+        const CenterPoints matches = computeCenterPoints(results.Get(), widths, 0.25F);
+        QCOMPARE(KeepBetterMatches(matches, widths, results.Get()),
+                 keepBetter(matches, widths, results));
     }
 }
 

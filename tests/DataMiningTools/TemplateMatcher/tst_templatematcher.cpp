@@ -74,6 +74,14 @@ void TestTemplateMatcher::takesTheMeanOfPositiveCorrelations()
     QCOMPARE(resultOf(matcher, 0, 5), Values({1, 0, 0.3333, 1.3333, 0}));
     QVERIFY(matcher.Convolve({{QStringLiteral("X"), 2}, {QStringLiteral("Y"), 2}}));
     QCOMPARE(resultOf(matcher, 0, 5), Values(5, 0.0));
+
+    // Pearson's of two rows is their sign: X is + - + -, and the signals of Y are flat or too
+    // long. It stands at the window's first row.
+    TemplateMatcher exact(data.get(), &pattern, 0, TemplateMatcher::MEASURE_EXACT_CORRELATION);
+    QVERIFY(exact.Convolve(both));
+    QCOMPARE(resultOf(exact, 0, 5), Values({0.3333, 0, 0.3333, 0, 0}));
+    QCOMPARE(TemplateMatcher::getMeasureName(2), QStringLiteral("Normalized Correlation (Exact)"));
+    QVERIFY(TemplateMatcher::getMeasureName(3).isEmpty());
 }
 
 void TestTemplateMatcher::marksOtherSegments()
@@ -124,7 +132,7 @@ void TestTemplateMatcher::refusesAndSurvivesEdges()
     QVERIFY(matcher.Convolve(4, 4, {}));
     for (int which = 0; which < 4; ++which) {
         TemplateMatcher bad(which == 0 ? nullptr : data.get(), which == 1 ? nullptr : &pattern, 0,
-                            which == 2   ? 2
+                            which == 2   ? 3
                             : which == 3 ? -1
                                          : 0);
         QCOMPARE(bad.getErrorMessage(), QStringLiteral("N/A"));

@@ -181,11 +181,10 @@ void TestTemplateSearch::findsCandidates_data()
     QTest::newRow("rule") << "Rule Association"
                           << "Search Unlabeled Data"
                           << "(0,20) R(20,27) (27,90) L(90,120) (120,120) R(120,130) (130,200)";
-    // Of the result that there was, a part stays, or nothing. Where row 0 is not searched, every
-    // confidence ends near 1, and the best of the first half width is taken.
+    // Of the result that there was, a part stays, or nothing.
     QTest::newRow("refined by template") << "Template Search"
                                          << "Refine Results"
-                                         << "(0,19) R(19,25) (25,90) L(90,120) (120,200)";
+                                         << "(0,20) R(20,26) (26,90) L(90,120) (120,200)";
     QTest::newRow("refined by threshold") << "Threshold"
                                           << "Refine Results"
                                           << "(0,20) R(20,22) (22,90) L(90,120) (120,200)";

@@ -9,6 +9,10 @@
 namespace
 {
 
+// So that a threshold can be moved while they are counted.
+constexpr int mostAtOnce = 10000;
+constexpr int delay = 200;
+
 QString tell(const MatchFates& fates)
 {
     const auto number = [](int count) { return QLocale().toString(count); };
@@ -28,11 +32,15 @@ InsertionForecast::InsertionForecast(CutCollection* cuts, CutSegment::SEGMENT_ST
     : QWidget(parent), m_CutCollection(cuts), m_SearchMode(searchMode), m_Text(new QLabel),
       m_MergesPlainCuts(new QCheckBox(tr("Merge plain cuts under matches")))
 {
+    m_Text->setWordWrap(true);
     m_Text->setToolTip(tr("What becomes of the matches when you finish"));
     m_MergesPlainCuts->setChecked(true);
     m_MergesPlainCuts->setToolTip(tr("Plain cuts that a match crosses become one, so that it can "
                                      "be inserted; labels and results stay as they are"));
     connect(m_MergesPlainCuts, &QCheckBox::toggled, this, &InsertionForecast::countFates);
+    m_Delay.setSingleShot(true);
+    m_Delay.setInterval(delay);
+    connect(&m_Delay, &QTimer::timeout, this, &InsertionForecast::countFates);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_Text);
@@ -43,7 +51,12 @@ InsertionForecast::InsertionForecast(CutCollection* cuts, CutSegment::SEGMENT_ST
 void InsertionForecast::SetMatches(const SearchMatches& matches)
 {
     m_Matches = matches;
-    countFates();
+    if (matches.size() <= mostAtOnce) {
+        countFates();
+        return;
+    }
+    m_Text->setText(tr("Counting ..."));
+    m_Delay.start();
 }
 
 MatchInsertion InsertionForecast::getInsertion() const
@@ -53,6 +66,7 @@ MatchInsertion InsertionForecast::getInsertion() const
 
 void InsertionForecast::countFates()
 {
+    m_Delay.stop();
     m_Fates = m_CutCollection ? ForecastMatches(*m_CutCollection, m_Matches, getInsertion())
                               : MatchFates();
     m_Text->setText(tell(m_Fates));
@@ -60,6 +74,8 @@ void InsertionForecast::countFates()
 
 bool InsertionForecast::AgreesToInsert()
 {
+    if (m_Delay.isActive())
+        countFates();
     const int results = m_CutCollection && m_SearchMode == CutSegment::SEGMENT_RESULT
                             ? m_CutCollection->CountSegments(CutSegment::SEGMENT_RESULT)
                             : 0;

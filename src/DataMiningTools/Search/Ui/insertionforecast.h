@@ -1,6 +1,7 @@
 #pragma once
 
 #include "insertmatches.h"
+#include <QTimer>
 #include <QWidget>
 
 class QCheckBox;
@@ -17,7 +18,7 @@ public:
     InsertionForecast(CutCollection* cuts, CutSegment::SEGMENT_STATE searchMode,
                       QWidget* parent = nullptr);
 
-    /// Counts anew; at first there are no matches.
+    /// Counts anew, very many matches only when no others follow at once; at first there are none.
     void SetMatches(const SearchMatches& matches);
     const SearchMatches& GetMatches() const { return m_Matches; }
     /// Asks before results go that nothing replaces; true where nothing has to be asked.
@@ -33,6 +34,7 @@ private:
     CutSegment::SEGMENT_STATE m_SearchMode;
     SearchMatches m_Matches;
     MatchFates m_Fates;
+    QTimer m_Delay;
     QLabel* m_Text;
     QCheckBox* m_MergesPlainCuts;
 };

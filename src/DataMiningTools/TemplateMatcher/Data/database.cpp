@@ -2,6 +2,7 @@
 
 #include "collectionsdataobject.h"
 #include "databasequery.h"
+#include "patternorigin.h"
 #include "settingsfolder.h"
 #include <QDir>
 #include <QVariant>
@@ -72,7 +73,11 @@ QSqlError prepare(QSqlDatabase& database)
     const bool isComplete =
         std::all_of(std::begin(tableNames), std::end(tableNames),
                     [&](const char* name) { return tables.contains(QLatin1String(name)); });
-    return isComplete ? QSqlError() : createTables();
+    const QSqlError error = isComplete ? QSqlError() : createTables();
+    // A database that can't be written serves all the same: its origins are unknown.
+    if (!error.isValid())
+        PrepareOriginTable();
+    return error;
 }
 
 } // namespace

@@ -2,11 +2,39 @@
 
 #include "dataset.h"
 #include "signalresampling.h"
+#include <QCoreApplication>
+#include <algorithm>
+#include <cmath>
 
 namespace
 {
 
 using Signals = std::vector<std::unique_ptr<SignalTemplateDataObject>>;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("PatternBuilder", text);
+}
+
+QString findFault(ConstSpan<double> values, const QString& name)
+{
+    const auto isMissing = [](double value) { return !std::isfinite(value); };
+    if (std::any_of(values.begin(), values.end(), isMissing))
+        return tr("Error: %1 has missing values in the template.").arg(name);
+    if (std::all_of(values.begin(), values.end(), [=](double value) { return value == values[0]; }))
+        return tr("Error: %1 has the same value all through the template.").arg(name);
+    return QString();
+}
+
+void smooth(SignalTemplateDataObject& signal, const PatternRequest& request)
+{
+    if (request.m_SmoothingWindow <= 1)
+        return;
+    if (request.m_IsCentred)
+        signal.SmoothSignalCentred(request.m_SmoothingWindow);
+    else
+        signal.SmoothSignal(request.m_SmoothingWindow);
+}
 
 // The signals that are resampled; none when one of them can't be had.
 Signals takeSignals(DataSet* dataSet, const PatternRequest& request)
@@ -17,8 +45,7 @@ Signals takeSignals(DataSet* dataSet, const PatternRequest& request)
         if (!signal->SetSignal(dataSet, attribute, request.m_From, request.m_To))
             return {};
         signal->setAttributeName(dataSet->GetAttributeName(attribute));
-        if (request.m_SmoothingWindow > 1)
-            signal->SmoothSignal(request.m_SmoothingWindow);
+        smooth(*signal, request);
         taken.push_back(std::move(signal));
     }
     return taken;
@@ -40,6 +67,29 @@ bool IsPatternTooLong(const PatternRequest& request)
     return false;
 }
 
+QString FindRowFault(const DataSet& dataSet, const PatternRequest& request)
+{
+    for (const int attribute : request.m_Attributes) {
+        QString fault = findFault(dataSet.GetColumn(attribute).Part(request.m_From, request.m_To),
+                                  dataSet.GetAttributeName(attribute));
+        if (!fault.isEmpty())
+            return fault;
+    }
+    return QString();
+}
+
+QString FindPatternFault(const PatternsDataObject& pattern)
+{
+    for (const auto* collection : pattern.GetSignalCollections()) {
+        for (const auto* signal : collection->GetSignals()) {
+            QString fault = findFault(signal->GetValues(), signal->GetAttributeName());
+            if (!fault.isEmpty())
+                return fault;
+        }
+    }
+    return QString();
+}
+
 std::unique_ptr<PatternsDataObject> MakePattern(DataSet* dataSet, const PatternRequest& request)
 {
     if (IsPatternTooLong(request))
@@ -49,6 +99,7 @@ std::unique_ptr<PatternsDataObject> MakePattern(DataSet* dataSet, const PatternR
         return nullptr;
     auto pattern = std::make_unique<PatternsDataObject>(request.m_CollectionId, request.m_Name,
                                                         request.m_Desc);
+    pattern->SetOrigin(MakeOrigin(*dataSet, request.m_From, request.m_To));
     for (const auto& [up, down] : request.m_Factors) {
         const float factor = float(up) / float(down);
         auto* collection = new SignalTemplateCollectionDataObject(double(factor));

@@ -20,10 +20,19 @@ struct PatternRequest {
     QList<QPair<int, int>> m_Factors;
     /// For SmoothSignal; 1 and less leave the signals raw.
     int m_SmoothingWindow = 0;
+    /// Smooths by SmoothSignalCentred instead.
+    bool m_IsCentred = false;
 };
 
 /// Whether the template would be larger than MaxSignalLength, as a whole or on the way to it.
 bool IsPatternTooLong(const PatternRequest& request);
+
+/// Why nothing could be found with a template of these rows, as a sentence: an attribute has
+/// missing or infinite values in them, or the same value in all. Empty when there is no such
+/// reason. The rows and attributes have to exist.
+QString FindRowFault(const DataSet& dataSet, const PatternRequest& request);
+/// The same for the signals of a template, after smoothing and resampling.
+QString FindPatternFault(const PatternsDataObject& pattern);
 
 /// The template, not stored: for every factor a signal collection, with a signal of every
 /// attribute in it. The frequency factor up / down is computed in single precision. Null when

@@ -35,6 +35,7 @@ PatternsDataObject* PatternsDataObject::GetPattern(int id, bool loadSignals)
             SignalTemplateCollectionDataObject::GetSignalsByPatternID(id);
         if (!LastQueryError().isEmpty())
             return nullptr;
+        pattern->m_Origin = ReadPatternOrigin(id);
     }
     return pattern.release();
 }
@@ -42,6 +43,14 @@ PatternsDataObject* PatternsDataObject::GetPattern(int id, bool loadSignals)
 bool PatternsDataObject::DeletePattern(int id)
 {
     return RunForId("DELETE FROM pattern WHERE id = :id", id);
+}
+
+bool PatternsDataObject::RenamePattern(int id, const QString& name)
+{
+    QSqlQuery query = PrepareQuery("UPDATE pattern SET name=:name WHERE id=:id");
+    query.bindValue(QStringLiteral(":name"), name);
+    query.bindValue(QStringLiteral(":id"), id);
+    return RunQuery(query) && query.numRowsAffected() == 1;
 }
 
 int PatternsDataObject::InsertPattern(bool addSignals)
@@ -53,6 +62,8 @@ int PatternsDataObject::InsertPattern(bool addSignals)
     query.bindValue(QStringLiteral(":name"), m_Name);
     query.bindValue(QStringLiteral(":desc"), m_Desc);
     m_Id = RunInsert(query);
+    if (m_Id != -1 && m_Origin.IsKnown() && !StorePatternOrigin(m_Id, m_Origin))
+        return m_Id = -1;
     if (m_Id != -1 && addSignals) {
         for (SignalTemplateCollectionDataObject* collection : qAsConst(m_SignalCollections)) {
             collection->SetPatternId(m_Id);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "patternorigin.h"
 #include "signaltemplatecollectiondataobject.h"
 #include <QList>
 #include <QString>
@@ -23,15 +24,17 @@ public:
     /// failure.
     static QList<PatternsDataObject*> GetAllPatterns();
     /// The pattern of that id, which the caller owns, with loadSignals all that stands under it
-    /// too; null when there is none or not all of it can be read.
+    /// and its origin too; null when there is none or not all of the signals can be read.
     static PatternsDataObject* GetPattern(int id, bool loadSignals);
     /// Removes a pattern and, by the database's own cascade, its signals.
     static bool DeletePattern(int id);
+    /// Gives a stored pattern another name. False also when it has gone.
+    static bool RenamePattern(int id, const QString& name);
     /// The pattern of the present row of a query, without signals; the caller owns it.
     static PatternsDataObject* FromRow(const QSqlQuery& row);
 
-    /// Stores this as a new row, with addSignals all signal collections under it too. The new
-    /// id, or -1 with nothing stored.
+    /// Stores this as a new row, with its origin where something is known of it, and with
+    /// addSignals all signal collections under it too. The new id, or -1 with nothing stored.
     int InsertPattern(bool addSignals);
 
     /// -1 until stored.
@@ -43,6 +46,8 @@ public:
     void SetName(const QString& name) { m_Name = name; }
     QString GetDesc() const { return m_Desc; }
     void SetDesc(const QString& desc) { m_Desc = desc; }
+    const PatternOrigin& GetOrigin() const { return m_Origin; }
+    void SetOrigin(const PatternOrigin& origin) { m_Origin = origin; }
     /// By rising frequency factor when read.
     const QList<SignalTemplateCollectionDataObject*>& GetSignalCollections() const
     {
@@ -59,5 +64,6 @@ private:
     int m_CollectionId;
     QString m_Name;
     QString m_Desc;
+    PatternOrigin m_Origin;
     QList<SignalTemplateCollectionDataObject*> m_SignalCollections;
 };

@@ -53,16 +53,14 @@ Matrix momentMatrix(int half)
     return matrix;
 }
 
-// The response of a filter of that size: the weights as they stand in their longer list, without
-// the middle of an even size. So the right half is one place off, which makes results smaller.
+// The symmetric response of a filter of that size. An even size has no room for the outermost
+// weights, which makes results a little smaller.
 std::vector<float> makeResponse(const std::vector<float>& weights, size_t size)
 {
     std::vector<float> response(size, 0.0F);
     response[0] = weights[0];
-    for (size_t i = 1; i < (size + 1) / 2; ++i) {
-        response[i] = weights[i];
-        response[size - i] = weights[size - i];
-    }
+    for (size_t i = 1; i < (size + 1) / 2; ++i)
+        response[i] = response[size - i] = weights[i];
     return response;
 }
 

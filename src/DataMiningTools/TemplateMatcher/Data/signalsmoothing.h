@@ -13,6 +13,6 @@ std::vector<float> SavitzkyGolayWeights(int half, int size);
 /// 4 * window, or with a window below 2.
 ///
 /// The smoothed values are late, by window - 1 values for an even window, and smaller than they
-/// should be, a constant by the factor 3179 / 4199 for a window of 8. So they do not go over
-/// smoothly into the values at both ends.
+/// should be, a constant by the factor 3809 / 4199 for a window of 8. So they do not go over
+/// smoothly into the values at both ends: CentredSmoothedSignal does.
 std::vector<double> SmoothedSignal(const std::vector<double>& signal, int window);

@@ -1,5 +1,6 @@
 #include "signaltemplatedataobject.h"
 
+#include "centredsmoothing.h"
 #include "databasequery.h"
 #include "dataset.h"
 #include "signalresampling.h"
@@ -123,6 +124,14 @@ bool SignalTemplateDataObject::SmoothSignal(int window)
     if (m_Signal.empty())
         return false;
     m_Signal = SmoothedSignal(m_Signal, window);
+    return true;
+}
+
+bool SignalTemplateDataObject::SmoothSignalCentred(int window)
+{
+    if (m_Signal.empty())
+        return false;
+    m_Signal = CentredSmoothedSignal(m_Signal, window);
     return true;
 }
 

@@ -38,6 +38,8 @@ public:
     /// Smooths the signal in place by a Savitzky-Golay filter of order 4, as SmoothedSignal says.
     /// False without a signal.
     bool SmoothSignal(int window);
+    /// The same as CentredSmoothedSignal says.
+    bool SmoothSignalCentred(int window);
     /// The values up-sampled, then down-sampled, as ResampledSignal says; their number goes to
     /// newLength.
     std::vector<double> resampleSignal(int up, int down, int& newLength) const;

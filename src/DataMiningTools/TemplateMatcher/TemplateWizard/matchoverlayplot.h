@@ -2,8 +2,7 @@
 
 #include "matchextraction.h"
 #include "selectionmultiplelineplotwidget.h"
-#include <QList>
-#include <QPair>
+#include <vector>
 
 class SignalTemplateDataObject;
 
@@ -16,25 +15,31 @@ public:
     MatchOverlayPlot(DataSet* dataSet, const SignalTemplateDataObject& signal, int attribute,
                      QWidget* parent = nullptr);
 
-    /// Replaces the lines. widths: of the template, per frequency factor.
-    void ShowMatches(const std::vector<CenterPoint>& matches, const std::vector<int>& widths);
+    /// Replaces the lines by those of the chosen matches. all: those that a box can reject, with
+    /// or without a line. widths: of the template, per frequency factor.
+    void ShowMatches(const std::vector<CenterPoint>& chosen, const std::vector<CenterPoint>& all,
+                     const std::vector<int>& widths);
 
-    /// The first row and the centre of each match that was rejected here.
-    const QList<QPair<int, int>>& GetRemovedMatches() const { return m_RemovedMatches; }
+signals:
+    /// The matches in a box that the user drags; 0 when it is gone.
+    void AboutToReject(int matches);
+    /// The user has rejected the matches on these steps, ascending.
+    void StepsRejected(const std::vector<int>& steps);
 
 protected:
-    /// The first line is the template's.
-    bool isResult(int line) const override { return line > 0; }
-    /// Also remembers the matches.
-    void rejectLines(const std::vector<int>& lines) override;
+    /// The places of matches, not of lines.
+    std::vector<int> findResults(const QRect& box) const override;
+    void dragBox(const QRect& box) override;
+    void rejectLines(const std::vector<int>& matches) override;
 
 private:
     void setAxis();
+    RowSpan rowsOf(const CenterPoint& match, const std::vector<int>& widths) const;
 
     DataSet* m_DataSet;
     const int m_AttributeId;
     std::vector<double> m_Template;
-    // In the order of the lines, which the template's precedes.
-    QList<QPair<int, int>> m_Matches;
-    QList<QPair<int, int>> m_RemovedMatches;
+    std::vector<CenterPoint> m_Matches;
+    // Of these.
+    std::vector<RowSpan> m_Rows;
 };

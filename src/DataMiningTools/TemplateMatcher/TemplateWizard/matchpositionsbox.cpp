@@ -10,6 +10,7 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QVBoxLayout>
+#include <algorithm>
 
 MatchPositionsBox::MatchPositionsBox(DataSet* dataSet, QWidget* parent)
     : QGroupBox(parent), m_DataSet(dataSet), m_Plot(new PlotAreaWidget),
@@ -59,6 +60,7 @@ void MatchPositionsBox::addMap(ResultMapWidget* map)
 {
     map->SetDataSet(m_DataSet);
     connect(map, &ResultMapWidget::ItemsRemoved, this, &MatchPositionsBox::ItemsRemoved);
+    connect(map, &ResultMapWidget::AboutToRemove, this, &MatchPositionsBox::AboutToReject);
     layout()->addWidget(map);
     m_Maps.append(map);
 }
@@ -94,16 +96,20 @@ void MatchPositionsBox::SetThreshold(float threshold)
         map->SetThreshold(threshold);
 }
 
-void MatchPositionsBox::ItemsRemovedFromPlot(const QList<int>& steps)
+void MatchPositionsBox::SetRemovedSteps(const std::vector<int>& steps)
 {
     for (ResultMapWidget* map : qAsConst(m_Maps))
-        map->ItemsRemovedFromPlot(steps);
+        map->SetRemovedSteps(steps);
 }
 
-QList<int> MatchPositionsBox::GetRemovedSteps() const
+std::vector<int> MatchPositionsBox::GetRemovedSteps() const
 {
-    QList<int> removed;
-    for (const ResultMapWidget* map : m_Maps)
-        removed.append(map->GetRemovedSteps());
+    std::vector<int> removed;
+    for (const ResultMapWidget* map : m_Maps) {
+        const QList<int> steps = map->GetRemovedSteps();
+        removed.insert(removed.end(), steps.begin(), steps.end());
+    }
+    std::sort(removed.begin(), removed.end());
+    removed.erase(std::unique(removed.begin(), removed.end()), removed.end());
     return removed;
 }

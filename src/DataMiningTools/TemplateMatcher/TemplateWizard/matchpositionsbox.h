@@ -23,13 +23,15 @@ public:
     void SetMatches(const std::shared_ptr<const CenterPoints>& matches,
                     const std::shared_ptr<const CenterPoints>& oldMatches);
     void SetThreshold(float threshold);
-    /// Matches on these steps shall be seen no more.
-    void ItemsRemovedFromPlot(const QList<int>& steps);
-    /// The steps of the matches that were removed on the maps.
-    QList<int> GetRemovedSteps() const;
+    /// Matches on these steps, ascending, are not seen; all others are.
+    void SetRemovedSteps(const std::vector<int>& steps);
+    /// The steps whose matches were removed, ascending, each once.
+    std::vector<int> GetRemovedSteps() const;
 
 signals:
     void ItemsRemoved();
+    /// The matches on a band that the user drags over a map; 0 when it is gone.
+    void AboutToReject(int matches);
 
 private:
     QLayout* makeAttributeRow();

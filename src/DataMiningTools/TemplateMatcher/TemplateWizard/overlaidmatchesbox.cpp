@@ -5,18 +5,28 @@
 #include "patternsdataobject.h"
 #include <QDoubleSpinBox>
 #include <QFormLayout>
+#include <QLabel>
+#include <QLocale>
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <limits>
 
 namespace
 {
 // In all plots together: more would neither be told apart nor be painted while a slider moves.
 constexpr int mostLines = 400;
+
+/// With commas between the thousands, whatever the language of the desktop is.
+QString grouped(size_t number)
+{
+    return QLocale(QLocale::English, QLocale::UnitedStates).toString(qulonglong(number));
+}
 } // namespace
 
 OverlaidMatchesBox::OverlaidMatchesBox(QWidget* parent)
-    : QGroupBox(parent), m_PlotLayout(new QVBoxLayout), m_Transparency(new QDoubleSpinBox)
+    : QGroupBox(parent), m_PlotLayout(new QVBoxLayout), m_Transparency(new QDoubleSpinBox),
+      m_Drawn(new QLabel)
 {
     setTitle(tr("Overlaid Matches"));
     auto* plots = new QWidget;
@@ -36,6 +46,7 @@ OverlaidMatchesBox::OverlaidMatchesBox(QWidget* parent)
     form->addRow(tr("Line Transparency:"), m_Transparency);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(scroll, 1);
+    layout->addWidget(m_Drawn);
     layout->addLayout(form);
 }
 
@@ -46,6 +57,7 @@ void OverlaidMatchesBox::Clear()
         plot->deleteLater();
     }
     m_OverlayPlots.clear();
+    m_Drawn->clear();
 }
 
 void OverlaidMatchesBox::SetPattern(DataSet* dataSet, const PatternsDataObject& pattern,
@@ -57,27 +69,29 @@ void OverlaidMatchesBox::SetPattern(DataSet* dataSet, const PatternsDataObject& 
         const int attribute = attributeMap.value(signal->GetAttributeName(), 0);
         if (attribute < 0 || attribute >= dataSet->GetAttributeCount())
             continue;
-        auto* plot = new MatchOverlayPlot(dataSet, *signal, attribute);
-        connect(plot, &MatchOverlayPlot::ItemsRemoved, this, &OverlaidMatchesBox::ItemsRemoved);
-        m_PlotLayout->addWidget(plot);
-        m_OverlayPlots.append(plot);
+        m_OverlayPlots.append(addPlot(dataSet, *signal, attribute));
     }
+}
+
+MatchOverlayPlot* OverlaidMatchesBox::addPlot(DataSet* dataSet,
+                                              const SignalTemplateDataObject& signal, int attribute)
+{
+    auto* plot = new MatchOverlayPlot(dataSet, signal, attribute);
+    connect(plot, &MatchOverlayPlot::AboutToReject, this, &OverlaidMatchesBox::AboutToReject);
+    connect(plot, &MatchOverlayPlot::StepsRejected, this, &OverlaidMatchesBox::StepsRejected);
+    m_PlotLayout->addWidget(plot);
+    return plot;
 }
 
 void OverlaidMatchesBox::ShowMatches(const CenterPoints& matches, const std::vector<int>& widths)
 {
     const int plots = std::max(m_OverlayPlots.size(), 1);
     const std::vector<CenterPoint> chosen = ChooseEvenly(matches, std::max(mostLines / plots, 1));
+    const std::vector<CenterPoint> all = ChooseEvenly(matches, std::numeric_limits<int>::max());
     for (MatchOverlayPlot* plot : qAsConst(m_OverlayPlots))
-        plot->ShowMatches(chosen, widths);
-}
-
-QList<QPair<int, int>> OverlaidMatchesBox::GetRemovedMatches() const
-{
-    QList<QPair<int, int>> removed;
-    for (const MatchOverlayPlot* plot : m_OverlayPlots)
-        removed.append(plot->GetRemovedMatches());
-    return removed;
+        plot->ShowMatches(chosen, all, widths);
+    SetAlphaValues();
+    m_Drawn->setText(tr("%1 of %2 drawn").arg(grouped(chosen.size()), grouped(all.size())));
 }
 
 void OverlaidMatchesBox::SetAlphaValues()

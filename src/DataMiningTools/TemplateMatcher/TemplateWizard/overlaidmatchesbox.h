@@ -4,13 +4,14 @@
 #include <QGroupBox>
 #include <QHash>
 #include <QList>
-#include <QPair>
 
 class DataSet;
 class MatchOverlayPlot;
 class PatternsDataObject;
 class QDoubleSpinBox;
+class QLabel;
 class QVBoxLayout;
+class SignalTemplateDataObject;
 
 /// The matches over each other, a plot per attribute of the template, where they can be
 /// rejected.
@@ -20,25 +21,29 @@ class OverlaidMatchesBox : public QGroupBox
 public:
     explicit OverlaidMatchesBox(QWidget* parent = nullptr);
 
-    /// A plot per signal of the first frequency factor; forgets what was rejected.
+    /// A plot per signal of the first frequency factor.
     void SetPattern(DataSet* dataSet, const PatternsDataObject& pattern,
                     const QHash<QString, int>& attributeMap);
     void Clear();
-    /// Draws as many of the matches as can be told apart, evenly chosen.
+    /// Draws as many of the matches as can be told apart, evenly chosen, and tells how many.
     void ShowMatches(const CenterPoints& matches, const std::vector<int>& widths);
-
-    /// The first row and the centre of each rejected match.
-    QList<QPair<int, int>> GetRemovedMatches() const;
 
     /// Draws all lines as strongly as the user has set it.
     void SetAlphaValues();
 
 signals:
     void AlphaChanged(double alpha);
-    void ItemsRemoved();
+    /// The matches in a box that the user drags over a plot; 0 when it is gone.
+    void AboutToReject(int matches);
+    /// The user has rejected the matches on these steps, ascending.
+    void StepsRejected(const std::vector<int>& steps);
 
 private:
+    MatchOverlayPlot* addPlot(DataSet* dataSet, const SignalTemplateDataObject& signal,
+                              int attribute);
+
     QList<MatchOverlayPlot*> m_OverlayPlots;
     QVBoxLayout* m_PlotLayout;
     QDoubleSpinBox* m_Transparency;
+    QLabel* m_Drawn;
 };

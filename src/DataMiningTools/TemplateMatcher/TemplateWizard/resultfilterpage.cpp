@@ -1,18 +1,19 @@
 #include "resultfilterpage.h"
 
+#include "betterfirst.h"
 #include "cutcollection.h"
-#include "insertmatches.h"
+#include "dialogprogress.h"
+#include "insertionforecast.h"
 #include "matchpositionsbox.h"
 #include "overlaidmatchesbox.h"
 #include "patternsdataobject.h"
-#include "progress.h"
 #include "thresholdslider.h"
 #include <QAbstractSpinBox>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
-#include <algorithm>
+#include <QPushButton>
 
 namespace
 {
@@ -26,20 +27,37 @@ ResultFilterPage::ResultFilterPage(DataSet* dataSet, CutCollection* cuts,
                                    const QList<int>* patternIds, QWidget* parent)
     : TemplateSearchPage(dataSet, cuts, searchMode, patternIds, parent),
       m_ThresholdSlider(new ThresholdSlider(int(initialThreshold * 100))),
-      m_Statistics(new QLabel(tr("Statistics: "))), m_ThresholdBox(makeThresholdBox()),
+      m_Statistics(new QLabel(tr("Statistics: "))), m_RejectionText(new QLabel),
+      m_BringBack(new QPushButton(tr("Bring Back"))), m_ThresholdBox(makeThresholdBox()),
+      m_Forecast(new InsertionForecast(cuts, searchMode)),
       m_Positions(new MatchPositionsBox(dataSet)), m_Overlays(new OverlaidMatchesBox)
 {
-    connect(m_Positions, &MatchPositionsBox::ItemsRemoved, this, &ResultFilterPage::vizResults);
-    connect(m_Overlays, &OverlaidMatchesBox::ItemsRemoved, this, &ResultFilterPage::vizResults);
+    connectBoxes();
+    auto* layout = new QGridLayout(this);
+    layout->addWidget(m_ThresholdBox, 0, 0);
+    layout->addWidget(makeForecastBox(), 0, 1);
+    layout->addWidget(m_Positions, 1, 0);
+    auto* right = new QVBoxLayout;
+    right->addWidget(m_Overlays, 1);
+    right->addLayout(makeRejectionRow());
+    layout->addLayout(right, 1, 1);
+    layout->setRowStretch(1, 1);
+    layout->setColumnStretch(0, 1);
+    layout->setColumnStretch(1, 1);
+    clearResults();
+}
+
+void ResultFilterPage::connectBoxes()
+{
+    connect(m_Positions, &MatchPositionsBox::ItemsRemoved, this,
+            [this] { reject(m_Positions->GetRemovedSteps()); });
+    connect(m_Overlays, &OverlaidMatchesBox::StepsRejected, this, &ResultFilterPage::reject);
+    connect(m_Positions, &MatchPositionsBox::AboutToReject, this,
+            &ResultFilterPage::showAboutToReject);
+    connect(m_Overlays, &OverlaidMatchesBox::AboutToReject, this,
+            &ResultFilterPage::showAboutToReject);
     connect(m_Overlays, &OverlaidMatchesBox::AlphaChanged, this,
             &ResultFilterPage::setGraphAlphaValues);
-    auto* left = new QVBoxLayout;
-    left->addWidget(m_ThresholdBox);
-    left->addWidget(m_Positions, 1);
-    auto* layout = new QHBoxLayout(this);
-    layout->addLayout(left, 1);
-    layout->addWidget(m_Overlays, 1);
-    clearResults();
 }
 
 QGroupBox* ResultFilterPage::makeThresholdBox()
@@ -56,12 +74,37 @@ QGroupBox* ResultFilterPage::makeThresholdBox()
     return box;
 }
 
+// Beside the threshold, as a small screen has to hold the maps below that.
+QGroupBox* ResultFilterPage::makeForecastBox()
+{
+    auto* box = new QGroupBox(tr("Results"));
+    (new QVBoxLayout(box))->addWidget(m_Forecast);
+    return box;
+}
+
+QLayout* ResultFilterPage::makeRejectionRow()
+{
+    // A map that changed its size would lose the band that the text tells of.
+    m_RejectionText->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_BringBack->setToolTip(tr("Bring back the matches of the last rejection"));
+    // Enter belongs to the wizard.
+    m_BringBack->setAutoDefault(false);
+    connect(m_BringBack, &QPushButton::clicked, this, &ResultFilterPage::BringBack);
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_RejectionText, 1);
+    row->addWidget(m_BringBack);
+    return row;
+}
+
 void ResultFilterPage::clearResults()
 {
     m_Results = {};
     m_Pattern = nullptr;
     m_Widths.clear();
+    m_Rejections.Clear();
     initCenterPointMemory();
+    showRejections();
+    m_Forecast->SetMatches({});
     m_Overlays->Clear();
     m_Positions->SetResults({}, -1, 1);
     m_Statistics->setText(tr("Statistics: "));
@@ -85,6 +128,7 @@ void ResultFilterPage::SetResults(float** results, int resultSizeX, int resultSi
     m_Threshold = threshold;
     m_ThresholdSlider->SetValue(int(threshold * 100));
     m_ThresholdBox->setEnabled(true);
+    m_Rejections.Clear();
     initCenterPointMemory();
     computeCenterPoints();
     m_Overlays->SetPattern(dataSet(), *pattern, attributeMap);
@@ -103,8 +147,8 @@ void ResultFilterPage::initCenterPointMemory()
 void ResultFilterPage::computeCenterPoints()
 {
     m_OldCenterPoints = m_CenterPoints;
-    m_CenterPoints =
-        std::make_shared<CenterPoints>(::computeCenterPoints(m_Results, m_Widths, m_Threshold));
+    m_CenterPoints = std::make_shared<CenterPoints>(KeepBetterMatches(
+        ::computeCenterPoints(m_Results, m_Widths, m_Threshold), m_Widths, m_Results));
 }
 
 void ResultFilterPage::lowerThresholdChanged(int value)
@@ -122,12 +166,13 @@ void ResultFilterPage::setNormThreshold(int value)
 
 void ResultFilterPage::vizResults()
 {
-    const std::vector<int> removed = removedSteps();
-    m_Positions->ItemsRemovedFromPlot({removed.begin(), removed.end()});
+    m_Positions->SetRemovedSteps(m_Rejections.GetSteps());
     m_Positions->SetMatches(m_CenterPoints, m_OldCenterPoints);
-    const CenterPoints matches = WithoutSteps(*m_CenterPoints, removed);
+    const CenterPoints matches = acceptedMatches();
     m_Overlays->ShowMatches(matches, m_Widths);
+    m_Forecast->SetMatches(ExtentsOfMatches(matches, *m_Pattern, m_Results.m_Steps));
     m_Statistics->setText(tr("Statistics: %1 matches found").arg(CountMatches(matches)));
+    showRejections();
 }
 
 void ResultFilterPage::setGraphAlphaValues()
@@ -135,26 +180,44 @@ void ResultFilterPage::setGraphAlphaValues()
     m_Overlays->SetAlphaValues();
 }
 
-std::vector<int> ResultFilterPage::removedSteps() const
+CenterPoints ResultFilterPage::acceptedMatches() const
 {
-    std::vector<int> steps;
-    for (const auto& match : m_Overlays->GetRemovedMatches())
-        steps.push_back(match.second);
-    for (const int step : m_Positions->GetRemovedSteps())
-        steps.push_back(step);
-    std::sort(steps.begin(), steps.end());
-    steps.erase(std::unique(steps.begin(), steps.end()), steps.end());
-    return steps;
+    return WithoutSteps(*m_CenterPoints, m_Rejections.GetSteps());
+}
+
+void ResultFilterPage::reject(const std::vector<int>& steps)
+{
+    m_Rejections.Reject(steps);
+    vizResults();
+}
+
+void ResultFilterPage::BringBack()
+{
+    m_Rejections.BringBack();
+    vizResults();
+}
+
+void ResultFilterPage::showRejections()
+{
+    const size_t rejected = m_Rejections.GetSteps().size();
+    m_RejectionText->setText(rejected == 0 ? QString() : tr("%1 rejected").arg(rejected));
+    m_BringBack->setEnabled(rejected > 0);
+}
+
+void ResultFilterPage::showAboutToReject(int matches)
+{
+    if (matches == 0)
+        showRejections();
+    else
+        m_RejectionText->setText(tr("%1 about to be rejected").arg(matches));
 }
 
 bool ResultFilterPage::validatePage()
 {
-    if (!HasResults())
+    if (!HasResults() || !m_Forecast->AgreesToInsert())
         return false;
-    const CenterPoints matches = WithoutSteps(*m_CenterPoints, removedSteps());
-    NoProgress progress;
-    InsertMatches(*cuts(), ExtentsOfMatches(matches, *m_Pattern, m_Results.m_Steps),
-                  {searchMode(), true}, progress);
+    DialogProgress progress(this, tr("Inserting Cuts"));
+    m_Forecast->Insert(progress);
     return true;
 }
 

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "cutsegment.h"
+#include "matchrejections.h"
 #include "templatesearchpage.h"
 
+class InsertionForecast;
 class MatchPositionsBox;
 class OverlaidMatchesBox;
 class QGroupBox;
 class QLabel;
+class QPushButton;
 class ThresholdSlider;
 
 /// Lets the user set the confidence that a match needs and reject single matches. The rest become
@@ -26,7 +29,8 @@ public:
     bool HasResults() const { return !m_Results.IsEmpty(); }
 
     /// Makes the matches that were not rejected into segments, after a search that refines in
-    /// place of the earlier ones. False on an empty page.
+    /// place of the earlier ones. False on an empty page, and when the user keeps the results
+    /// that would go.
     bool validatePage() override;
 
 public slots:
@@ -35,6 +39,8 @@ public slots:
     void computeCenterPoints();
     void vizResults();
     void setGraphAlphaValues();
+    /// Undoes the last rejection.
+    void BringBack();
 
 protected:
     void clearResults() override;
@@ -44,8 +50,14 @@ protected:
 
 private:
     QGroupBox* makeThresholdBox();
+    QGroupBox* makeForecastBox();
+    QLayout* makeRejectionRow();
+    void connectBoxes();
     void initCenterPointMemory();
-    std::vector<int> removedSteps() const;
+    CenterPoints acceptedMatches() const;
+    void reject(const std::vector<int>& steps);
+    void showRejections();
+    void showAboutToReject(int matches);
 
     SearchResults m_Results;
     PatternsDataObject* m_Pattern = nullptr;
@@ -53,10 +65,14 @@ private:
     // Those before the last change of the threshold are kept for the map.
     std::shared_ptr<const CenterPoints> m_CenterPoints;
     std::shared_ptr<const CenterPoints> m_OldCenterPoints;
+    MatchRejections m_Rejections;
     float m_Threshold = 0;
     ThresholdSlider* m_ThresholdSlider;
     QLabel* m_Statistics;
+    QLabel* m_RejectionText;
+    QPushButton* m_BringBack;
     QGroupBox* m_ThresholdBox;
+    InsertionForecast* m_Forecast;
     MatchPositionsBox* m_Positions;
     OverlaidMatchesBox* m_Overlays;
 };

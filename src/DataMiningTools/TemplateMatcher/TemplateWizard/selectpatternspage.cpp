@@ -1,5 +1,6 @@
 #include "selectpatternspage.h"
 
+#include "templatedetails.h"
 #include "templaterows.h"
 #include "usererror.h"
 #include <QPushButton>
@@ -19,9 +20,11 @@ int findRow(const QVector<RowList::Row>& rows, int id)
 
 } // namespace
 
-SelectPatternsPage::SelectPatternsPage(QList<int>* patternIds, QWidget* parent)
-    : QWizardPage(parent), m_PatternIds(patternIds), m_Collections(new RowList(tr("Collections"))),
-      m_Patterns(new RowList(tr("Patterns"))), m_ChosenPatterns(new RowList(tr("Chosen Patterns")))
+SelectPatternsPage::SelectPatternsPage(QList<int>* patternIds, const DataSet* dataSet,
+                                       QWidget* parent)
+    : QWizardPage(parent), m_PatternIds(patternIds), m_DataSet(dataSet),
+      m_Collections(new RowList(tr("Collections"))), m_Patterns(new RowList(tr("Patterns"))),
+      m_ChosenPatterns(new RowList(tr("Chosen Patterns"))), m_Details(new TemplateDetails)
 {
     setTitle(tr("Select Patterns"));
     setSubTitle(tr("The first of the chosen patterns is searched."));
@@ -31,15 +34,21 @@ SelectPatternsPage::SelectPatternsPage(QList<int>* patternIds, QWidget* parent)
     connect(m_Collections, &RowList::RowChosen, this, &SelectPatternsPage::populatePatternsList);
     connect(apply, &QPushButton::clicked, this, &SelectPatternsPage::addTemplate);
     connect(remove, &QPushButton::clicked, this, &SelectPatternsPage::removeTemplate);
-    auto* layout = new QHBoxLayout(this);
+    auto* lists = new QHBoxLayout;
     for (RowList* list : {m_Collections, m_Patterns, m_ChosenPatterns})
-        layout->addWidget(list, 1);
+        lists->addWidget(list, 1);
+    for (RowList* list : {m_Patterns, m_ChosenPatterns})
+        connect(list, &RowList::RowChosen, this, &SelectPatternsPage::showDetails);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(lists, 1);
+    layout->addWidget(m_Details);
 }
 
 void SelectPatternsPage::initializePage()
 {
     populateCollections();
     populatePatternsList(m_Collections->GetCurrentItem());
+    SelectNewestPattern(*m_Collections, *m_Patterns);
 }
 
 void SelectPatternsPage::populateCollections()
@@ -62,6 +71,12 @@ void SelectPatternsPage::showRows()
                  [this](const auto& row) { return findRow(m_ChosenRows, row.m_Id) == -1; });
     m_Patterns->SetRows(rows);
     m_ChosenPatterns->SetRows(m_ChosenRows);
+    showDetails(m_Patterns->GetCurrentItem());
+}
+
+void SelectPatternsPage::showDetails(const QListWidgetItem* pattern)
+{
+    m_Details->ShowPattern(RowList::GetId(pattern), m_DataSet);
 }
 
 void SelectPatternsPage::addTemplate()
@@ -69,8 +84,11 @@ void SelectPatternsPage::addTemplate()
     const int row = findRow(m_Rows, m_Patterns->GetCurrentId());
     if (row == -1)
         return;
-    m_ChosenRows.append(m_Rows[row]);
+    const RowList::Row chosen = m_Rows[row];
+    m_ChosenRows.append(chosen);
     showRows();
+    m_ChosenPatterns->SetCurrentId(chosen.m_Id);
+    showDetails(m_ChosenPatterns->GetCurrentItem());
 }
 
 void SelectPatternsPage::removeTemplate()

@@ -12,6 +12,7 @@
 #include "usererror.h"
 #include <QPointer>
 #include <QWizard>
+#include <algorithm>
 
 TemplateSearchPage::TemplateSearchPage(DataSet* dataSet, CutCollection* cuts,
                                        CutSegment::SEGMENT_STATE searchMode,
@@ -59,8 +60,10 @@ bool TemplateSearchPage::askMeasure()
 {
     const QStringList names{
         TemplateMatcher::getMeasureName(TemplateMatcher::MEASURE_CORRELATION),
-        TemplateMatcher::getMeasureName(TemplateMatcher::MEASURE_NORMALIZED_CORRELATION)};
-    const int measure = AskChoice(this, tr("Matching Algorithm"), tr("Algorithm: "), names);
+        TemplateMatcher::getMeasureName(TemplateMatcher::MEASURE_NORMALIZED_CORRELATION),
+        TemplateMatcher::getMeasureName(TemplateMatcher::MEASURE_EXACT_CORRELATION)};
+    const int measure = AskChoice(this, tr("Matching Algorithm"), tr("Algorithm: "), names,
+                                  TemplateMatcher::MEASURE_EXACT_CORRELATION);
     if (measure == -1)
         return false;
     m_Measure = measure;
@@ -101,8 +104,14 @@ void TemplateSearchPage::readRange()
     if (m_Measure != TemplateMatcher::MEASURE_CORRELATION)
         return;
     const SearchResults found = searchResults();
-    TemplateMatcher::normalizeResults(found.m_Values, found.m_Factors, found.m_Steps, m_MinValue,
-                                      m_MaxValue);
+    // From the first step that was searched on: the mark of one that was not would be the minimum.
+    const int first = FirstSearchedStep(found);
+    if (first == found.m_Steps)
+        return;
+    std::vector<float*> searched(found.m_Values, found.m_Values + found.m_Factors);
+    std::for_each(searched.begin(), searched.end(), [=](float*& values) { values += first; });
+    TemplateMatcher::normalizeResults(searched.data(), found.m_Factors, found.m_Steps - first,
+                                      m_MinValue, m_MaxValue);
 }
 
 SearchResults TemplateSearchPage::searchResults() const

@@ -18,7 +18,7 @@ TemplateWizard::TemplateWizard(DataSet* dataSet, CutCollection* cuts, int search
       m_SearchMode(CutSegment::SEGMENT_STATE(searchMode))
 {
     setPage(WELCOME_PAGE, new WelcomePage);
-    setPage(SELECT_PATTERNS_PAGE, new SelectPatternsPage(&m_PatternIds));
+    setPage(SELECT_PATTERNS_PAGE, new SelectPatternsPage(&m_PatternIds, m_DataSet));
     addResultPage();
 }
 
@@ -43,7 +43,7 @@ bool TemplateWizard::validateCurrentPage()
 {
     if (currentPage()->validatePage())
         return true;
-    if (currentId() == RESULT_FILTER_PAGE) {
+    if (currentId() == RESULT_FILTER_PAGE && !m_ResultPage->HasResults()) {
         m_ResultPage->initializePage();
         if (!m_ResultPage->HasResults())
             back();

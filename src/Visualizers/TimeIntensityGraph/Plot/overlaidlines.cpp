@@ -28,7 +28,7 @@ OverlaidLines::Entry& OverlaidLines::appendLine(int attribute, int from, int cou
     entry.m_Line->SetColor(color);
     entry.m_Line->SetTimeAxis(entry.m_TimeAxis.get());
     entry.m_Line->SetVerticalAxis(m_VerticalAxis.get());
-    layOut(entry);
+    layOut(*entry.m_TimeAxis);
     m_Entries.push_back(std::move(entry));
     return m_Entries.back();
 }
@@ -39,11 +39,11 @@ void OverlaidLines::setLimits(double minimum, double maximum)
     m_VerticalAxis->SetMaximum(maximum);
 }
 
-void OverlaidLines::layOut(const Entry& entry) const
+void OverlaidLines::layOut(TimeAxis& axis) const
 {
     const double bottom = double(m_Height) - topMargin;
-    entry.m_TimeAxis->SetStart(QPointF(PlotLeftMargin, bottom));
-    entry.m_TimeAxis->SetEnd(QPointF(double(m_Width), bottom));
+    axis.SetStart(QPointF(PlotLeftMargin, bottom));
+    axis.SetEnd(QPointF(double(m_Width), bottom));
 }
 
 void OverlaidLines::SetSize(float height, float width)
@@ -53,7 +53,7 @@ void OverlaidLines::SetSize(float height, float width)
     m_VerticalAxis->SetTop(QPointF(PlotLeftMargin, topMargin));
     m_VerticalAxis->SetBottom(QPointF(PlotLeftMargin, double(height) - topMargin));
     for (const Entry& entry : m_Entries)
-        layOut(entry);
+        layOut(*entry.m_TimeAxis);
 }
 
 void OverlaidLines::SetAlpha(double alpha)
@@ -123,6 +123,29 @@ bool OverlaidLines::hasValueInside(const Entry& entry, const QRectF& box, float 
             return true;
     }
     return false;
+}
+
+std::vector<int> OverlaidLines::FindSpans(const DataSet& data, int attribute,
+                                          const std::vector<RowSpan>& spans,
+                                          const QRectF& box) const
+{
+    const auto low = double(m_VerticalAxis->ToValue(float(box.bottom())));
+    const auto high = double(m_VerticalAxis->ToValue(float(box.top())));
+    const auto isInside = [=](double value) { return low <= value && value <= high; };
+    const ConstSpan<double> values = data.GetColumn(attribute);
+    TimeAxis axis;
+    layOut(axis);
+    std::vector<int> found;
+    for (size_t i = 0; i < spans.size(); ++i) {
+        const RowSpan& rows = spans[i];
+        axis.SetNumberOfPoints(rows.GetLength());
+        const int first = std::max(axis.ToIndex(float(box.left())), 0);
+        const int end = std::min(axis.ToIndex(float(box.right())) + 1, rows.GetLength());
+        if (first < end && std::any_of(values.begin() + rows.m_From + first,
+                                       values.begin() + rows.m_From + end, isInside))
+            found.push_back(int(i));
+    }
+    return found;
 }
 
 void OverlaidLines::RemoveLine(int index)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "rowspan.h"
 #include <QColor>
 #include <QRectF>
 #include <memory>
@@ -30,6 +31,9 @@ public:
     void ChangeAttributeID(int attribute);
     /// The lines, in the order of their adding, that have a value inside the box of pixels.
     std::vector<int> FindLines(const QRectF& box) const;
+    /// The places of those spans of rows of which a line would have a value inside the box.
+    std::vector<int> FindSpans(const DataSet& data, int attribute,
+                               const std::vector<RowSpan>& spans, const QRectF& box) const;
     /// Removes the line and its time axis.
     virtual void RemoveLine(int index);
     void Clear();
@@ -49,7 +53,7 @@ protected:
     const Entry& entry(int index) const { return m_Entries[size_t(index)]; }
 
 private:
-    void layOut(const Entry& entry) const;
+    void layOut(TimeAxis& axis) const;
     static bool hasValueInside(const Entry& entry, const QRectF& box, float low, float high);
 
     std::unique_ptr<VerticalAxis> m_VerticalAxis;

@@ -1,6 +1,7 @@
 #include "collectionsdataobject.h"
 #include "database.h"
 #include "ordinaryuser.h"
+#include "patternbuilder.h"
 #include "testdata.h"
 
 #include <QDir>
@@ -44,6 +45,7 @@ private slots:
     void storesAndReadsCollections();
     void storesAWholeCollectionOrNothing();
     void takesSignalsFromTheData();
+    void keepsOrigins();
 
 private:
     void execute(const QStringList& statements);
@@ -289,6 +291,41 @@ void TestDatabase::takesSignalsFromTheData()
     signal.computeSd();
     QCOMPARE(signal.GetMean(), 5.0);
     QCOMPARE(signal.GetSd(), 2.0);
+}
+
+void TestDatabase::keepsOrigins()
+{
+    // A database of an older version, with a pattern in it.
+    QCOMPARE(refusal(), QString());
+    QVERIFY(QSqlQuery().exec(QStringLiteral("DROP TABLE pattern_origin")));
+    const int old = PatternsDataObject(1, QStringLiteral("old")).InsertPattern(true);
+    QCOMPARE(refusal(), QString());
+    const QStringList unknown{
+        QStringLiteral("Attributes: none"), QStringLiteral("Sampling rate: unknown"),
+        QStringLiteral("Recording: unknown"), QStringLiteral("Rows: unknown")};
+    QCOMPARE(DescribePattern(ReadPatternSummary(old)), unknown);
+
+    auto data = MakeDataSet("0 2\n1 3", {QStringLiteral("Depth"), QStringLiteral("Acc_X")});
+    data->m_SamplingRate = 25;
+    data->m_SourceName = QStringLiteral("seal.csv");
+    PatternRequest request;
+    request.m_CollectionId = 1;
+    request.m_To = 2;
+    request.m_Attributes = {0, 1};
+    request.m_Factors = {{1, 1}, {2, 1}};
+    const int id = MakePattern(data.get(), request)->InsertPattern(true);
+    const PatternSummary summary = ReadPatternSummary(id);
+    const QStringList known{QStringLiteral("Attributes: Depth, Acc_X"),
+                            QStringLiteral("Sampling rate: 25 Hz"),
+                            QStringLiteral("Recording: seal.csv"), QStringLiteral("Rows: 0 to 2")};
+    QCOMPARE(DescribePattern(summary), known);
+    QCOMPARE(FindMismatches(summary, *data), QStringList());
+    const auto other = MakeDataSet("1", {QStringLiteral("depth")});
+    QCOMPARE(FindMismatches(summary, *other).size(), 3);
+    QVERIFY(FindMismatches(summary, *other).first().contains(QStringLiteral("25 Hz")));
+
+    QVERIFY(PatternsDataObject::DeletePattern(id));
+    QCOMPARE(ask("SELECT count(*) FROM pattern_origin").toInt(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestDatabase)

@@ -1,3 +1,4 @@
+#include "centredsmoothing.h"
 #include "patternbuilder.h"
 #include "signalresampling.h"
 #include "signalsmoothing.h"
@@ -17,8 +18,10 @@ private slots:
     void smoothsAnImpulse();
     void smoothsWithGain_data();
     void smoothsWithGain();
+    void smoothsCentred();
     void buildsPatterns();
     void refusesTooMuch();
+    void tellsWhatFindsNothing();
 };
 
 void TestSignals::resamples_data()
@@ -86,8 +89,8 @@ void TestSignals::smoothsAnImpulse()
     values[12] = 4199;
     signal.SetSignal(values.data(), 40);
     QVERIFY(signal.SmoothSignal(8));
-    // By hand from the tabled weights: late by 7, the right side narrower by one place.
-    const std::vector<double> smoothed{135, 415, 660, 883, 825, 660, 415, 135};
+    // By hand from the tabled weights: late by 7.
+    const std::vector<double> smoothed{415, 660, 825, 883, 825, 660, 415, 135};
     for (int i = 0; i < 40; ++i) {
         const bool isRaw = i < 16 || i > 23;
         const double expected = isRaw ? values[size_t(i)] : smoothed[size_t(i) - 16];
@@ -101,11 +104,11 @@ void TestSignals::smoothsWithGain_data()
     QTest::addColumn<int>("length");
     QTest::addColumn<int>("smoothed");
     QTest::addColumn<double>("gain");
-    QTest::newRow("default") << 8 << 100 << 68 << 3179.0 / 4199;
-    QTest::newRow("one value") << 8 << 33 << 1 << 3179.0 / 4199;
+    QTest::newRow("default") << 8 << 100 << 68 << 3809.0 / 4199;
+    QTest::newRow("one value") << 8 << 33 << 1 << 3809.0 / 4199;
     QTest::newRow("as long as its ends") << 8 << 32 << 0 << 1.0;
-    // 9 points: 1 - 135 / 429, the tabled weight of a neighbour of the middle.
-    QTest::newRow("odd") << 5 << 21 << 1 << 1 - 135.0 / 429;
+    // 9 points: the tabled weight of the outermost ones is 15 / 429.
+    QTest::newRow("small") << 4 << 17 << 1 << 1 - 30.0 / 429;
     QTest::newRow("none") << 1 << 100 << 0 << 1.0;
     QTest::newRow("negative") << -8 << 100 << 0 << 1.0;
 }
@@ -124,6 +127,40 @@ void TestSignals::smoothsWithGain()
     }
     QCOMPARE(int(values.size()), length);
     QCOMPARE(others, smoothed);
+}
+
+void TestSignals::smoothsCentred()
+{
+    // savgol_filter of SciPy 1.10 with 17 points, order 4 and mode "interp".
+    const std::vector<double> expected{
+        3.489164087,  7.520123839,  9.907378741,  11.09004128,  11.449710248, 11.310470747,
+        10.938894181, 10.544038263, 10.277447011, 11.0,         11.722552989, 12.165753751,
+        10.834246249, 11.277447011, 12.0,         11.654441534, 12.337282686, 13.129217274,
+        13.802016353, 14.042549813, 13.452786378, 11.549793602, 7.765737874,  1.447884417};
+    std::vector<double> values;
+    for (int i = 0; i < 24; ++i)
+        values.push_back((i * 37) % 23);
+    SignalTemplateDataObject signal;
+    QVERIFY(!signal.SmoothSignalCentred(8));
+    signal.SetSignal(values.data(), 24);
+    QVERIFY(signal.SmoothSignalCentred(8));
+    for (size_t i = 0; i < 24; ++i)
+        QVERIFY(std::abs(signal.GetValues()[i] - expected[i]) < 1e-8);
+    // As many points as there are: the exact fit of an impulse by fractions, over 7 points.
+    const auto few = CentredSmoothedSignal({1, 0, 0, 0, 0, 0, 0}, 99);
+    const double exact[] = {76 / 77.0, 25 / 462.0, -5 / 66.0, 5 / 231.0, 10 / 231.0, -19 / 462.0};
+    for (size_t i = 0; i < 6; ++i)
+        QVERIFY(std::abs(few[i] - exact[i]) < 1e-12);
+    // A quartic stays what it is, under the widest window too.
+    values.clear();
+    for (int i = 0; i < 500; ++i)
+        values.push_back(std::pow(i / 100.0 - 2, 4) - i);
+    const auto wide = CentredSmoothedSignal(values, 99);
+    for (size_t i = 0; i < values.size(); ++i)
+        QVERIFY(std::abs(wide[i] - values[i]) < 1e-9);
+    for (const int window : {-8, 1, 3})
+        QCOMPARE(CentredSmoothedSignal(values, window), values);
+    QCOMPARE(CentredSmoothedSignal({}, 8), std::vector<double>());
 }
 
 void TestSignals::buildsPatterns()
@@ -156,6 +193,29 @@ void TestSignals::refusesTooMuch()
     QVERIFY(!IsPatternTooLong(request));
     request.m_Attributes.fill(0, 1000);
     QVERIFY(IsPatternTooLong(request));
+}
+
+void TestSignals::tellsWhatFindsNothing()
+{
+    const auto data = MakeDataSet("1 5 1 0\n2 5 nan 0\n1 5 1 0\n2 5 inf 9");
+    PatternRequest request;
+    request.m_To = 4;
+    const auto fault = [&](int attribute) {
+        request.m_Attributes = {attribute};
+        return FindRowFault(*data, request);
+    };
+    QCOMPARE(fault(0), QString());
+    QCOMPARE(fault(1), QStringLiteral("Error: B has the same value all through the template."));
+    QCOMPARE(fault(2), QStringLiteral("Error: C has missing values in the template."));
+    request.m_From = 2;
+    QCOMPARE(fault(2), QStringLiteral("Error: C has missing values in the template."));
+    QCOMPARE(fault(3), QString());
+    // Every second value is the same.
+    request.m_From = 0;
+    request.m_Attributes = {0};
+    request.m_Factors = {{1, 1}, {1, 2}};
+    QCOMPARE(FindPatternFault(*MakePattern(data.get(), request)),
+             QStringLiteral("Error: A has the same value all through the template."));
 }
 
 QTEST_GUILESS_MAIN(TestSignals)

@@ -6,12 +6,16 @@
 #include "mousedrag.h"
 #include "resultfilterpage.h"
 #include "segmenttext.h"
+#include "templatedetails.h"
 #include "templatematcherpage.h"
 #include "templatewizard.h"
 #include "testdata.h"
 #include "thresholdmap.h"
 #include "thresholdmapdistribution.h"
 #include <QAbstractButton>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QErrorMessage>
 #include <QInputDialog>
 #include <QLabel>
 #include <QListWidget>
@@ -60,6 +64,8 @@ void addSignal(PatternsDataObject& pattern, bool isFilled)
 void chooseAlgorithm(ModalScript& user, const QString& name)
 {
     user.On<QInputDialog>([=](QInputDialog* dialog) {
+        QCOMPARE(dialog->textValue(), QStringLiteral("Normalized Correlation (Exact)"));
+        QCOMPARE(dialog->comboBoxItems().indexOf(dialog->textValue()), 2);
         dialog->setTextValue(name);
         name.isEmpty() ? dialog->reject() : dialog->accept();
     });
@@ -96,6 +102,15 @@ QString found(int count)
     return QStringLiteral("Statistics: %1 matches found").arg(count);
 }
 
+QString textOf(const QWidget& page, const QString& end)
+{
+    for (const QLabel* label : page.findChildren<QLabel*>()) {
+        if (label->text().endsWith(end))
+            return label->text();
+    }
+    return QString();
+}
+
 void clickRow(const QWidget& page, const QString& text)
 {
     // The page has only just been laid out.
@@ -127,8 +142,10 @@ private slots:
     void staysEmptyWhenNothingIsSearched();
     void tellsWhatCannotBeSearched_data();
     void tellsWhatCannotBeSearched();
+    void tellsWhatDoesNotFit();
     void drawsAFewOfManyMatches();
     void handsTheThresholdOn();
+    void findsTheSameBehindALabel();
 
 private:
     std::unique_ptr<QTemporaryDir> m_Home;
@@ -197,6 +214,17 @@ void TestTemplateWizard::leadsFromPatternToSegments()
     user.On<QMessageBox>([](QMessageBox* box) { box->button(QMessageBox::Yes)->click(); });
     DragMouse(*overlay, {42, toY(0.8)}, {48, toY(0.4)});
     QCOMPARE(statistics(page), found(1));
+    // One after the other, the last first.
+    QCOMPARE(textOf(page, QStringLiteral(" rejected")), QStringLiteral("2 rejected"));
+    for (const int matches : {2, 3}) {
+        ClickButton(&page, QStringLiteral("Bring Back"));
+        QCOMPARE(statistics(page), found(matches));
+    }
+    QVERIFY(!page.findChild<ThresholdMap*>()->GetRemovedSteps().contains(63));
+    dragOverStep(*page.findChild<ThresholdMap*>(), 63);
+    user.On<QMessageBox>([](QMessageBox* box) { box->button(QMessageBox::Yes)->click(); });
+    DragMouse(*overlay, {42, toY(0.8)}, {48, toY(0.4)});
+    QCOMPARE(statistics(page), found(1));
     // A rejected match stays rejected, whatever the threshold.
     setThreshold(page, 80);
     setThreshold(page, 50);
@@ -241,7 +269,17 @@ void TestTemplateWizard::staysEmptyWhenNothingIsSearched()
     QVERIFY(wizard.isVisible());
     answerSearch(user);
     wizard.button(QWizard::FinishButton)->click();
-    QCOMPARE(statistics(*wizard.currentPage()), found(1));
+    const QWidget& page = *wizard.currentPage();
+    QCOMPARE(statistics(page), found(1));
+    QCOMPARE(textOf(page, QStringLiteral(" cross labels")),
+             QStringLiteral("1 can be inserted, 0 cross plain cuts, 0 cross labels"));
+    QCOMPARE(ToText(*m_Cuts), before);
+    // With nothing to take their place, the results go only when the user agrees.
+    dragOverStep(*page.findChild<ThresholdMap*>(), 23);
+    user.On<QMessageBox>([](QMessageBox* box) { box->button(QMessageBox::No)->click(); });
+    wizard.button(QWizard::FinishButton)->click();
+    QVERIFY(wizard.isVisible());
+    QCOMPARE(statistics(page), found(0));
     QCOMPARE(ToText(*m_Cuts), before);
     wizard.reject();
     QCOMPARE(ToText(*m_Cuts), before);
@@ -267,7 +305,44 @@ void TestTemplateWizard::tellsWhatCannotBeSearched()
     TemplateWizard wizard(m_Data.get(), m_Cuts.get(), CutSegment::SEGMENT_CUT, m_Pattern.get());
     const ModalScript nobody;
     wizard.show();
+    // The box came before the wizard, and is the window that answers all the same.
+    const auto* box = wizard.findChild<QErrorMessage*>();
+    QTRY_COMPARE(QApplication::activeWindow(), box);
     QCOMPARE(TakeUserErrors(), QStringList(QStringLiteral("Error: ") + error));
+}
+
+void TestTemplateWizard::tellsWhatDoesNotFit()
+{
+    MakeCuts(*m_Cuts, "200");
+    QVERIFY(QSqlQuery().exec(QStringLiteral("UPDATE signal_template SET att_name = 'Depth'")));
+    PatternOrigin origin;
+    origin.m_SamplingRate = 25;
+    QVERIFY(StorePatternOrigin(m_Pattern->GetId(), origin));
+    TemplateWizard wizard(m_Data.get(), m_Cuts.get(), CutSegment::SEGMENT_CUT);
+    wizard.show();
+    wizard.next();
+    const QString missing = QStringLiteral("This recording has no attribute Depth.");
+    const QString rate = QStringLiteral("at 25 Hz and this recording at 40 Hz");
+    const QString details = wizard.currentPage()->findChild<TemplateDetails*>()->text();
+    QVERIFY(details.contains(missing) && details.contains(rate));
+    // The template that was stored last is the current one.
+    ClickButton(wizard.currentPage(), QStringLiteral("Apply Pattern"));
+    ModalScript user;
+    chooseAlgorithm(user, QStringLiteral("Correlation"));
+    user.On<AttributeMatchDialog>([=](AttributeMatchDialog* dialog) {
+        QStringList texts;
+        for (const QLabel* label : dialog->findChildren<QLabel*>())
+            texts.append(label->text());
+        QVERIFY(texts.contains(missing));
+        QCOMPARE(texts.filter(rate).size(), 1);
+        dialog->accept();
+        QCOMPARE(TakeUserErrors().size(), 1);
+        QVERIFY(dialog->isVisible());
+        dialog->findChild<QComboBox*>()->setCurrentIndex(0);
+        dialog->accept();
+    });
+    wizard.next();
+    QCOMPARE(statistics(*wizard.currentPage()), found(3));
 }
 
 void TestTemplateWizard::drawsAFewOfManyMatches()
@@ -283,7 +358,24 @@ void TestTemplateWizard::drawsAFewOfManyMatches()
     wizard.show();
     const QWidget& page = *wizard.currentPage();
     QCOMPARE(statistics(page), found(4000 / strokeLength));
-    QCOMPARE(page.findChild<MatchOverlayPlot*>()->GetLineCount(), 401);
+    auto* overlay = page.findChild<MatchOverlayPlot*>();
+    QCOMPARE(overlay->GetLineCount(), 401);
+    QCOMPARE(textOf(page, QStringLiteral(" drawn")), QStringLiteral("400 of 571 drawn"));
+    // All have a value in the box, also those that are not drawn.
+    QTest::mousePress(overlay, Qt::LeftButton, {}, {42, 2});
+    const QPoint corner(overlay->width() - 2, overlay->height() - 2);
+    MoveMouse(*overlay, corner, Qt::LeftButton);
+    QCOMPARE(textOf(page, QStringLiteral(" rejected")), QStringLiteral("571 about to be rejected"));
+    user.On<QMessageBox>([](QMessageBox* box) { box->button(QMessageBox::No)->click(); });
+    QTest::mouseRelease(overlay, Qt::LeftButton, {}, corner);
+    QCOMPARE(textOf(page, QStringLiteral(" rejected")), QString());
+    QCOMPARE(statistics(page), found(4000 / strokeLength));
+    // A rejection leaves the lines as invisible as they were.
+    page.findChild<QDoubleSpinBox*>()->setValue(0.0);
+    const QImage before = overlay->grab().toImage();
+    DragMouse(*page.findChild<ThresholdMap*>(), {60, 10}, {90, 20});
+    QVERIFY(statistics(page) != found(4000 / strokeLength));
+    QCOMPARE(overlay->grab().toImage(), before);
 }
 
 void TestTemplateWizard::handsTheThresholdOn()
@@ -310,6 +402,22 @@ void TestTemplateWizard::handsTheThresholdOn()
             windows.append(window->size());
     }
     QCOMPARE(windows, QList<QSize>{QSize(500, 300)});
+}
+
+// A first row that is left out is not the lowest confidence.
+void TestTemplateWizard::findsTheSameBehindALabel()
+{
+    for (const char* cuts : {"200", "10L 200", "10R 200"}) {
+        m_Cuts = std::make_unique<CutCollection>();
+        MakeCuts(*m_Cuts, cuts);
+        TemplateWizard wizard(m_Data.get(), m_Cuts.get(), CutSegment::SEGMENT_CUT, m_Pattern.get());
+        ModalScript user;
+        answerSearch(user);
+        wizard.show();
+        QCOMPARE(statistics(*wizard.currentPage()), found(3));
+        setThreshold(*wizard.currentPage(), 92);
+        QCOMPARE(statistics(*wizard.currentPage()), found(2));
+    }
 }
 
 QTEST_MAIN(TestTemplateWizard)

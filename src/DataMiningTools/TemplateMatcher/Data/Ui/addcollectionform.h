@@ -15,6 +15,9 @@ public:
     explicit AddCollectionForm(std::unique_ptr<CollectionsDataObject> collection = nullptr,
                                QWidget* parent = nullptr);
 
+    /// Of the collection that is stored; -1 before.
+    int GetCollectionId() const { return m_Collection->GetId(); }
+
 public slots:
     /// Stores the collection and accepts, or tells the user why not.
     void save();

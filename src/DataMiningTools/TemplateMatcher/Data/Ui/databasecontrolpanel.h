@@ -5,6 +5,7 @@
 
 class QListWidgetItem;
 class RowList;
+class TemplateDetails;
 
 /// The collections of the template database and their patterns, to be seen, changed and deleted.
 /// The patterns shown are always those of the current collection.
@@ -20,18 +21,29 @@ public slots:
     void populatePatternsList(QListWidgetItem* collection);
     void addCollection();
     void editCollection();
-    /// Deletes the current collection with all its patterns, without asking.
+    /// Deletes the current collection with all its patterns, after a question.
     void deleteCollection();
     void viewPattern();
-    /// Deletes the current pattern with all its signals, without asking.
+    void renamePattern();
+    /// Deletes the current pattern with all its signals, after a question.
     void deletePattern();
+    /// Copies all patterns of the current collection to a file that the user chooses.
+    void exportCollection();
+    /// The same for the current pattern alone.
+    void exportPattern();
+    /// Adds the patterns of a file that the user chooses to the current collection.
+    void importPatterns();
 
 private:
     RowList* makeCollections();
     RowList* makePatterns();
+    void showDetails();
+    void exportRows(const QList<int>& ids, const QString& proposal);
+    void storeImported(const QString& path, int collectionId);
 
     RowList* m_Collections;
     RowList* m_Patterns;
+    TemplateDetails* m_Details;
 };
 
 /// Shows the template database, which belongs to no recording.

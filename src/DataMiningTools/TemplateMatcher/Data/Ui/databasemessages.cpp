@@ -15,17 +15,21 @@ void ShowDatabaseError(QWidget* parent, const QString& text)
                                    : text + QStringLiteral(" (") + reason + QLatin1Char(')'));
 }
 
-bool DeleteCurrentRow(const RowList& list, bool (*deleteRow)(int id), const QString& title,
-                      const QString& text)
+bool DeleteCurrentRow(const RowList& list, bool (*deleteRow)(int id), const QString& question,
+                      const QString& title, const QString& text)
 {
     const int id = list.GetCurrentId();
     if (id == -1)
         return false;
+    const QPointer<QWidget> window(list.window());
+    const bool isWanted =
+        AskYesNo(window, QMessageBox::tr("Delete"), question.arg(list.GetCurrentItem()->text()));
+    if (!isWanted || !window)
+        return false;
     if (!deleteRow(id)) {
-        ShowDatabaseError(list.window(), QMessageBox::tr("Error: Nothing was deleted."));
+        ShowDatabaseError(window, QMessageBox::tr("Error: Nothing was deleted."));
         return false;
     }
-    const QPointer<QWidget> window(list.window());
     TellUser(window, title, text);
     return window;
 }

@@ -56,6 +56,14 @@ void RowList::SetRows(const QVector<Row>& rows)
     updateButtons();
 }
 
+void RowList::SetCurrentId(int id)
+{
+    for (int i = 0; i < m_List->count(); ++i) {
+        if (GetId(m_List->item(i)) == id)
+            m_List->setCurrentRow(i);
+    }
+}
+
 QListWidgetItem* RowList::GetCurrentItem() const
 {
     return m_List->currentItem();

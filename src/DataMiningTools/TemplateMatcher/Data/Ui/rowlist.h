@@ -30,6 +30,8 @@ public:
     /// Replaces the rows. The current one stays current if it is still among them; nothing is
     /// signalled.
     void SetRows(const QVector<Row>& rows);
+    /// Goes to the row of that id, as the user does; stays where it is when there is none.
+    void SetCurrentId(int id);
     QListWidgetItem* GetCurrentItem() const;
     /// -1 when no row is current.
     int GetCurrentId() const;

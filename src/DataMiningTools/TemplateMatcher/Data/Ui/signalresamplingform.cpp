@@ -16,6 +16,7 @@ SignalResamplingForm::SignalResamplingForm(QWidget* parent)
     m_Up->setToolTip(tr("By how many the number of samples is multiplied"));
     m_Down->setToolTip(tr("One of how many samples is then kept"));
     m_Factors->setToolTip(tr("The template is stored once for each; Delete takes one out"));
+    m_Factors->addItem(new FrequencyListWidgetItem(1, 1));
     auto* deleteKey =
         new QShortcut(QKeySequence::Delete, m_Factors, nullptr, nullptr, Qt::WidgetShortcut);
     connect(deleteKey, &QShortcut::activated, this, [this] { delete m_Factors->currentItem(); });
@@ -72,6 +73,16 @@ void SignalResamplingForm::addFrequency()
     m_Factors->scrollToBottom();
     m_Up->setFocus();
     m_Up->selectAll();
+}
+
+void SignalResamplingForm::accept()
+{
+    if (m_Factors->count() > 0) {
+        QDialog::accept();
+        return;
+    }
+    ShowUserError(this, tr("Error"), tr("Error: No factors entered."));
+    m_Up->setFocus();
 }
 
 QList<QPair<int, int>> SignalResamplingForm::GetFactors() const

@@ -7,7 +7,8 @@
 class QLineEdit;
 class QListWidget;
 
-/// Asks for the factors by which the signals of a template are resampled.
+/// Asks for the factors by which the signals of a template are resampled. "1/1", the template as it
+/// is, is there from the start.
 class SignalResamplingForm : public QDialog
 {
     Q_OBJECT
@@ -20,6 +21,8 @@ public:
 public slots:
     /// Appends the factors of the fields, or tells the user what is wrong with them.
     void addFrequency();
+    /// Refuses an empty list: there would be no signal to search for.
+    void accept() override;
 
 private:
     QLayout* makeFields();

@@ -23,7 +23,8 @@
 TemplateDialog::TemplateDialog(DataSet* dataSet, CutSegment* segment, QWidget* parent)
     : QDialog(parent), m_DataSet(dataSet), m_From(segment->GetFrom()), m_To(segment->GetTo()),
       m_Name(new QLineEdit), m_Desc(new QLineEdit), m_Collection(new QComboBox),
-      m_Resample(new QCheckBox), m_Smooth(new QCheckBox), m_Window(new QSpinBox)
+      m_Resample(new QCheckBox), m_Smooth(new QCheckBox), m_SmoothCentred(new QCheckBox),
+      m_Window(new QSpinBox)
 {
     setWindowTitle(tr("Add Template"));
     fillCollections();
@@ -58,14 +59,29 @@ QLayout* TemplateDialog::makeForm()
 
 void TemplateDialog::addSmoothing(QFormLayout* form)
 {
-    m_Smooth->setToolTip(tr("Store the signals smoothed"));
+    m_Smooth->setToolTip(tr("Store the signals smoothed: a window of 8 makes them smaller by a "
+                            "tenth and 7 rows late, and leaves both ends raw"));
+    m_SmoothCentred->setToolTip(tr("Store the signals smoothed by the same polynomials, but at "
+                                   "full size, with no delay and up to both ends"));
     m_Window->setValue(8);
     m_Window->setEnabled(false);
-    m_Window->setToolTip(tr("Rows on each side that a value is smoothed over; twice as many at "
-                            "both ends stay raw"));
-    connect(m_Smooth, &QCheckBox::toggled, m_Window, &QWidget::setEnabled);
+    m_Window->setToolTip(tr("Rows on each side that a value is smoothed over. \"Smooth\" leaves "
+                            "twice as many at both ends raw"));
+    connect(m_Smooth, &QCheckBox::toggled, this,
+            [this] { chooseSmoothing(m_Smooth, m_SmoothCentred); });
+    connect(m_SmoothCentred, &QCheckBox::toggled, this,
+            [this] { chooseSmoothing(m_SmoothCentred, m_Smooth); });
     form->addRow(tr("Smooth "), m_Smooth);
+    form->addRow(tr("Smooth (centred)"), m_SmoothCentred);
     form->addRow(tr("Window Size "), m_Window);
+}
+
+// At most one of both is on.
+void TemplateDialog::chooseSmoothing(QCheckBox* changed, QCheckBox* other)
+{
+    if (changed->isChecked())
+        other->setChecked(false);
+    m_Window->setEnabled(m_Smooth->isChecked() || m_SmoothCentred->isChecked());
 }
 
 QWidget* TemplateDialog::makeAttributes()
@@ -122,8 +138,9 @@ PatternRequest TemplateDialog::readInput() const
     request.m_From = m_From;
     request.m_To = m_To;
     request.m_Factors.append(qMakePair(1, 1));
-    if (m_Smooth->isChecked())
+    if (m_Smooth->isChecked() || m_SmoothCentred->isChecked())
         request.m_SmoothingWindow = m_Window->value();
+    request.m_IsCentred = m_SmoothCentred->isChecked();
     for (size_t i = 0; i < m_Attributes.size(); ++i) {
         if (m_Attributes[i]->isChecked())
             request.m_Attributes.append(int(i));
@@ -148,7 +165,11 @@ bool TemplateDialog::checkInput(const PatternRequest& request)
         ShowDatabaseError(this, tr("Error: No collection selected."));
         return false;
     }
-    return true;
+    const bool hasRows = 0 <= m_From && m_From < m_To && m_To <= m_DataSet->GetRowCount();
+    const QString fault = hasRows ? FindRowFault(*m_DataSet, request) : describeFailure(request);
+    if (!fault.isEmpty())
+        ShowUserError(this, tr("Error"), fault);
+    return fault.isEmpty();
 }
 
 bool TemplateDialog::askFactors(PatternRequest& request)
@@ -160,21 +181,33 @@ bool TemplateDialog::askFactors(PatternRequest& request)
     return true;
 }
 
+QString TemplateDialog::describeFailure(const PatternRequest& request)
+{
+    return IsPatternTooLong(request)
+               ? tr("Error: The template would be too long. All its signals together can have %1 "
+                    "values.")
+                     .arg(MaxSignalLength)
+               : tr("Error: The segment has no rows.");
+}
+
+std::unique_ptr<PatternsDataObject> TemplateDialog::makePattern(const PatternRequest& request)
+{
+    auto pattern = MakePattern(m_DataSet, request);
+    const QString fault = pattern ? FindPatternFault(*pattern) : describeFailure(request);
+    if (fault.isEmpty())
+        return pattern;
+    ShowUserError(this, tr("Error"), fault);
+    return nullptr;
+}
+
 void TemplateDialog::addTemplate()
 {
     PatternRequest request = readInput();
     if (!checkInput(request) || (m_Resample->isChecked() && !askFactors(request)))
         return;
-    auto pattern = MakePattern(m_DataSet, request);
-    if (!pattern) {
-        ShowUserError(this, tr("Error"),
-                      IsPatternTooLong(request)
-                          ? tr("Error: The template would be too long. All its signals together "
-                               "can have %1 values.")
-                                .arg(MaxSignalLength)
-                          : tr("Error: The segment has no rows."));
+    auto pattern = makePattern(request);
+    if (!pattern)
         return;
-    }
     if (pattern->InsertPattern(true) == -1) {
         ShowDatabaseError(this, tr("Error: The template was not stored."));
         return;

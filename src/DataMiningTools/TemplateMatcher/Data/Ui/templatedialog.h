@@ -33,11 +33,14 @@ public slots:
 private:
     QLayout* makeForm();
     void addSmoothing(QFormLayout* form);
+    void chooseSmoothing(QCheckBox* changed, QCheckBox* other);
     QWidget* makeAttributes();
     QWidget* makePlots();
     void fillCollections();
     bool checkInput(const PatternRequest& request);
     PatternRequest readInput() const;
+    static QString describeFailure(const PatternRequest& request);
+    std::unique_ptr<PatternsDataObject> makePattern(const PatternRequest& request);
     bool askFactors(PatternRequest& request);
 
     DataSet* m_DataSet;
@@ -48,6 +51,7 @@ private:
     QComboBox* m_Collection;
     QCheckBox* m_Resample;
     QCheckBox* m_Smooth;
+    QCheckBox* m_SmoothCentred;
     QSpinBox* m_Window;
     std::vector<QCheckBox*> m_Attributes;
     std::unique_ptr<PatternsDataObject> m_Pattern;

@@ -4,6 +4,7 @@
 #include "databasemessages.h"
 #include "databasequery.h"
 #include "patternsdataobject.h"
+#include <algorithm>
 #include <memory>
 
 bool ReadCollectionRows(QWidget* parent, QVector<RowList::Row>& rows)
@@ -31,4 +32,19 @@ QVector<RowList::Row> ReadPatternRows(QWidget* parent, const QListWidgetItem* co
         for (const PatternsDataObject* pattern : stored->GetPatterns())
             rows.append({pattern->GetId(), pattern->GetName(), pattern->GetDesc()});
     return rows;
+}
+
+void SelectNewestPattern(RowList& collections, RowList& patterns)
+{
+    if (collections.GetCurrentItem())
+        return;
+    const QList<PatternsDataObject*> all = PatternsDataObject::GetAllPatterns();
+    const auto newest = std::max_element(all.begin(), all.end(), [](const auto* a, const auto* b) {
+        return a->GetId() < b->GetId();
+    });
+    if (newest != all.end()) {
+        collections.SetCurrentId((*newest)->GetCollectionId());
+        patterns.SetCurrentId((*newest)->GetId());
+    }
+    qDeleteAll(all);
 }

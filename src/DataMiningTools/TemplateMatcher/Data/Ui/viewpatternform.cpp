@@ -118,6 +118,7 @@ void ViewPatternForm::populateSignals(QListWidgetItem* collection)
 void ViewPatternForm::deleteTemplate()
 {
     if (DeleteCurrentRow(*m_Templates, &SignalTemplateCollectionDataObject::DeleteSignalTemplate,
+                         tr("Delete the signal collection \"%1\" and all its signals?"),
                          tr("Signal Collection Deleted"),
                          tr("Signal Collection succesfully deleted")))
         populateTemplates();
@@ -126,7 +127,8 @@ void ViewPatternForm::deleteTemplate()
 void ViewPatternForm::deleteSignal()
 {
     if (DeleteCurrentRow(*m_Signals, &SignalTemplateDataObject::DeleteSignal,
-                         tr("Signal Template Deleted"), tr("Signal template succesfully deleted")))
+                         tr("Delete the signal \"%1\"?"), tr("Signal Template Deleted"),
+                         tr("Signal template succesfully deleted")))
         populateSignals(m_Templates->GetCurrentItem());
 }
 

@@ -18,11 +18,11 @@ public:
 public slots:
     /// Does nothing: how a stored pattern could be resampled is open.
     void resampleTempate() {}
-    /// Deletes the current signal collection with its signals, without asking.
+    /// Deletes the current signal collection with its signals, after a question.
     void deleteTemplate();
     /// Opens a window with the current signal.
     void viewSignal();
-    /// Deletes the current signal, without asking.
+    /// Deletes the current signal, after a question.
     void deleteSignal();
     /// Only closes the form; name and description are shown, never written back.
     void save() { accept(); }

@@ -5,10 +5,12 @@
 #include "modalscript.h"
 #include "oldlineplotwidget.h"
 #include "signalresamplingform.h"
+#include "templatedetails.h"
 #include "templatedialog.h"
 #include "testdata.h"
 #include "viewpatternform.h"
 #include <QCheckBox>
+#include <QInputDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
@@ -28,7 +30,8 @@ std::unique_ptr<DataSet> threeColumns()
 {
     QByteArray text;
     for (int row = 0; row < 4000; ++row)
-        text += QByteArray::number(row) + " 1 " + QByteArray::number(-row) + '\n';
+        text +=
+            QByteArray::number(row) + (row < 9 ? " 1 " : " nan ") + QByteArray::number(-row) + '\n';
     return MakeDataSet(text.constData(),
                        {QStringLiteral("Acc_X"), QStringLiteral("a & b"), QStringLiteral("Depth")});
 }
@@ -63,6 +66,14 @@ void expectMessage(ModalScript& script, const char* title, const char* text)
         QCOMPARE(box->windowTitle(), QLatin1String(title));
         QCOMPARE(box->text(), QLatin1String(text));
         box->accept();
+    });
+}
+
+void answer(ModalScript& script, const char* question, QMessageBox::StandardButton button)
+{
+    script.On<QMessageBox>([=](QMessageBox* box) {
+        QCOMPARE(box->text(), QString::fromUtf8(question));
+        box->button(button)->click();
     });
 }
 
@@ -125,6 +136,7 @@ private slots:
     void tendsCollections();
     void tendsPatterns();
     void survivesOthers();
+    void copiesByFile();
 
 private:
     std::unique_ptr<QTemporaryDir> m_Home;
@@ -155,14 +167,18 @@ void TestTemplateDialogs::storesATemplate()
     dialog.show();
     auto* window = FindField<QSpinBox>(&dialog, QStringLiteral("Window Size "));
     QVERIFY(!window->isEnabled());
-    FindField<QCheckBox>(&dialog, QStringLiteral("Smooth "))->click();
-    QVERIFY(window->isEnabled());
+    auto* smooth = FindField<QCheckBox>(&dialog, QStringLiteral("Smooth "));
+    auto* centred = FindField<QCheckBox>(&dialog, QStringLiteral("Smooth (centred)"));
+    smooth->click();
+    centred->click();
+    QVERIFY(window->isEnabled() && !smooth->isChecked());
+    smooth->click();
+    QVERIFY(window->isEnabled() && !centred->isChecked());
     FindButton(&dialog, QStringLiteral("Depth"))->click();
-    FindButton(&dialog, QStringLiteral("a  b"))->click();
+    FindButton(&dialog, QStringLiteral("Acc_X"))->click();
     ModalScript script;
     script.On<SignalResamplingForm>([](SignalResamplingForm* form) {
-        addFactors(form, " 3 ", "3");
-        addFactors(form, "1", "2");
+        addFactors(form, " 1 ", "2");
         ClickButton(form, QStringLiteral("Done"));
     });
     expectMessage(script, "Pattern Added", "Pattern succesfully uploaded to database");
@@ -180,7 +196,7 @@ void TestTemplateDialogs::storesATemplate()
              QStringList({QStringLiteral("3BFF0000000000000C000000000000000C008000000000000"),
                           QStringLiteral("2BFF0000000000000C008000000000000")}));
     QCOMPARE(ask("SELECT DISTINCT att_name FROM signal_template").value(0),
-             QStringLiteral("a & b"));
+             QStringLiteral("Acc_X"));
     const auto pattern = dialog.TakePattern();
     QCOMPARE(pattern->GetSignalCollections().size(), 2);
     const std::unique_ptr<PatternsDataObject> read(
@@ -214,6 +230,16 @@ void TestTemplateDialogs::refusesInput()
                                 "Error: Error: The segment has no rows."));
         QVERIFY(dialog.isVisible());
     }
+    for (const int from : {0, 9}) {
+        CutSegment segment(from, 12);
+        TemplateDialog dialog(data.get(), &segment);
+        dialog.show();
+        FindField<QLineEdit>(&dialog, QStringLiteral("Name "))->setText(QStringLiteral("Dive"));
+        FindButton(&dialog, QStringLiteral("a  b"))->click();
+        ClickButton(&dialog, QStringLiteral("Save"));
+        QCOMPARE(TakeUserErrors(), QStringList(QStringLiteral(
+                                       "Error: Error: a & b has missing values in the template.")));
+    }
     QCOMPARE(countRows(), QStringLiteral("0 0 0"));
 }
 
@@ -229,6 +255,11 @@ void TestTemplateDialogs::refusesFactors()
     list->setCurrentRow(0);
     list->setFocus();
     QTest::keyClick(list, Qt::Key_Delete);
+    QCOMPARE(form.GetFactors(), (QList<QPair<int, int>>{{1, 2}}));
+    QTest::keyClick(list, Qt::Key_Delete);
+    ClickButton(&form, QStringLiteral("Done"));
+    QCOMPARE(TakeUserErrors(), QStringList(QStringLiteral("Error: Error: No factors entered.")));
+    QVERIFY(form.isVisible());
     addFactors(&form, "1000", "1000");
     for (const auto& [up, down] : refused) {
         addFactors(&form, up, down);
@@ -281,6 +312,9 @@ void TestTemplateDialogs::losesNothingWhenStoringFails()
         DatabaseControlPanel panel;
         panel.show();
         listOf(&panel, "Collections")->setCurrentRow(0);
+        ModalScript script;
+        answer(script, "Delete the collection \"Templates\" and all its patterns?",
+               QMessageBox::Yes);
         clickBelow(listOf(&panel, "Collections"), "Delete");
         QCOMPARE(
             TakeUserErrors(),
@@ -314,6 +348,7 @@ void TestTemplateDialogs::tendsCollections()
     clickBelow(list, "Add");
     QCOMPARE(textsOf(list),
              QStringList({QStringLiteral("Templates"), QStringLiteral("It's <b>\"new\"")}));
+    QCOMPARE(list->currentRow(), 1);
     script.Then([](QDialog* form) {
         QCOMPARE(form->windowTitle(), QStringLiteral("Edit Collection"));
         // The name is marked: typing replaces it.
@@ -327,6 +362,11 @@ void TestTemplateDialogs::tendsCollections()
     QCOMPARE(ask("SELECT name || '|' || desc FROM pattern_collection").value(0),
              QStringLiteral("Old|Collection of templates"));
     QCOMPARE(textsOf(listOf(&panel, "Patterns")), QStringList(QStringLiteral("Mine")));
+    const char* question = "Delete the collection \"Old\" and all its patterns?";
+    answer(script, question, QMessageBox::No);
+    clickBelow(list, "Delete");
+    QCOMPARE(countRows(), QStringLiteral("1 2 4"));
+    answer(script, question, QMessageBox::Yes);
     expectMessage(script, "Collection Deleted", "Collection succesfully deleted");
     clickBelow(list, "Delete");
     QCOMPARE(textsOf(list), QStringList(QStringLiteral("It's <b>\"new\"")));
@@ -357,10 +397,12 @@ void TestTemplateDialogs::tendsPatterns()
         const auto* plot = form->findChild<OldLinePlotWidget*>();
         QVERIFY(plot->isWindow() && plot->isVisible());
         QCOMPARE(plot->windowTitle(), QStringLiteral("Depth"));
+        answer(script, "Delete the signal \"Depth\"?", QMessageBox::Yes);
         expectMessage(script, "Signal Template Deleted", "Signal template succesfully deleted");
         clickBelow(found, "Delete");
         QCOMPARE(textsOf(found), QStringList(QStringLiteral("Acc_X")));
         QCOMPARE(countRows(), QStringLiteral("2 4 7"));
+        answer(script, "Delete the signal collection \"2\" and all its signals?", QMessageBox::Yes);
         expectMessage(script, "Signal Collection Deleted", "Signal Collection succesfully deleted");
         templates->setCurrentRow(1);
         clickBelow(templates, "Delete");
@@ -370,6 +412,18 @@ void TestTemplateDialogs::tendsPatterns()
     clickBelow(patterns, "View");
     QCOMPARE(countRows(), QStringLiteral("2 3 5"));
     // The same one is still current, although both have one name.
+    for (const char* name : {"  ", " Yours "}) {
+        script.On<QInputDialog>([=](QInputDialog* dialog) {
+            QCOMPARE(dialog->textValue(), QStringLiteral("Mine"));
+            dialog->setTextValue(QLatin1String(name));
+            dialog->accept();
+        });
+        clickBelow(patterns, "Rename");
+    }
+    QCOMPARE(TakeUserErrors(), QStringList(QStringLiteral("Error: Error: No name entered")));
+    QCOMPARE(ask("SELECT name FROM pattern"),
+             QStringList({QStringLiteral("Mine"), QStringLiteral("Yours")}));
+    answer(script, "Delete the pattern \"Yours\" and all its signals?", QMessageBox::Yes);
     expectMessage(script, "Pattern Deleted", "Pattern succesfully deleted");
     clickBelow(patterns, "Delete");
     QCOMPARE(ask("SELECT id FROM pattern"), QStringList(QStringLiteral("1")));
@@ -407,6 +461,47 @@ void TestTemplateDialogs::survivesOthers()
              QStringList(QStringLiteral(
                  "Error: Error: The collections can't be read. (database is locked)")));
     QCOMPARE(textsOf(listOf(&panel, "Collections")), QStringList(QStringLiteral("Templates")));
+}
+
+void TestTemplateDialogs::copiesByFile()
+{
+    storePattern("Mine");
+    storePattern("Yours");
+    DatabaseControlPanel panel;
+    panel.show();
+    auto* collections = listOf(&panel, "Collections");
+    auto* patterns = listOf(&panel, "Patterns");
+    // What was stored last is shown at once, with all that is known of it.
+    QCOMPARE(patterns->currentItem()->text(), QStringLiteral("Yours"));
+    QCOMPARE(panel.findChild<TemplateDetails*>()->text(),
+             QStringLiteral("Attributes: Acc_X, Depth<br>Sampling rate: 40 Hz<br>"
+                            "Recording: unknown<br>Rows: 0 to 3"));
+    ModalScript script;
+    script.PickFile(m_Home->filePath(QStringLiteral("one.json")));
+    clickBelow(patterns, "Export");
+    script.PickFile(m_Home->filePath(QStringLiteral("all")));
+    clickBelow(collections, "Export");
+    script.PickFile(m_Home->filePath(QStringLiteral("one.json")));
+    patterns->setCurrentRow(0);
+    clickBelow(collections, "Import");
+    QCOMPARE(patterns->currentRow(), 2);
+    QCOMPARE(patterns->currentItem()->text(), QStringLiteral("Yours"));
+    script.PickFile(m_Home->filePath(QStringLiteral("all.json")));
+    clickBelow(collections, "Import");
+    QCOMPARE(countRows(), QStringLiteral("5 10 20"));
+    QCOMPARE(ask("SELECT DISTINCT hex(signal) || signal_mean || signal_sd || att_name FROM "
+                 "signal_template")
+                 .size(),
+             4);
+    QVERIFY(run(QLatin1String(QSqlDatabase::defaultConnection), "PRAGMA query_only = ON"));
+    script.PickFile(m_Home->filePath(QStringLiteral("all.json")));
+    clickBelow(collections, "Import");
+    QCOMPARE(TakeUserErrors(),
+             QStringList(QStringLiteral("Error: Error: The templates were not stored. (attempt to "
+                                        "write a readonly database)")));
+    script.PickFile(QString());
+    clickBelow(collections, "Import");
+    QCOMPARE(countRows(), QStringLiteral("5 10 20"));
 }
 
 QTEST_MAIN(TestTemplateDialogs)
