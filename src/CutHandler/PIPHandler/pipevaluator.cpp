@@ -11,6 +11,7 @@ namespace
 {
 
 constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double missing = std::numeric_limits<double>::quiet_NaN();
 
 // No distance inside the rectangle exceeds this.
 template <class Distance>
@@ -24,11 +25,31 @@ double bound(const Distance& distance, int from, int last, double low, double hi
     return std::isnan(sum) ? infinite : largest + distance.Slack(low, high);
 }
 
+// Looks into all spans that can hold a row as good as the segment's best one, or a better one.
+template <class Span, class Look>
+void searchSpans(const std::vector<Span>& spans, const PIPSegment& segment, const Look& look)
+{
+    if (spans.empty())
+        return;
+    // The most promising one first: what it holds rules most others out.
+    const auto first =
+        std::max_element(spans.begin(), spans.end(),
+                         [](const Span& a, const Span& b) { return a.m_Bound < b.m_Bound; });
+    look(*first);
+    for (auto span = spans.end(); span-- != spans.begin();) {
+        const bool canTie = span->m_Bound == segment.m_BestDistance;
+        const bool canWin =
+            span->m_Bound > segment.m_BestDistance || (canTie && span->m_To > segment.m_BestIndex);
+        if (canWin && span != first)
+            look(*span);
+    }
+}
+
 } // namespace
 
 PIPEvaluator::PIPEvaluator(ConstSpan<double> values, int measure)
-    : m_Values(values), m_Blocks(makeBlocks(values)), m_Mask(size_t(values.size()), 0),
-      m_Measure(measure)
+    : m_Values(values), m_Blocks(makeBlocks(values)), m_Ranges(makeRanges(m_Blocks)),
+      m_Mask(size_t(values.size()), 0), m_Measure(measure)
 {
 }
 
@@ -43,6 +64,19 @@ std::vector<PIPEvaluator::Block> PIPEvaluator::makeBlocks(ConstSpan<double> valu
         block.m_High = std::max(block.m_High, values[row]);
     }
     return blocks;
+}
+
+std::vector<PIPEvaluator::Block> PIPEvaluator::makeRanges(const std::vector<Block>& blocks)
+{
+    constexpr size_t blocksInRange = RangeRows / BlockRows;
+    std::vector<Block> ranges((blocks.size() + blocksInRange - 1) / blocksInRange,
+                              {infinite, -infinite});
+    for (size_t i = 0; i < blocks.size(); ++i) {
+        Block& range = ranges[i / blocksInRange];
+        range.m_Low = std::min(range.m_Low, blocks[i].m_Low);
+        range.m_High = std::max(range.m_High, blocks[i].m_High);
+    }
+    return ranges;
 }
 
 void PIPEvaluator::MaskAround(int row)
@@ -75,36 +109,38 @@ void PIPEvaluator::search(PIPSegment& segment) const
         return;
     const Distance distance({segment.m_Start, segment.m_End, std::trunc(m_Values[segment.m_Start]),
                              std::trunc(m_Values[segment.m_End])});
-    const std::vector<Span> spans = boundedSpans(segment, distance);
-    if (spans.empty())
+    if (segment.m_End - segment.m_Start <= RangeRows) {
+        searchRange({segment.m_Start, segment.m_End, infinite}, distance, segment);
         return;
-    // The most promising block first: what it holds rules most others out.
-    searchRows(
-        *std::max_element(spans.begin(), spans.end(),
-                          [](const Span& a, const Span& b) { return a.m_Bound < b.m_Bound; }),
-        distance, segment);
-    for (auto span = spans.rbegin(); span != spans.rend(); ++span) {
-        const bool canTie = span->m_Bound == segment.m_BestDistance;
-        if (span->m_Bound > segment.m_BestDistance || (canTie && span->m_To > segment.m_BestIndex))
-            searchRows(*span, distance, segment);
     }
+    searchSpans(boundedSpans(segment.m_Start, segment.m_End, distance, m_Ranges, RangeRows),
+                segment, [&](const Span& range) { searchRange(range, distance, segment); });
 }
 
 template <class Distance>
-std::vector<PIPEvaluator::Span> PIPEvaluator::boundedSpans(const PIPSegment& segment,
-                                                           const Distance& distance) const
+void PIPEvaluator::searchRange(const Span& range, const Distance& distance,
+                               PIPSegment& segment) const
+{
+    searchSpans(boundedSpans(range.m_From, range.m_To, distance, m_Blocks, BlockRows), segment,
+                [&](const Span& block) { searchRows(block, distance, segment); });
+}
+
+template <class Distance>
+std::vector<PIPEvaluator::Span>
+PIPEvaluator::boundedSpans(int from, int to, const Distance& distance,
+                           const std::vector<Block>& blocks, int blockRows)
 {
     std::vector<Span> spans;
-    const int first = segment.m_Start / BlockRows;
-    const int last = (segment.m_End - 1) / BlockRows;
+    const int first = from / blockRows;
+    const int last = (to - 1) / blockRows;
     spans.reserve(size_t(last - first) + 1);
     for (int i = first; i <= last; ++i) {
-        const Block& block = m_Blocks[size_t(i)];
-        if (block.m_Low > block.m_High)
+        const Block& block = blocks[size_t(i)];
+        const int start = std::max(i * blockRows, from);
+        if (block.m_Low > block.m_High && std::isnan(distance(start, missing)))
             continue; // no numbers
-        const int from = std::max(i * BlockRows, segment.m_Start);
-        const int to = std::min(segment.m_End - i * BlockRows, BlockRows) + i * BlockRows;
-        spans.push_back({from, to, bound(distance, from, to - 1, block.m_Low, block.m_High)});
+        const int end = std::min(to - i * blockRows, blockRows) + i * blockRows;
+        spans.push_back({start, end, bound(distance, start, end - 1, block.m_Low, block.m_High)});
     }
     return spans;
 }

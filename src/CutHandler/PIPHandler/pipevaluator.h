@@ -6,9 +6,9 @@
 
 /// Finds the row of a segment that has the largest distance from the line between its ends.
 ///
-/// The lowest and highest value of every block of rows are noted, so that blocks that can't hold
-/// the best row are passed over: cutting a long recording often at its end stays cheap. The
-/// result is that of a scan over all rows, down to the last bit.
+/// The lowest and highest value of every block of rows, and of every range of blocks, are noted,
+/// so that those that can't hold the best row are passed over: cutting a long recording often at
+/// its end stays cheap. The result is that of a scan over all rows, down to the last bit.
 class PIPEvaluator
 {
 public:
@@ -35,17 +35,23 @@ private:
         double m_Bound;
     };
     static constexpr int BlockRows = 256;
+    static constexpr int RangeRows = 16 * BlockRows;
 
     static std::vector<Block> makeBlocks(ConstSpan<double> values);
+    static std::vector<Block> makeRanges(const std::vector<Block>& blocks);
     template <class Distance>
     void search(PIPSegment& segment) const;
     template <class Distance>
-    std::vector<Span> boundedSpans(const PIPSegment& segment, const Distance& distance) const;
+    void searchRange(const Span& range, const Distance& distance, PIPSegment& segment) const;
+    template <class Distance>
+    static std::vector<Span> boundedSpans(int from, int to, const Distance& distance,
+                                          const std::vector<Block>& blocks, int blockRows);
     template <class Distance>
     void searchRows(const Span& span, const Distance& distance, PIPSegment& segment) const;
 
     ConstSpan<double> m_Values;
     std::vector<Block> m_Blocks;
+    std::vector<Block> m_Ranges;
     std::vector<char> m_Mask;
     int m_Measure;
 };

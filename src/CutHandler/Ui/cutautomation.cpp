@@ -239,7 +239,7 @@ std::optional<std::vector<int>> CutAutomation::askAboutLabels(const CutReview& r
 void CutByItself(const SharedRecording& recording, QWidget* parent, int method)
 {
     // The window may close, or open another recording, while it asks.
-    const SharedRecording kept = recording;
+    const SharedRecording kept = recording->shared_from_this();
     CutAutomation cutter(parent);
     cutter.setDataSet(kept->GetDataSet());
     cutter.setCutCollection(kept->GetCutCollection());

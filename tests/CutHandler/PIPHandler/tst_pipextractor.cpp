@@ -149,7 +149,7 @@ private slots:
 void TestPipExtractor::splitsAsAPlainScan()
 {
     for (int kind = 0; kind < 8; ++kind) {
-        for (const int rows : {1, 2, 3, 40, 256, 257, 3000}) {
+        for (const int rows : {1, 2, 3, 40, 256, 257, 3000, 9'000}) {
             const std::vector<double> values = makeCurve(kind, rows);
             for (int measure = 0; measure < 4; ++measure)
                 QCOMPARE(split(values, measure, 60, 0.0, 0),
