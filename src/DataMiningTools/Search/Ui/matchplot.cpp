@@ -1,9 +1,10 @@
 #include "matchplot.h"
 
-#include "selectionmultiplelineplotwidget.h"
+#include "matchlinesplot.h"
 #include <QFormLayout>
 #include <QLabel>
-#include <QSet>
+#include <QLocale>
+#include <QPushButton>
 #include <algorithm>
 
 namespace
@@ -15,61 +16,89 @@ constexpr double lineOpacity = 0.4;
 } // namespace
 
 MatchPlot::MatchPlot(const QString& title, DataSet* dataSet, QWidget* parent)
-    : QGroupBox(title, parent), m_DataSet(dataSet),
+    : QGroupBox(title, parent),
       m_Attribute(new AttributeBox(dataSet, tr("The attribute that the lines show"))),
-      m_Hint(new QLabel), m_Plot(new SelectionMultipleLinePlotWidget)
+      m_Plot(new MatchLinesPlot(dataSet)), m_Drawn(new QLabel), m_Rejected(new QLabel),
+      m_BringBack(new QPushButton(tr("Bring Back")))
 {
     m_Plot->setMinimumHeight(smallestPlot);
-    m_Plot->setToolTip(tr("Drag a box over the lines of matches to reject them"));
-    m_Hint->setText(
-        tr("Too many matches to show them all: these are %1 from the first to the last.")
-            .arg(MostLines));
-    m_Hint->hide();
     auto* form = new QFormLayout;
     form->addRow(tr("Data Attribute: "), m_Attribute);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(form);
-    layout->addWidget(m_Hint);
     layout->addWidget(m_Plot, 1);
+    layout->addLayout(makeRejectionRow());
 
     connect(m_Attribute, qOverload<int>(&QComboBox::currentIndexChanged), m_Plot,
-            &SelectionMultipleLinePlotWidget::ChangeAttributeID);
-    connect(m_Plot, &SelectionMultipleLinePlotWidget::ItemsRemoved, this, &MatchPlot::dropRejected);
+            &MatchLinesPlot::ShowAttribute);
+    connect(m_Plot, &MatchLinesPlot::AboutToReject, this, &MatchPlot::showRejections);
+    connect(m_Plot, &MatchLinesPlot::PlacesRejected, this, &MatchPlot::reject);
+    showMatches();
+}
+
+QLayout* MatchPlot::makeRejectionRow()
+{
+    m_BringBack->setToolTip(tr("Bring back the matches of the last rejection"));
+    // Enter belongs to the wizard.
+    m_BringBack->setAutoDefault(false);
+    connect(m_BringBack, &QPushButton::clicked, this, &MatchPlot::bringBack);
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_Drawn);
+    row->addSpacing(fontMetrics().averageCharWidth() * 2);
+    row->addWidget(m_Rejected, 1);
+    row->addWidget(m_BringBack);
+    return row;
 }
 
 void MatchPlot::SetMatches(const SearchMatches& matches)
 {
     m_Matches = matches;
-    m_KnownRejections = m_Plot->GetRemovedRanges().size();
-    m_Hint->setVisible(matches.size() > MostLines);
-    m_Plot->ClearLines();
-    addLines();
+    m_Before.clear();
+    showMatches();
+}
+
+void MatchPlot::showMatches()
+{
+    m_Plot->ShowMatches(m_Matches, m_Attribute->GetAttribute());
     m_Plot->SetAlpha(lineOpacity);
+    const QLocale english(QLocale::English, QLocale::UnitedStates);
+    m_Drawn->setText(
+        tr("%1 of %2 drawn")
+            .arg(english.toString(m_Plot->GetLineCount()), english.toString(m_Matches.size())));
+    showRejections(0);
 }
 
-void MatchPlot::addLines()
+void MatchPlot::showRejections(int aboutToReject)
 {
-    const int attribute = m_Attribute->currentIndex();
-    if (attribute == -1)
-        return;
-    const int lines = std::min(m_Matches.size(), MostLines);
-    for (int i = 0; i < lines; ++i) {
-        const RowSpan rows = m_Matches.at(int(qint64(i) * m_Matches.size() / lines)).m_Rows;
-        // With the row at its end, so that also a match of one row shows.
-        m_Plot->AddLine(m_DataSet, attribute, rows.m_From, rows.m_To + 1, Qt::black);
+    const int rejected = m_Before.isEmpty() ? 0 : m_Before.first().size() - m_Matches.size();
+    m_BringBack->setEnabled(rejected > 0);
+    if (aboutToReject > 0)
+        m_Rejected->setText(tr("%1 about to be rejected").arg(aboutToReject));
+    else
+        m_Rejected->setText(rejected > 0 ? tr("%1 rejected").arg(rejected) : QString());
+}
+
+void MatchPlot::reject(const std::vector<int>& places)
+{
+    m_Before.append(m_Matches);
+    SearchMatches left;
+    auto rejected = places.begin();
+    for (int i = 0; i < m_Matches.size(); ++i) {
+        if (rejected != places.end() && *rejected == i)
+            ++rejected;
+        else
+            left.append(m_Matches.at(i));
     }
+    m_Matches = left;
+    showMatches();
+    emit MatchesChanged();
 }
 
-void MatchPlot::dropRejected()
+void MatchPlot::bringBack()
 {
-    QSet<QPair<int, int>> rejected;
-    for (const RowSpan& rows : m_Plot->GetRemovedRanges().mid(m_KnownRejections))
-        rejected.insert({rows.m_From, rows.m_To - 1});
-    const auto isRejected = [&](const SearchMatch& match) {
-        return rejected.contains({match.m_Rows.m_From, match.m_Rows.m_To});
-    };
-    m_Matches.erase(std::remove_if(m_Matches.begin(), m_Matches.end(), isRejected),
-                    m_Matches.end());
-    m_KnownRejections = m_Plot->GetRemovedRanges().size();
-    emit MatchesRejected();
+    if (m_Before.isEmpty())
+        return;
+    m_Matches = m_Before.takeLast();
+    showMatches();
+    emit MatchesChanged();
 }

@@ -3,20 +3,21 @@
 #include "attributebox.h"
 #include "searchmatch.h"
 #include <QGroupBox>
+#include <vector>
 
 class DataSet;
+class MatchLinesPlot;
 class QLabel;
-class SelectionMultipleLinePlotWidget;
+class QLayout;
+class QPushButton;
 
-/// What a search has found, over each other in a plot in which the user can reject matches. Of
-/// very many matches only some are shown, from the first to the last.
+/// What a search has found, over each other in a plot in which the user can reject matches and
+/// bring them back.
 class MatchPlot : public QGroupBox
 {
     Q_OBJECT
 public:
     MatchPlot(const QString& title, DataSet* dataSet, QWidget* parent = nullptr);
-
-    static constexpr int MostLines = 5000;
 
     void SetMatches(const SearchMatches& matches);
     void ShowAttribute(int attribute) { m_Attribute->SetAttribute(attribute); }
@@ -24,18 +25,22 @@ public:
     const SearchMatches& GetMatches() const { return m_Matches; }
 
 signals:
-    /// The user has rejected matches.
-    void MatchesRejected();
+    /// The user has rejected matches, or brought some back.
+    void MatchesChanged();
 
 private:
-    void addLines();
-    void dropRejected();
+    QLayout* makeRejectionRow();
+    void showMatches();
+    void showRejections(int aboutToReject);
+    void reject(const std::vector<int>& places);
+    void bringBack();
 
-    DataSet* m_DataSet;
     SearchMatches m_Matches;
+    // As they were before each rejection.
+    QVector<SearchMatches> m_Before;
     AttributeBox* m_Attribute;
-    QLabel* m_Hint;
-    SelectionMultipleLinePlotWidget* m_Plot;
-    // The plot remembers all spans that were ever rejected in it.
-    int m_KnownRejections = 0;
+    MatchLinesPlot* m_Plot;
+    QLabel* m_Drawn;
+    QLabel* m_Rejected;
+    QPushButton* m_BringBack;
 };

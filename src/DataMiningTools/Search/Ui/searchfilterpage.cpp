@@ -12,7 +12,7 @@ SearchFilterPage::SearchFilterPage(const QString& resultsTitle, DataSet* dataSet
     : QWizardPage(parent), m_Number(new QLabel(tr("No results extracted"))),
       m_Results(new MatchPlot(resultsTitle, dataSet))
 {
-    connect(m_Results, &MatchPlot::MatchesRejected, this, &SearchFilterPage::showNumber);
+    connect(m_Results, &MatchPlot::MatchesChanged, this, &SearchFilterPage::showNumber);
 }
 
 void SearchFilterPage::layOut(QWidget* fields)

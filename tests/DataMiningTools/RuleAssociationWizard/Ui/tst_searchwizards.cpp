@@ -245,7 +245,15 @@ void TestSearchWizards::rejectsMatches()
         });
         // The upper half holds the lines at 9.
         DragMouse(*plot, QPoint(45, 2), QPoint(plot->width() - 5, plot->height() / 2));
+        QCOMPARE(number(wizard), QStringLiteral("2"));
     }
+    ClickButton(&wizard, QStringLiteral("Bring Back"));
+    QCOMPARE(number(wizard), QStringLiteral("4"));
+    QVERIFY(!FindButton(&wizard, QStringLiteral("Bring Back"))->isEnabled());
+    ModalScript script;
+    script.On<QMessageBox>(
+        [](QMessageBox* box) { QTest::mouseClick(box->button(QMessageBox::Yes), Qt::LeftButton); });
+    DragMouse(*plot, QPoint(45, 2), QPoint(plot->width() - 5, plot->height() / 2));
     next(wizard);
     finish(wizard);
     QCOMPARE(ToText(cuts), QStringLiteral("(0,3) R(3,4) (4,9) R(9,10) (10,11)"));
