@@ -337,7 +337,7 @@ CutSegment::SEGMENT_STATE CutCollection::GetStrongestState(int from, int to) con
 bool CutCollection::MergePlain(int from, int to)
 {
     const std::vector<CutSegment*> segments = overlapping(from, to);
-    if (segments.size() < 2)
+    if (segments.size() < 2 || segments.front()->GetFrom() > from || segments.back()->GetTo() < to)
         return false;
     for (size_t i = 0; i < segments.size(); ++i) {
         if (segments[i]->GetState() != CutSegment::SEGMENT_CUT ||

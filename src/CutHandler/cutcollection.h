@@ -113,8 +113,8 @@ public:
     /// By first row; segments with the same one keep their order.
     void Sort();
     /// Makes one segment of the plain ones that share more than an end row with from to to. False,
-    /// and nothing changed, when there are fewer than two, another is among them, or they leave a
-    /// gap.
+    /// and nothing changed, when there are fewer than two, another is among them, or they do not
+    /// hold these rows without a gap.
     bool MergePlain(int from, int to);
     /// The state of the segments that share more than an end row with from to to: labelled where
     /// one is, else a result where one is, else plain.

@@ -51,8 +51,8 @@ void TestInsertMatches::inserts_data()
     QTest::newRow("each other, ends exchanged")
         << "40" << SearchMatches{{{12, 5}}, {{10, 20}}, {{12, 20}}} << false << true
         << QVector<int>{2, 0, 0, 1} << "(0,5) R(5,12) (12,12) R(12,20) (20,40)";
-    QTest::newRow("beyond the rows") << "40" << SearchMatches{{{30, 50}}} << false << true
-                                     << QVector<int>{0, 1, 0, 0} << "(0,40)";
+    QTest::newRow("beyond the rows") << "35 40" << SearchMatches{{{30, 50}}} << false << true
+                                     << QVector<int>{0, 1, 0, 0} << "(0,35) (35,40)";
 }
 
 void TestInsertMatches::inserts()
